@@ -1,0 +1,7 @@
+#include "app/active_document.h"
+
+#include "app/program.h"
+
+HWND ActiveDocument() {
+  return reinterpret_cast<HWND>(SendMessageA(Program.mdiClient, WM_MDIGETACTIVE, 0, 0));
+}

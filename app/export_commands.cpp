@@ -1,0 +1,90 @@
+#include "app/export_commands.h"
+
+#include <cstdio>
+#include <vector>
+
+#include "app/active_document.h"
+#include "app/core/shabbat_export.h"
+#include "app/rtf_options_dialog.h"
+#include "app/string_table.h"
+#include "companion/stamp.h"
+#include "document/properties.h"
+#include "resources/ids.h"
+#include "win/file_sink.h"
+#include "win/save_dialog.h"
+#include "win/scoped.h"
+
+namespace {
+
+std::string TitleOf(HWND document) {
+  const ScopedGlobalLock<const char> city(GetBlockProperty(document, property::kCity));
+  char title[2 * kTextSize];
+  std::snprintf(title, sizeof title, TableString(IDS_TITLE_OF_LOCATION), TableString(IDS_TITLE),
+                city ? city.get() : "");
+  return title;
+}
+
+std::vector<ShabbatTimeEntry> EntriesOf(HWND document) {
+  const ScopedGlobalLock<const ShabbatTimesList> list(GetBlockProperty(document, property::kShabbatTimes));
+  if (!list) return {};
+  return {list->entries, list->entries + list->count};
+}
+
+// Asks for a file and has it written from a copy of the document's times.
+template <typename Writer>
+void ExportShabbatTimes(HWND frame, ExportFormat format, Writer write) {
+  const HWND document = ActiveDocument();
+  const std::vector<ShabbatTimeEntry> entries = EntriesOf(document);
+  const ShabbatExport data{.title = TitleOf(document),
+                           .dateTitle = TableString(IDS_DATE),
+                           .candleTitle = TableString(IDS_CANDLE_LIGHTING),
+                           .endTitle = TableString(IDS_END_OF_SHABBAT),
+                           .entries = entries,
+                           .formatTime = StampConvert,
+                           .amPm = StampIsAmPm() != 0};
+  const auto file = AskForExportFile(frame, format);
+  if (!file) return;
+  bool written = false;
+  {
+    const ScopedWaitCursor wait;
+    FileSink sink(file->c_str());
+    write(sink, data);
+    written = sink.Close();
+  }
+  if (!written) ShowUnwritableFile(frame, *file);
+}
+
+void ExportRtfAs(HWND frame, RtfLayout layout) {
+  if (!CanExport()) return;
+  ExportShabbatTimes(frame, ExportFormat::kRtf,
+                     [layout](TextSink& sink, const ShabbatExport& data) { WriteShabbatRtf(sink, data, layout); });
+}
+
+}  // namespace
+
+bool CanExport() {
+  const HWND document = ActiveDocument();
+  return document && IsWindowVisible(GetDlgItem(document, IDC_LIST_PANE));
+}
+
+void ExportText(HWND frame) {
+  if (CanExport()) ExportShabbatTimes(frame, ExportFormat::kText, WriteShabbatText);
+}
+
+void ExportRtf(HWND frame) {
+  if (!CanExport()) return;
+  const auto layout = RunRtfOptionsDialog(frame);
+  if (!layout) return;
+  switch (*layout) {
+    case RtfLayout::kSameRow: ExportRtfAs(frame, RtfLayout::kSameRow); break;
+    case RtfLayout::kThreeColumns: PostMessageA(frame, WM_COMMAND, IDM_EXPORT_RTF_THREE_COLUMNS, 0); break;
+    case RtfLayout::kTwoColumns: PostMessageA(frame, WM_COMMAND, IDM_EXPORT_RTF_TWO_COLUMNS, 0); break;
+  }
+}
+
+void ExportRtfInThreeColumns(HWND frame) {
+  ExportRtfAs(frame, RtfLayout::kThreeColumns);
+}
+void ExportRtfInTwoColumns(HWND frame) {
+  ExportRtfAs(frame, RtfLayout::kTwoColumns);
+}

@@ -1,0 +1,175 @@
+#include "app/frame_commands.h"
+
+#include <cstring>
+
+#include "app/about_box.h"
+#include "app/active_document.h"
+#include "app/export_commands.h"
+#include "app/open_document.h"
+#include "app/program.h"
+#include "companion/candles.h"
+#include "companion/guide.h"
+#include "companion/hours.h"
+#include "companion/placepick.h"
+#include "companion/stamp.h"
+#include "engine/current.h"
+#include "engine/preferences_dialog.h"
+#include "engine/range_dialog.h"
+#include "engine/settings_flags.h"
+#include "engine/sunset_dialog.h"
+#include "locations/location_lookup.h"
+#include "locations/location_manager.h"
+#include "resources/ids.h"
+#include "win/message_box.h"
+
+namespace {
+
+struct FrameCommand {
+  unsigned id;
+  void (*run)(HWND frame);
+};
+
+void RedrawEverything(HWND frame) {
+  RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+template <bool hebrew>
+void NameZmanim(HWND frame) {
+  if (!SetZmanimInHebrew(hebrew)) ShowUnwritableSettings(frame, kFlagsFile);
+  RedrawEverything(frame);
+}
+
+// What a button of the active document's toolbar does.
+template <unsigned button>
+void PressButton(HWND) {
+  if (const HWND document = ActiveDocument()) SendMessageA(document, WM_COMMAND, button, 0);
+}
+
+// A name that is found nowhere keeps the numbers that the search read last.
+void SelectLocation(HWND frame) {
+  char name[kTextSize];
+  std::strcpy(name, CurrentLocation.name);
+  if (!PlacePickSelectLocation(frame, name)) return;
+  std::strcpy(CurrentLocation.name, name);
+  LookUpLocation(CurrentLocation);
+  ApplyCandleOverrideRule();
+  OpenAndCompute(frame);
+}
+
+void SelectRange(HWND frame) {
+  if (RunRangeDialog(frame)) OpenAndCompute(frame);
+}
+
+void ChangePreferences(HWND frame) {
+  if (RunPreferencesDialog(frame)) OpenAndCompute(frame);
+}
+
+void ShowSunsetOfADay(HWND frame) {
+  RunSunsetDialog(frame, ActiveDocument());
+}
+
+void ManageLocations(HWND frame) {
+  if (RunLocationManager(frame, ActiveDocument())) OpenAndCompute(frame);
+}
+
+// The zmanim in use have changed.
+void RenewZmanim(HWND frame) {
+  Program.zmanimCount = HoursGetCount();
+  ApplyCandleOverrideRule();
+  OpenAndCompute(frame);
+}
+
+void ToggleBuiltInZmanim(HWND frame) {
+  if (SetZmanimEnabled(!ZmanimEnabled())) {
+    RenewZmanim(frame);
+  } else {
+    ShowUnwritableSettings(frame, kFlagsFile);
+  }
+}
+
+// Deliberate: a document is opened whatever the dialog's outcome.
+void ChangeCustomTimes(HWND frame) {
+  CandlesDoDialog(frame);
+  OpenAndCompute(frame);
+}
+
+void ChangeFormOfTimes(HWND frame) {
+  if (StampConfigure(frame)) RedrawEverything(frame);
+}
+
+void ShowHelp(HWND frame) {
+  GuideGo(frame, "Start");
+}
+void ShowZmanimHelp(HWND frame) {
+  GuideGo(frame, "Zmanim");
+}
+
+void Exit(HWND frame) {
+  PostMessageA(frame, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+void Cascade(HWND) {
+  SendMessageA(Program.mdiClient, WM_MDICASCADE, 0, 0);
+}
+void TileVertically(HWND) {
+  SendMessageA(Program.mdiClient, WM_MDITILE, MDITILE_VERTICAL, 0);
+}
+void TileHorizontally(HWND) {
+  SendMessageA(Program.mdiClient, WM_MDITILE, MDITILE_HORIZONTAL, 0);
+}
+void ArrangeIcons(HWND) {
+  SendMessageA(Program.mdiClient, WM_MDIICONARRANGE, 0, 0);
+}
+
+void CloseAll(HWND) {
+  while (const HWND top = GetWindow(Program.mdiClient, GW_CHILD)) {
+    SendMessageA(Program.mdiClient, WM_MDIDESTROY, reinterpret_cast<WPARAM>(top), 0);
+    if (IsWindow(top)) break;
+  }
+}
+
+constexpr FrameCommand kFrameCommands[] = {
+    {IDM_SELECT_LOCATION, SelectLocation},
+    {IDM_SELECT_RANGE, SelectRange},
+    {IDM_PREFERENCES, ChangePreferences},
+    {IDM_SUNSET_OF_A_DAY, ShowSunsetOfADay},
+    {IDM_EXPORT_TEXT, ExportText},
+    {IDM_EXPORT_RTF, ExportRtf},
+    {IDM_EXIT, Exit},
+    {IDM_CUSTOM_CANDLES, ChangeCustomTimes},
+    {IDM_TIME_FORM, ChangeFormOfTimes},
+    {IDM_ZMANIM_HEBREW, NameZmanim<true>},
+    {IDM_ZMANIM_ENGLISH, NameZmanim<false>},
+    {IDM_EXPORT_RTF_THREE_COLUMNS, ExportRtfInThreeColumns},
+    {IDM_EXPORT_RTF_TWO_COLUMNS, ExportRtfInTwoColumns},
+    {IDM_LOCATION_MANAGER, ManageLocations},
+    {IDM_BUILT_IN_ZMANIM, ToggleBuiltInZmanim},
+    {IDM_VIEW_SHABBAT_TIMES, PressButton<IDB_SHABBAT_TIMES>},
+    {IDM_VIEW_ZMANIM, PressButton<IDB_ZMANIM>},
+    {IDM_VIEW_READINGS, PressButton<IDB_READINGS>},
+    {IDM_WINDOW_CASCADE, Cascade},
+    {IDM_WINDOW_TILE_VERTICALLY, TileVertically},
+    {IDM_WINDOW_TILE, TileHorizontally},
+    {IDM_WINDOW_ARRANGE_ICONS, ArrangeIcons},
+    {IDM_WINDOW_CLOSE_ALL, CloseAll},
+    {IDM_HELP, ShowHelp},
+    {IDM_HELP_ZMANIM, ShowZmanimHelp},
+    {IDM_ABOUT, RunAboutBox},
+};
+
+const FrameCommand* FindCommand(unsigned id) {
+  for (const FrameCommand& command : kFrameCommands) {
+    if (command.id == id) return &command;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+bool IsFrameCommand(unsigned id) {
+  return FindCommand(id) != nullptr;
+}
+
+void RunFrameCommand(HWND frame, unsigned id) {
+  if (const FrameCommand* command = FindCommand(id)) command->run(frame);
+}

@@ -1,0 +1,74 @@
+#include "app/menu_update.h"
+
+#include <initializer_list>
+
+#include "app/active_document.h"
+#include "app/export_commands.h"
+#include "app/frame_commands.h"
+#include "app/program.h"
+#include "document/document_window.h"
+#include "engine/settings_flags.h"
+#include "resources/ids.h"
+
+namespace {
+
+void Enable(HMENU menu, unsigned id, bool enabled) {
+  EnableMenuItem(menu, id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+}
+
+void Check(HMENU menu, unsigned id, bool checked) {
+  CheckMenuItem(menu, id, MF_BYCOMMAND | (checked ? MF_CHECKED : MF_UNCHECKED));
+}
+
+bool IsPaneVisible(HWND document, int pane) {
+  return IsWindowVisible(GetDlgItem(document, pane)) != FALSE;
+}
+
+void UpdateDocumentCommands(HMENU menu, HWND document) {
+  for (const unsigned id :
+       {IDM_SUNSET_OF_A_DAY, IDM_EXPORT_UNUSED, IDM_VIEW_SHABBAT_TIMES, IDM_VIEW_ZMANIM, IDM_VIEW_READINGS,
+        IDM_WINDOW_CASCADE, IDM_WINDOW_TILE_VERTICALLY, IDM_WINDOW_TILE, IDM_WINDOW_CLOSE_ALL}) {
+    Enable(menu, id, document != nullptr);
+  }
+  Enable(menu, IDM_EXPORT_TEXT, CanExport());
+  Enable(menu, IDM_EXPORT_RTF, CanExport());
+  if (!document) return;
+  Enable(menu, IDM_PRINT, !IsPaneVisible(document, IDC_LIST_PANE) && !IsPaneVisible(document, IDC_READINGS_PANE));
+}
+
+void UpdateViewMarks(HMENU menu, HWND document) {
+  Check(menu, IDM_VIEW_SHABBAT_TIMES, document && IsPaneVisible(document, IDC_LIST_PANE));
+  Check(menu, IDM_VIEW_ZMANIM, document && IsPaneVisible(document, IDC_ZMANIM_PANE));
+  Check(menu, IDM_VIEW_READINGS, document && IsPaneVisible(document, IDC_READINGS_PANE));
+}
+
+// Commands that the frame cannot carry out are grey whatever else holds, so that none is silent. Items from the first
+// document's id upward are the list of documents, which the system looks after.
+void GreyIdleCommands(HMENU menu) {
+  const int count = GetMenuItemCount(menu);
+  for (int position = 0; position < count; ++position) {
+    if (const HMENU submenu = GetSubMenu(menu, position)) {
+      GreyIdleCommands(submenu);
+      continue;
+    }
+    const UINT id = GetMenuItemID(menu, position);
+    const bool ours = id >= IDM_SELECT_LOCATION && id <= IDM_ABOUT;
+    const bool listsDocument = id >= IDM_FIRST_DOCUMENT && id < IDM_HELP;
+    if (ours && !listsDocument && !IsFrameCommand(id)) Enable(menu, id, false);
+  }
+}
+
+}  // namespace
+
+void UpdateMenus(HWND frame) {
+  const HMENU menu = GetMenu(frame);
+  const HWND document = ActiveDocument();
+  UpdateDocumentCommands(menu, document);
+  Enable(menu, IDM_WINDOW_ARRANGE_ICONS, HasMinimisedDocument(Program.mdiClient));
+  UpdateViewMarks(menu, document);
+  const bool hebrew = ZmanimInHebrew();
+  Check(menu, IDM_ZMANIM_HEBREW, hebrew);
+  Check(menu, IDM_ZMANIM_ENGLISH, !hebrew);
+  Check(menu, IDM_BUILT_IN_ZMANIM, !ZmanimEnabled());
+  GreyIdleCommands(menu);
+}

@@ -1,0 +1,41 @@
+/* profile.dll: INI files, with the semantics of the system's own private-profile calls.
+ *
+ * A file given by bare name lives in the program's settings folder; a name with a path is used as it stands. Texts are
+ * 8-bit bytes and pass through unchanged; a file saved as UTF-16 is read as text of the code page. Section and key
+ * names are compared without regard to ASCII letter case; blanks around names and values mean nothing; of several
+ * sections or keys of a name the first counts. Own writes are seen at once, those of other processes after at most
+ * 50 ms; a file that cannot be read answers the defaults, or what was last seen of it. Writes are atomic and serialised
+ * between processes. No operation shows a window. */
+#ifndef TIMES_READINGS_COMPANION_PROFILE_H
+#define TIMES_READINGS_COMPANION_PROFILE_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* The integer value of a key: an optional sign, then decimal digits, or hexadecimal ones after 0x, octal after 0o,
+ * binary after 0b, up to the first other character; text that does not start with a number is 0, and a number past 32
+ * bits keeps its low 32. The default when the key is missing or its value is empty. */
+int32_t ProfileGetInt(const char* section, const char* key, int32_t defaultValue, const char* file);
+
+/* The text of a key into buffer (size bytes, terminator included), cut to size - 1 bytes; one pair of enclosing quotes
+ * is taken off. A missing key answers the default without its trailing blanks (null: empty). A null key lists
+ * the section's keys, a null section the file's sections, each zero-terminated, with one more zero at the end; a list
+ * that does not fit is cut and ends in two zeros. Answers the number of bytes copied without the (last) terminator; for
+ * a cut text size - 1, for a cut list size - 2. */
+uint32_t ProfileGetString(const char* section, const char* key, const char* defaultValue, char* buffer, uint32_t size,
+                          const char* file);
+
+/* Writes a key; a null value deletes the key, a null key deletes the section; what is not there counts as deleted.
+ * Comments, order and unknown lines of the file survive. Nonzero when the file holds what was asked; on failure 0, and
+ * the file is as it was. Besides failures of the disk, this is so for a null section and for what could not be read
+ * back: an empty name, a key with "=" in it or with ";" or "[" at its start, an end of line within a text. */
+int32_t ProfileWriteString(const char* section, const char* key, const char* value, const char* file);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,57 @@
+#include "document/properties.h"
+
+#include <initializer_list>
+
+void SetIntegerProperty(HWND window, const char* name, int32_t value) {
+  SetPropA(window, name, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(value)));
+}
+
+int32_t GetIntegerProperty(HWND window, const char* name) {
+  return static_cast<int32_t>(reinterpret_cast<INT_PTR>(GetPropA(window, name)));
+}
+
+void SetRangeProperties(HWND window, const DateRange& range) {
+  SetIntegerProperty(window, property::kStartDay, static_cast<int32_t>(range.start.uDay));
+  SetIntegerProperty(window, property::kStartMonth, static_cast<int32_t>(range.start.uMonth));
+  SetIntegerProperty(window, property::kStartYear, static_cast<int32_t>(range.start.uYear));
+  SetIntegerProperty(window, property::kEndDay, static_cast<int32_t>(range.end.uDay));
+  SetIntegerProperty(window, property::kEndMonth, static_cast<int32_t>(range.end.uMonth));
+  SetIntegerProperty(window, property::kEndYear, static_cast<int32_t>(range.end.uYear));
+}
+
+DateRange GetRangeProperties(HWND window) {
+  const auto get = [window](const char* name) { return static_cast<uint32_t>(GetIntegerProperty(window, name)); };
+  return {{get(property::kStartDay), get(property::kStartMonth), get(property::kStartYear)},
+          {get(property::kEndDay), get(property::kEndMonth), get(property::kEndYear)}};
+}
+
+void RemoveRangeProperties(HWND window) {
+  for (const char* name : {property::kStartDay, property::kStartMonth, property::kStartYear, property::kEndDay,
+                           property::kEndMonth, property::kEndYear}) {
+    RemovePropA(window, name);
+  }
+}
+
+HGLOBAL GetBlockProperty(HWND window, const char* name) {
+  return GetPropA(window, name);
+}
+
+void ReplaceBlockProperty(HWND window, const char* name, HGLOBAL block) {
+  const HGLOBAL old = GetBlockProperty(window, name);
+  SetPropA(window, name, block);
+  if (old) GlobalFree(old);
+}
+
+void FreeBlockProperty(HWND window, const char* name) {
+  const HGLOBAL block = RemovePropA(window, name);
+  if (block) GlobalFree(block);
+}
+
+HFONT GetFontProperty(HWND window, const char* name) {
+  return static_cast<HFONT>(GetPropA(window, name));
+}
+
+void DeleteFontProperty(HWND window, const char* name) {
+  const HANDLE font = RemovePropA(window, name);
+  if (font) DeleteObject(font);
+}

@@ -1,0 +1,157 @@
+#include <cstring>
+#include <optional>
+
+#include "companion/glyphs.h"
+#include "companion/stamp.h"
+#include "document/core/list_scroll.h"
+#include "document/core/shabbat_geometry.h"
+#include "document/properties.h"
+#include "document/shabbat_panes.h"
+#include "engine/core/records.h"
+#include "output/date_text.h"
+#include "resources/ids.h"
+#include "win/scoped.h"
+#include "win/text_metrics.h"
+
+namespace {
+
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+
+ShabbatListGeometry GeometryOf(HWND pane, int lineHeight) {
+  RECT client;
+  GetClientRect(pane, &client);
+  return {client.right, client.bottom, lineHeight};
+}
+
+ShabbatListGeometry GeometryOf(HWND pane) {
+  return GeometryOf(pane, MeasureFontOnDisplay(GetFontProperty(GetParent(pane), property::kFont)).lineHeight);
+}
+
+void DrawCell(HDC dc, int x, int y, const char* text) {
+  GlyphsTextOut(dc, x, y, text, static_cast<int>(std::strlen(text)));
+}
+
+void DrawTime(HDC dc, int x, int y, uint32_t hour, uint32_t minute) {
+  char text[STAMP_TEXT_SIZE];
+  StampConvert(static_cast<int32_t>(hour), static_cast<int32_t>(minute), text);
+  DrawCell(dc, x, y, text);
+}
+
+void DrawEntry(HDC dc, const ShabbatListGeometry& geometry, int line, const ShabbatTimeEntry& entry) {
+  const int y = geometry.LineY(line);
+  DrawCell(dc, geometry.ColumnX(0), y, DateText({entry.day, entry.month, entry.year}).c_str());
+  DrawTime(dc, geometry.ColumnX(1), y, entry.candleHour, entry.candleMinute);
+  DrawTime(dc, geometry.ColumnX(2), y, entry.endHour, entry.endMinute);
+}
+
+void PaintList(HWND pane, HDC dc) {
+  const HWND document = GetParent(pane);
+  const HFONT font = GetFontProperty(document, property::kFont);
+  const ShabbatListGeometry geometry = GeometryOf(pane, MeasureFont(dc, font).lineHeight);
+  const ScopedSelect selectedFont(dc, font);
+  const ScopedTextColors colors(dc, kBlack, kWhite);
+  const ScopedGlobalLock<const ShabbatTimesList> list(GetBlockProperty(document, property::kShabbatTimes));
+  if (!list) return;
+  const uint32_t first = static_cast<uint32_t>(GetScrollPos(pane, SB_VERT));
+  for (uint32_t i = first; i < list->count; ++i) {
+    const int line = static_cast<int>(i - first);
+    if (!geometry.IsLineDrawn(line)) break;
+    DrawEntry(dc, geometry, line, list->entries[i]);
+  }
+}
+
+LRESULT OnPaint(HWND pane) {
+  const ScopedPaint paint(pane);
+  PaintList(pane, paint.dc());
+  return 0;
+}
+
+// The titles stand over the columns, which move when the scroll bar comes or goes.
+LRESULT OnSize(HWND pane) {
+  SetListPaneScrollRange(pane);
+  InvalidateRect(GetDlgItem(GetParent(pane), IDC_HEADER_PANE), nullptr, TRUE);
+  return 0;
+}
+
+std::optional<ScrollRequest> RequestOf(int code) {
+  switch (code) {
+    case SB_LINEUP: return ScrollRequest::kLineUp;
+    case SB_LINEDOWN: return ScrollRequest::kLineDown;
+    case SB_PAGEUP: return ScrollRequest::kPageUp;
+    case SB_PAGEDOWN: return ScrollRequest::kPageDown;
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK: return ScrollRequest::kThumb;
+    case SB_TOP: return ScrollRequest::kTop;
+    case SB_BOTTOM: return ScrollRequest::kBottom;
+  }
+  return std::nullopt;
+}
+
+ScrollState ScrollStateOf(HWND pane) {
+  ScrollState state{};
+  state.position = GetScrollPos(pane, SB_VERT);
+  GetScrollRange(pane, SB_VERT, &state.minimum, &state.maximum);
+  return state;
+}
+
+LRESULT OnVerticalScroll(HWND pane, int code, int thumb) {
+  const std::optional<ScrollRequest> request = RequestOf(code);
+  if (!request) return 0;
+  const ShabbatListGeometry geometry = GeometryOf(pane);
+  ScrollState state = ScrollStateOf(pane);
+  state.page = geometry.WholeLines();
+  state.thumb = thumb;
+  const int position = ScrolledPosition(*request, state);
+  if (position == state.position) return 0;
+  ScrollWindow(pane, 0, (state.position - position) * geometry.lineHeight, nullptr, nullptr);
+  SetScrollPos(pane, SB_VERT, position, TRUE);
+  UpdateWindow(pane);
+  return 0;
+}
+
+LRESULT OnMouseWheel(HWND pane, int16_t delta) {
+  if (!IsWheelDelta(delta)) return 0;
+  SetScrollPos(pane, SB_VERT, WheeledPosition(delta, ScrollStateOf(pane)), TRUE);
+  InvalidateRect(pane, nullptr, TRUE);
+  return 0;
+}
+
+struct ScrollKey {
+  WPARAM key;
+  int code;
+};
+
+constexpr ScrollKey kScrollKeys[] = {
+    {VK_PRIOR, SB_PAGEUP}, {VK_NEXT, SB_PAGEDOWN}, {VK_END, SB_BOTTOM},
+    {VK_HOME, SB_TOP},     {VK_UP, SB_LINEUP},     {VK_DOWN, SB_LINEDOWN},
+};
+
+LRESULT OnKeyDown(HWND pane, WPARAM key) {
+  for (const ScrollKey& row : kScrollKeys) {
+    if (row.key == key) SendMessageA(pane, WM_VSCROLL, MAKEWPARAM(row.code, 0), 0);
+  }
+  return 0;
+}
+
+}  // namespace
+
+LRESULT CALLBACK ShabbatListPaneProc(HWND pane, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_PAINT: return OnPaint(pane);
+    case WM_SIZE: return OnSize(pane);
+    case WM_VSCROLL: return OnVerticalScroll(pane, LOWORD(wParam), HIWORD(wParam));
+    case WM_KEYDOWN: return OnKeyDown(pane, wParam);
+    case WM_MOUSEWHEEL: return OnMouseWheel(pane, static_cast<int16_t>(HIWORD(wParam)));
+  }
+  return DefWindowProcA(pane, message, wParam, lParam);
+}
+
+void SetListPaneScrollRange(HWND listPane) {
+  const ScopedGlobalLock<const ShabbatTimesList> list(GetBlockProperty(GetParent(listPane), property::kShabbatTimes));
+  const int last = list ? LastScrollPosition(list->count, GeometryOf(listPane).WholeLines()) : 0;
+  const int position = GetScrollPos(listPane, SB_VERT);
+  SetScrollPos(listPane, SB_VERT, 0, FALSE);
+  SetScrollRange(listPane, SB_VERT, 0, last, FALSE);
+  SetScrollPos(listPane, SB_VERT, position < last ? position : last, TRUE);
+}

@@ -1,0 +1,67 @@
+#include "engine/core/shabbat_rules.h"
+
+namespace {
+
+constexpr int64_t kMinutesPerHour = 60;
+constexpr int64_t kHoursPerDay = 24;
+
+ClockTime Narrow(int64_t hour, int64_t minute) {
+  return {static_cast<int32_t>(hour), static_cast<int32_t>(minute)};
+}
+
+}  // namespace
+
+FridayCount CountFridays(int32_t firstDay, int32_t lastDay) {
+  FridayCount fridays{0, lastDay, false};
+  for (int64_t day = firstDay; day <= lastDay; ++day) {
+    if (!IsFriday(day)) continue;
+    if (++fridays.count > kMostFridays) {
+      fridays.lastDay = static_cast<int32_t>(day);
+      fridays.tooMany = true;
+      break;
+    }
+  }
+  return fridays;
+}
+
+CandleOverrideRecord CandleOverrideFor(std::string_view locationName) {
+  if (locationName == "Jerusalem") return {false, kJerusalemCandleMinutes};
+  return {true, 0};
+}
+
+ClockTime CandleLightingTime(ClockTime sunset, int32_t minutesBefore) {
+  int64_t hour = sunset.hour;
+  int64_t minute = int64_t{sunset.minute} - minutesBefore;
+  if (minute < 0) {
+    const int64_t borrowed = (-minute + kMinutesPerHour - 1) / kMinutesPerHour;
+    minute += borrowed * kMinutesPerHour;
+    hour -= borrowed;
+    if (hour < 0) hour = (hour % kHoursPerDay + kHoursPerDay) % kHoursPerDay;
+  }
+  return Narrow(hour, minute);
+}
+
+ClockTime EndOfShabbatTime(ClockTime sunset, int32_t minutesAfter) {
+  int64_t hour = sunset.hour;
+  int64_t minute = int64_t{sunset.minute} + minutesAfter;
+  // Every carry takes at most one day off; under 24 the remaining carries can be counted at once.
+  while (minute >= kMinutesPerHour && hour >= kHoursPerDay) {
+    minute -= kMinutesPerHour;
+    hour += 1 - kHoursPerDay;
+  }
+  if (minute >= kMinutesPerHour) {
+    hour = (hour + minute / kMinutesPerHour) % kHoursPerDay;
+    minute %= kMinutesPerHour;
+  }
+  return Narrow(hour, minute);
+}
+
+ClockTime AddTwilightInterval(ClockTime sunset, ClockTime interval) {
+  int64_t hour = int64_t{sunset.hour} + interval.hour;
+  int64_t minute = int64_t{sunset.minute} + interval.minute;
+  if (minute >= kMinutesPerHour) {
+    hour += minute / kMinutesPerHour;
+    minute %= kMinutesPerHour;
+  }
+  return Narrow(hour, minute);
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <windows.h>
+
+// The Shabbat time preferences; true when they were saved.
+bool RunPreferencesDialog(HWND owner);

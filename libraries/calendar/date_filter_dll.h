@@ -1,0 +1,14 @@
+// The entry points of companion/datefilter.h are compiled into each filter library from date_filter_dll.cpp; the
+// library itself says here which calendar it is.
+#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_DATE_FILTER_DLL_H
+#define TIMES_READINGS_LIBRARIES_CALENDAR_DATE_FILTER_DLL_H
+
+#include "libraries/calendar/date_filter.h"
+
+namespace calendar {
+
+const DateFilter& FilterOfThisLibrary();
+
+}  // namespace calendar
+
+#endif

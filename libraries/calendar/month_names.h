@@ -1,0 +1,22 @@
+// The months' names in the languages of the exports.
+#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_MONTH_NAMES_H
+#define TIMES_READINGS_LIBRARIES_CALENDAR_MONTH_NAMES_H
+
+#include <cstdint>
+
+namespace calendar {
+
+// Languages are numbered: 1 English, 3 German, 5 French, 6 Danish, 7 Finnish, 8 Swedish, 9 Dutch, 10 Spanish,
+// 11 Norwegian, 12 Portuguese, 14 Hungarian, 20 Italian, 21 Polish; any other number answers English. Names are in
+// windows-1252, Hungarian and Polish ones in windows-1250. A month that the year does not have answers an empty text;
+// never null.
+constexpr uint32_t kEnglish = 1;
+
+const char* GregorianMonthName(int32_t month, int32_t year, uint32_t language);
+
+// Month 12 is Adar in a common year and Adar I in a leap year.
+const char* JewishMonthName(int32_t month, int32_t year, uint32_t language);
+
+}  // namespace calendar
+
+#endif

@@ -1,0 +1,17 @@
+/* The library's dialogs and their controls. */
+#ifndef TIMES_READINGS_LIBRARIES_CANDLES_CANDLES_IDS_H
+#define TIMES_READINGS_LIBRARIES_CANDLES_CANDLES_IDS_H
+
+#define IDD_CANDLES 100
+#define IDC_TIMES 101
+#define IDC_ADD 102
+#define IDC_CHANGE 103
+#define IDC_REMOVE 104
+
+#define IDD_ENTRY 200
+#define IDC_PLACE 201
+#define IDC_FRIDAY 202
+#define IDC_CANDLE_TIME 203
+#define IDC_END_TIME 204
+
+#endif

@@ -1,0 +1,37 @@
+#include "libraries/guide/guide_core.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace guide {
+namespace {
+
+constexpr Topic kTopics[] = {
+    {"Start", "index.html"},   {"Shabbat times", "shabbat_times.html"},
+    {"Places", "places.html"}, {"Accuracy", "accuracy.html"},
+    {"Zmanim", "zmanim.html"},
+};
+
+char LowerCase(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+}  // namespace
+
+std::span<const Topic> Topics() {
+  return kTopics;
+}
+
+const Topic& TopicNamed(std::string_view name) {
+  const auto topic = std::ranges::find_if(
+      kTopics, [name](const Topic& t) { return std::ranges::equal(t.name, name, {}, LowerCase, LowerCase); });
+  return topic == std::end(kTopics) ? kTopics[0] : *topic;
+}
+
+HelpPage PageOf(std::string_view topicName, const std::filesystem::path& programFolder) {
+  const std::filesystem::path file = programFolder / "help" / TopicNamed(topicName).page;
+  std::error_code unreadable;
+  return {file, std::filesystem::is_regular_file(file, unreadable)};
+}
+
+}  // namespace guide

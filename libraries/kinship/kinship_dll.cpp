@@ -1,0 +1,5 @@
+#include "companion/kinship.h"
+
+// The library has no window yet, so there is nothing to prepare and nothing to release.
+void KinshipInit(void) {}
+void KinshipDone(void) {}

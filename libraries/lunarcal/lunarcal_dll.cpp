@@ -1,0 +1,5 @@
+#include "libraries/calendar/date_filter_dll.h"
+
+const calendar::DateFilter& calendar::FilterOfThisLibrary() {
+  return jewishFilter;
+}

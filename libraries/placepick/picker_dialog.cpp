@@ -1,0 +1,347 @@
+#include "libraries/placepick/picker_dialog.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "companion/profile.h"
+#include "libraries/placepick/picker_ids.h"
+#include "libraries/placepick/resizable_dialog.h"
+#include "libraries/settings_folder/settings_folder_win.h"
+
+namespace placepick {
+namespace {
+
+constexpr char kStartFile[] = "almanac13.ini";
+constexpr char kStartSection[] = "Preferences";
+constexpr char kStartKey[] = "DefaultLocation";
+constexpr wchar_t kCaption[] = L"Times / Readings";
+
+constexpr Anchor kAnchors[] = {
+    {IDC_TYPED, Follow::Grow, Follow::No},    {IDC_COUNT, Follow::Grow, Follow::No},
+    {IDC_PLACES, Follow::Grow, Follow::Grow}, {IDC_START, Follow::Grow, Follow::Move},
+    {IDOK, Follow::Move, Follow::Move},       {IDCANCEL, Follow::Move, Follow::Move},
+};
+
+std::wstring Wide(std::string_view text) {
+  const std::u16string wide = FromWindows1252(text);
+  return {wide.begin(), wide.end()};
+}
+
+std::wstring NameOf(const Place& place) {
+  return Wide(place.name);
+}
+std::wstring LatitudeOf(const Place& place) {
+  return Wide(LatitudeText(place.packedLatitude));
+}
+std::wstring LongitudeOf(const Place& place) {
+  return Wide(LongitudeText(place.packedLongitude));
+}
+std::wstring ZoneOf(const Place& place) {
+  return Wide(ZoneText(place.zoneHours, place.zoneMinutes));
+}
+std::wstring KindOf(const Place& place) {
+  return place.isUsersOwn ? L"your own" : L"";
+}
+
+// The first column takes the width that the others leave; they are as wide as their sample.
+struct Column {
+  const wchar_t* heading;
+  const wchar_t* sample;
+  int format;
+  std::wstring (*text)(const Place&);
+};
+constexpr Column kColumns[] = {
+    {L"Name", L"", LVCFMT_LEFT, NameOf},
+    {L"Latitude", L"88\u00B088' N", LVCFMT_RIGHT, LatitudeOf},
+    {L"Longitude", L"188\u00B088' W", LVCFMT_RIGHT, LongitudeOf},
+    {L"Time zone", L"GMT+88:88", LVCFMT_LEFT, ZoneOf},
+    {L"Kind", L"your own", LVCFMT_LEFT, KindOf},
+};
+
+// Keys that move the selection of the list while the user types in the edit.
+bool MovesSelection(WPARAM key) {
+  constexpr WPARAM kKeys[] = {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END};
+  if (GetKeyState(VK_SHIFT) < 0 || GetKeyState(VK_CONTROL) < 0) return false;
+  return std::ranges::find(kKeys, key) != std::end(kKeys);
+}
+
+// The edit gives such keys, and the wheel, to the list.
+LRESULT CALLBACK TypedProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR list) {
+  if ((message == WM_KEYDOWN && MovesSelection(wParam)) || message == WM_MOUSEWHEEL) {
+    return SendMessageW(reinterpret_cast<HWND>(list), message, wParam, lParam);
+  }
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(edit, TypedProc, id);
+  return DefSubclassProc(edit, message, wParam, lParam);
+}
+
+HINSTANCE OwnModule() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                     reinterpret_cast<LPCWSTR>(&OwnModule), &module);
+  return module;
+}
+
+class PickerDialog {
+ public:
+  PickerDialog(const PlaceIndex& places, std::string_view currentName)
+      : places_(places), current_(places.Named(currentName)) {}
+
+  std::optional<std::size_t> Run(HWND owner);
+
+ private:
+  static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+  INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+  INT_PTR OnInitDialog();
+  INT_PTR OnSize();
+  INT_PTR OnCommand(int control, int notification);
+  INT_PTR OnNotify(NMHDR& header);
+  void OnGetDisplayInfo(NMLVDISPINFOW& info) const;
+  int OnFindItem(const NMLVFINDITEMW& find) const;
+  LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
+
+  void AddColumns() const;
+  void FitColumns() const;
+  void Search();
+  void Select(std::size_t row) const;
+  std::optional<std::size_t> SelectedPlace() const;
+  bool IsStartPlace(const Place& place) const { return place.name == startPlace_; }
+  void ShowSelection() const;
+  void Accept();
+  void KeepStartPlace(const Place& place) const;
+
+  HWND Control(int id) const { return GetDlgItem(dialog_, id); }
+  LRESULT SendList(UINT message, WPARAM wParam, LPARAM lParam) const {
+    return SendDlgItemMessageW(dialog_, IDC_PLACES, message, wParam, lParam);
+  }
+
+  const PlaceIndex& places_;
+  const std::optional<std::size_t> current_;
+  std::string startPlace_;           // the place that is kept for the start; empty when there is none
+  std::optional<bool> startChoice_;  // what the user has made of the check box; none: it follows the selection
+  std::vector<std::size_t> rows_;    // the numbers of the places in the list
+  std::optional<std::size_t> picked_;
+  HWND dialog_ = nullptr;
+  ResizableDialog size_;
+};
+
+std::optional<std::size_t> PickerDialog::Run(HWND owner) {
+  const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_LISTVIEW_CLASSES};
+  InitCommonControlsEx(&classes);
+  std::array<char, kNameSize> start = {};
+  ProfileGetString(kStartSection, kStartKey, "", start.data(), static_cast<uint32_t>(start.size()), kStartFile);
+  startPlace_ = start.data();
+  DialogBoxParamW(OwnModule(), MAKEINTRESOURCEW(IDD_PICKER), owner, DialogProc, reinterpret_cast<LPARAM>(this));
+  return picked_;
+}
+
+INT_PTR CALLBACK PickerDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
+    reinterpret_cast<PickerDialog*>(lParam)->dialog_ = dialog;
+  }
+  auto* const self = reinterpret_cast<PickerDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
+  if (!self) return FALSE;
+  try {
+    return self->Handle(message, wParam, lParam);
+  } catch (...) {  // out of memory; nothing may leave through the system's calls
+    self->picked_.reset();
+    EndDialog(dialog, IDCANCEL);
+    return FALSE;
+  }
+}
+
+INT_PTR PickerDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_INITDIALOG: return OnInitDialog();
+    case WM_SIZE: return OnSize();
+    case WM_GETMINMAXINFO: size_.LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam)); return TRUE;
+    case WM_EXITSIZEMOVE: size_.KeepSize(); return TRUE;
+    case WM_COMMAND: return OnCommand(LOWORD(wParam), HIWORD(wParam));
+    case WM_NOTIFY: return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
+  }
+  return FALSE;
+}
+
+INT_PTR PickerDialog::OnInitDialog() {
+  constexpr DWORD kListStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+  SendList(LVM_SETEXTENDEDLISTVIEWSTYLE, kListStyle, kListStyle);
+  AddColumns();
+  size_.Start(dialog_, kAnchors);
+  OnSize();
+  SendDlgItemMessageW(dialog_, IDC_TYPED, EM_LIMITTEXT, kNameSize - 1, 0);
+  SetWindowSubclass(Control(IDC_TYPED), TypedProc, IDC_TYPED, reinterpret_cast<DWORD_PTR>(Control(IDC_PLACES)));
+  Search();
+  return TRUE;
+}
+
+INT_PTR PickerDialog::OnSize() {
+  size_.ArrangeControls();
+  FitColumns();
+  return TRUE;
+}
+
+INT_PTR PickerDialog::OnCommand(int control, int notification) {
+  switch (control) {
+    case IDOK: Accept(); return TRUE;
+    case IDCANCEL: EndDialog(dialog_, IDCANCEL); return TRUE;
+    case IDC_TYPED:
+      if (notification == EN_CHANGE) Search();
+      return TRUE;
+    case IDC_START:
+      if (notification == BN_CLICKED) startChoice_ = IsDlgButtonChecked(dialog_, IDC_START) == BST_CHECKED;
+      return TRUE;
+  }
+  return FALSE;
+}
+
+INT_PTR PickerDialog::OnNotify(NMHDR& header) {
+  if (header.idFrom != IDC_PLACES) return FALSE;
+  switch (header.code) {
+    case LVN_GETDISPINFOW: OnGetDisplayInfo(reinterpret_cast<NMLVDISPINFOW&>(header)); return TRUE;
+    case LVN_ODFINDITEMW:
+      SetWindowLongPtrW(dialog_, DWLP_MSGRESULT, OnFindItem(reinterpret_cast<const NMLVFINDITEMW&>(header)));
+      return TRUE;
+    case NM_CUSTOMDRAW:
+      SetWindowLongPtrW(dialog_, DWLP_MSGRESULT, OnCustomDraw(reinterpret_cast<NMLVCUSTOMDRAW&>(header)));
+      return TRUE;
+    case LVN_ITEMCHANGED: ShowSelection(); return TRUE;
+    case NM_DBLCLK:
+      if (reinterpret_cast<const NMITEMACTIVATE&>(header).iItem >= 0) Accept();
+      return TRUE;
+  }
+  return FALSE;
+}
+
+void PickerDialog::OnGetDisplayInfo(NMLVDISPINFOW& info) const {
+  const auto row = static_cast<std::size_t>(info.item.iItem);
+  const auto column = static_cast<std::size_t>(info.item.iSubItem);
+  if (!(info.item.mask & LVIF_TEXT) || row >= rows_.size() || column >= std::size(kColumns)) return;
+  lstrcpynW(info.item.pszText, kColumns[column].text(places_[rows_[row]]).c_str(), info.item.cchTextMax);
+}
+
+// What the user types into the list itself moves the selection, around the end if need be.
+int PickerDialog::OnFindItem(const NMLVFINDITEMW& find) const {
+  if (!(find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) || !find.lvfi.psz) return -1;
+  const std::wstring_view wide = find.lvfi.psz;
+  const std::u16string typed(wide.begin(), wide.end());
+  const auto start = std::min(static_cast<std::size_t>(std::max(find.iStart, 0)), rows_.size());
+  const std::span<const std::size_t> rows = rows_;
+  const auto below = places_.FirstBeginningWith(typed, rows.subspan(start));
+  if (below) return static_cast<int>(start + *below);
+  const auto above = places_.FirstBeginningWith(typed, rows.first(start));
+  return above ? static_cast<int>(*above) : -1;
+}
+
+// The list seldom has the focus, and its own colours for a selection without focus are next to none.
+LRESULT PickerDialog::OnCustomDraw(NMLVCUSTOMDRAW& draw) const {
+  if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (draw.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  if (!SendList(LVM_GETITEMSTATE, draw.nmcd.dwItemSpec, LVIS_SELECTED)) return CDRF_DODEFAULT;
+  draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+  draw.clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+  draw.clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+  return CDRF_NEWFONT;
+}
+
+void PickerDialog::AddColumns() const {
+  for (std::size_t i = 0; i < std::size(kColumns); ++i) {
+    LVCOLUMNW column = {};
+    column.mask = LVCF_FMT | LVCF_TEXT | LVCF_SUBITEM;
+    column.fmt = kColumns[i].format;
+    column.pszText = const_cast<wchar_t*>(kColumns[i].heading);
+    column.iSubItem = static_cast<int>(i);
+    SendList(LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+  }
+}
+
+void PickerDialog::FitColumns() const {
+  const auto widthOf = [this](const wchar_t* text) {
+    return static_cast<int>(SendList(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text)));
+  };
+  const int margins = widthOf(L"mm");
+  RECT list;
+  GetWindowRect(Control(IDC_PLACES), &list);
+  int rest = list.right - list.left - GetSystemMetrics(SM_CXVSCROLL) - 2 * GetSystemMetrics(SM_CXEDGE);
+  for (std::size_t i = std::size(kColumns) - 1; i > 0; --i) {
+    const int width = std::max(widthOf(kColumns[i].sample), widthOf(kColumns[i].heading)) + margins;
+    SendList(LVM_SETCOLUMNWIDTH, i, width);
+    rest -= width;
+  }
+  SendList(LVM_SETCOLUMNWIDTH, 0, rest);
+}
+
+// Lists what matches the typed text and selects the place that it most likely means.
+void PickerDialog::Search() {
+  wchar_t text[kNameSize];
+  const UINT length = GetDlgItemTextW(dialog_, IDC_TYPED, text, std::size(text));
+  const std::u16string typed(text, text + length);
+  rows_ = places_.Matching(typed);
+  LVITEMW unselected = {};
+  unselected.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&unselected));
+  SendList(LVM_SETITEMCOUNT, rows_.size(), 0);
+  const auto current = std::ranges::find(rows_, current_, [](std::size_t row) { return std::optional(row); });
+  const bool nothingTyped = Fold(typed).text.empty();
+  if (nothingTyped && current != rows_.end()) {
+    Select(static_cast<std::size_t>(current - rows_.begin()));
+  } else if (!rows_.empty()) {
+    Select(places_.FirstBeginningWith(typed, rows_).value_or(0));
+  }
+  const std::wstring count = rows_.size() == 1 ? L"1 place" : std::to_wstring(rows_.size()) + L" places";
+  SetDlgItemTextW(dialog_, IDC_COUNT, rows_.empty() ? L"No place matches" : count.c_str());
+  ShowSelection();
+}
+
+void PickerDialog::Select(std::size_t row) const {
+  LVITEMW selected = {};
+  selected.state = selected.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  SendList(LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(&selected));
+  const auto rowsShown = static_cast<std::size_t>(SendList(LVM_GETCOUNTPERPAGE, 0, 0));
+  SendList(LVM_ENSUREVISIBLE, std::min(row + rowsShown / 2, rows_.size() - 1), FALSE);
+  SendList(LVM_ENSUREVISIBLE, row, FALSE);
+}
+
+std::optional<std::size_t> PickerDialog::SelectedPlace() const {
+  const auto row = SendList(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
+  if (row < 0 || static_cast<std::size_t>(row) >= rows_.size()) return std::nullopt;
+  return rows_[static_cast<std::size_t>(row)];
+}
+
+void PickerDialog::ShowSelection() const {
+  const std::optional<std::size_t> selected = SelectedPlace();
+  EnableWindow(Control(IDOK), selected.has_value());
+  EnableWindow(Control(IDC_START), selected.has_value());
+  const bool atStart = startChoice_.value_or(selected && IsStartPlace(places_[*selected]));
+  CheckDlgButton(dialog_, IDC_START, atStart ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void PickerDialog::Accept() {
+  const std::optional<std::size_t> selected = SelectedPlace();
+  if (!selected) return;
+  KeepStartPlace(places_[*selected]);
+  picked_ = selected;
+  EndDialog(dialog_, IDOK);
+}
+
+void PickerDialog::KeepStartPlace(const Place& place) const {
+  const bool wanted = IsDlgButtonChecked(dialog_, IDC_START) == BST_CHECKED;
+  if (wanted == IsStartPlace(place)) return;
+  if (ProfileWriteString(kStartSection, kStartKey, wanted ? place.name.c_str() : nullptr, kStartFile)) return;
+  const std::wstring text = L"Your choice of the place at start could not be written to the file\n\n" +
+                            settings_folder::PathNow(settings_folder::Wide(kStartFile)) +
+                            L"\n\nThe selected place is used now; the place at start stays as it was.";
+  MessageBoxW(dialog_, text.c_str(), kCaption, MB_OK | MB_ICONWARNING);
+}
+
+}  // namespace
+
+std::optional<std::size_t> PickPlace(HWND owner, const PlaceIndex& places, std::string_view currentName) {
+  return PickerDialog(places, currentName).Run(owner);
+}
+
+}  // namespace placepick

@@ -1,0 +1,40 @@
+// The places to choose from, and their numbers as texts.
+//
+// Names and texts are 8-bit in windows-1252, whatever the code page of the system.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "libraries/sun/place_settings.h"
+
+namespace placepick {
+
+// The program keeps names in buffers of this many bytes, terminator included.
+inline constexpr std::size_t kNameSize = 256;
+
+struct Place {
+  std::string name;
+  // Packed as degrees x 100 + minutes of arc, negative for south and west; of the user's own any numbers.
+  int32_t packedLatitude;
+  int32_t packedLongitude;
+  // Both signed, their sum is the standard offset from UTC.
+  int32_t zoneHours;
+  int32_t zoneMinutes;
+  bool isUsersOwn;
+};
+
+// The user's places in the order of their list, then the built-in ones; each name once, ASCII letter case aside,
+// because INI files do not tell such names apart and a place of the user's own takes precedence.
+std::vector<Place> KnownPlaces(const sun::SettingsReader& reader);
+
+// "50°47' N" and "6°05' E".
+std::string LatitudeText(int32_t packedLatitude);
+std::string LongitudeText(int32_t packedLongitude);
+
+// The standard zone: "GMT", "GMT+1", "GMT-3:30", "GMT+0:30".
+std::string ZoneText(int32_t zoneHours, int32_t zoneMinutes);
+
+}  // namespace placepick

@@ -1,0 +1,52 @@
+// A file of the program's that is read often and changed rarely, by this process or another.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+#include "libraries/settings_folder/whole_file.h"
+
+namespace settings_folder {
+
+// Knows which version of the file its owner has seen. The bytes it hands over are 8-bit text, whatever encoding an
+// editor left (EightBitText). Not for use by several threads at once.
+class WatchedFile {
+ public:
+  // name: 8-bit, bare or with a path; see PathNow.
+  explicit WatchedFile(const char* name);
+
+  // Whether the owner must take up the file anew; text then holds its bytes (none when there is no file). The file
+  // itself is asked at most every 50 ms, unless TIMES_READINGS_HOME or the current folder makes the name another file.
+  // A file that cannot be read, because another process holds it, counts as unchanged; seen for the first time, as
+  // empty.
+  bool Refresh(std::string* text);
+
+  // The next Refresh asks the file itself.
+  void Distrust() { distrusted_ = true; }
+
+  // Alters a file's bytes; whether they may be written so.
+  using Change = std::function<bool(std::string& bytes)>;
+
+  // Changes the file as it stands on the disk, under the writers' lock. When another program changes it before ours is
+  // in its place, the change is made anew. Nothing is written when the bytes stay the same. The folder of a bare name
+  // is made. Whether the file now holds what the change made last, which counts as seen; if not, it is as others left
+  // it.
+  bool Edit(const Change& change);
+
+ private:
+  std::wstring Place() const;
+  ReadResult ReadNow(const std::wstring& path, Patience patience, FileStamp* stamp, std::string* text) const;
+  ReplaceResult EditOnce(const std::wstring& path, const Change& change, FileStamp* seen) const;
+
+  std::wstring name_;
+  bool isBare_;
+  std::wstring place_;  // what decided the path when it was last made: TIMES_READINGS_HOME, or the full path itself
+  std::wstring path_;
+  FileStamp seen_;
+  bool distrusted_ = true;
+  bool unreadable_ = false;
+  std::chrono::steady_clock::time_point asked_;
+};
+
+}  // namespace settings_folder

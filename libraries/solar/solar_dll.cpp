@@ -1,0 +1,54 @@
+#include <cstdio>
+
+#include "companion/profile.h"
+#include "companion/solar.h"
+#include "libraries/sun/clock_time.h"
+#include "libraries/sun/place_settings.h"
+#include "libraries/sun/places.h"
+#include "libraries/sun/sun_day.h"
+
+namespace {
+
+constexpr uint32_t kApiVersion = 256;
+constexpr size_t kNameSize = 256;
+
+void Put(int32_t* output, int32_t value) {
+  if (output) *output = value;
+}
+
+}  // namespace
+
+uint32_t SolarGetAPIVersion(void) {
+  return kApiVersion;
+}
+
+uint32_t SolarGetCountOfBuiltInLocations(void) {
+  return static_cast<uint32_t>(sun::BuiltInPlaces().size());
+}
+
+uint32_t SolarGetBuiltInLocation(uint32_t index, char* name, int32_t* latitude, int32_t* longitude,
+                                 int32_t* timeZoneHours, int32_t* timeZoneMinutes) {
+  const auto places = sun::BuiltInPlaces();
+  if (index >= places.size()) return 0;
+  const sun::BuiltInPlace& place = places[index];
+  if (name) std::snprintf(name, kNameSize, "%s", place.name);
+  Put(latitude, place.packedLatitude);
+  Put(longitude, place.packedLongitude);
+  Put(timeZoneHours, place.zoneHours);
+  Put(timeZoneMinutes, place.zoneMinutes);
+  return 1;
+}
+
+void SolarGetSunsetSunrise(uint32_t day, uint32_t month, uint32_t year, uint32_t event, int32_t latitude,
+                           int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes, int32_t* hour,
+                           int32_t* minute) {
+  const sun::PlaceSettings settings =
+      sun::ReadPlaceSettings({ProfileGetInt, ProfileGetString}, {latitude, longitude, timeZoneHours, timeZoneMinutes});
+  const sun::SunDay sunDay = sun::ComputeSunDay(sun::UnixDayOfDate(day, month, year), settings.site);
+  const sun::SunEvent found = event == SOLAR_SUNRISE ? sun::Sunrise(sunDay, settings.elevationMetres)
+                                                     : sun::Sunset(sunDay, settings.elevationMetres);
+  const int32_t offsetSeconds = sun::ClockOffsetSeconds(settings.clock, found.utcSeconds);
+  const sun::ClockTime time = sun::TimeOfDay(sun::NearestMinute(found.utcSeconds, offsetSeconds));
+  Put(hour, time.hour);
+  Put(minute, time.minute);
+}

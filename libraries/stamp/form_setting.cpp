@@ -1,0 +1,39 @@
+#include "libraries/stamp/form_setting.h"
+
+#include <windows.h>
+
+#include <cstring>
+
+#include "companion/profile.h"
+#include "libraries/settings_folder/settings_folder_win.h"
+
+namespace stamp {
+namespace {
+
+constexpr char kSection[] = "Times";
+constexpr char kKey[] = "Form";
+constexpr char kFile[] = "stamp.ini";
+
+}  // namespace
+
+Form RegionalForm() {
+  char setting[8] = "";  // "0" is the 12-hour form
+  GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_ITIME, setting, sizeof setting);
+  return std::strcmp(setting, "0") == 0 ? Form::TwelveHours : Form::TwentyFourHours;
+}
+
+std::string StoredChoice() {
+  char choice[8];
+  ProfileGetString(kSection, kKey, "", choice, sizeof choice, kFile);
+  return choice;
+}
+
+bool StoreChoice(const char* choice) {
+  return ProfileWriteString(kSection, kKey, choice, kFile) != 0;
+}
+
+std::wstring SettingPath() {
+  return settings_folder::PathNow(settings_folder::Wide(kFile));
+}
+
+}  // namespace stamp

@@ -1,0 +1,23 @@
+#include "libraries/stamp/stamp_core.h"
+
+#include <cstdio>
+
+namespace stamp {
+
+std::string TimeText(int32_t hour, int32_t minute, Form form) {
+  const bool isTime = hour >= 0 && hour <= 23 && minute >= 0 && minute <= 59;
+  const bool hasHalves = isTime && form == Form::TwelveHours;
+  const char* const half = !hasHalves ? "" : hour < 12 ? " a.m." : " p.m.";
+  const int32_t shownHour = !hasHalves ? hour : hour % 12 == 0 ? 12 : hour % 12;
+  char text[32];
+  std::snprintf(text, sizeof text, "%02d:%02d%s", shownHour, minute, half);
+  return text;
+}
+
+Form ChosenForm(std::string_view choice, Form regional) {
+  if (choice == "12") return Form::TwelveHours;
+  if (choice == "24") return Form::TwentyFourHours;
+  return regional;
+}
+
+}  // namespace stamp

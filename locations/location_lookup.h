@@ -1,0 +1,15 @@
+// Finding a place by its name among the built-in places and the user's own.
+#pragma once
+
+#include "engine/core/records.h"
+
+// Where a name was found.
+enum class LocationSource { kNowhere, kBuiltIn, kUser };
+
+// Fills the numbers of the place that location.name names. A place of the user's own takes precedence over a built-in
+// one of the same name; names are compared exactly. A name that is found nowhere leaves the numbers of the last place
+// that was read in the search.
+LocationSource LookUpLocation(LocationRecord& location);
+
+// The first built-in place, name included.
+void TakeFirstBuiltInLocation(LocationRecord& location);

@@ -1,0 +1,22 @@
+#include "output/text_layout.h"
+
+std::string PadRight(std::string_view text, std::size_t width) {
+  std::string padded(text);
+  if (padded.size() < width) padded.append(width - padded.size(), ' ');
+  return padded;
+}
+
+std::string RtfEscape(std::string_view text) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string escaped;
+  for (const char c : text) {
+    if (c != '{' && c != '}' && c != '\\') {
+      escaped += c;
+      continue;
+    }
+    escaped += "\\'";
+    escaped += kDigits[c >> 4];
+    escaped += kDigits[c & 15];
+  }
+  return escaped;
+}

@@ -1,0 +1,142 @@
+// The call that opens the browser is replaced in the import table of the loaded library, so no test opens one.
+#include "companion/guide.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <shellapi.h>
+
+#include <cstring>
+#include <filesystem>
+#include <string>
+#include <thread>
+
+#include "tests/contract/picker_driver.h"
+#include "tests/contract/settings_home.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using testing::HasSubstr;
+
+struct Opened {
+  int count;
+  std::wstring verb;
+  std::wstring file;
+  INT_PTR answer;
+};
+Opened opened;
+
+HINSTANCE WINAPI RecordOpening(HWND, LPCWSTR verb, LPCWSTR file, LPCWSTR, LPCWSTR, INT) {
+  ++opened.count;
+  opened.verb = verb;
+  opened.file = file;
+  return reinterpret_cast<HINSTANCE>(opened.answer);
+}
+
+// The slot of a module's import table that holds an imported function; null when the module does not import it.
+void** ImportSlot(HMODULE module, const char* function) {
+  auto* const base = reinterpret_cast<BYTE*>(module);
+  const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+  const auto* const headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+  const DWORD imports = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
+  for (auto* library = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + imports); library->Name; ++library) {
+    const auto* names = reinterpret_cast<const IMAGE_THUNK_DATA*>(base + library->OriginalFirstThunk);
+    auto* slots = reinterpret_cast<IMAGE_THUNK_DATA*>(base + library->FirstThunk);
+    for (; names->u1.AddressOfData; ++names, ++slots) {
+      const auto* const name = reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + names->u1.AddressOfData);
+      if (std::strcmp(name->Name, function) == 0) return reinterpret_cast<void**>(&slots->u1.Function);
+    }
+  }
+  return nullptr;
+}
+
+void Replace(void** slot, void* function) {
+  DWORD protection = 0;
+  VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &protection);
+  *slot = function;
+  VirtualProtect(slot, sizeof *slot, protection, &protection);
+}
+
+fs::path FileOf(HMODULE module) {
+  wchar_t file[MAX_PATH] = L"";
+  GetModuleFileNameW(module, file, std::size(file));
+  return file;
+}
+
+class GuideContract : public testing::Test {
+ protected:
+  void SetUp() override {
+    opened = {0, L"", L"", 42};
+    slot_ = ImportSlot(library_, "ShellExecuteW");
+    ASSERT_TRUE(slot_);
+    original_ = *slot_;
+    Replace(slot_, reinterpret_cast<void*>(&RecordOpening));
+  }
+  void TearDown() override {
+    if (slot_) Replace(slot_, original_);
+  }
+
+  fs::path Page(const char* name) const { return FileOf(library_).parent_path() / "help" / name; }
+
+ private:
+  const HMODULE library_ = GetModuleHandleW(L"guide.dll");
+  void** slot_ = nullptr;
+  void* original_ = nullptr;
+};
+
+// The text of the box that the call shows, which is then closed.
+std::wstring TextOfBox(void (*go)(HWND, const char*), const char* topic) {
+  std::thread call([=] { go(nullptr, topic); });
+  std::wstring text;
+  if (const HWND box = WaitForDialog(L"Times / Readings")) {
+    constexpr int kTextOfMessageBox = 0xFFFF;
+    text = WindowText(GetDlgItem(box, kTextOfMessageBox));
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+  }
+  call.join();
+  return text;
+}
+
+TEST_F(GuideContract, OpensTheTopicsPageBesideTheLibrary) {
+  struct Expected {
+    const char* topic;
+    const char* page;
+  };
+  for (const auto& [topic, page] :
+       {Expected{"Start", "index.html"}, Expected{"", "index.html"}, Expected{"Shabbat times", "shabbat_times.html"},
+        Expected{"PLACES", "places.html"}, Expected{"accuracy", "accuracy.html"}, Expected{"Zmanim", "zmanim.html"},
+        Expected{"no such topic", "index.html"}, Expected{nullptr, "index.html"}}) {
+    opened.count = 0;
+    GuideGo(nullptr, topic);
+    EXPECT_EQ(opened.count, 1);
+    EXPECT_EQ(opened.verb, L"open");
+    EXPECT_EQ(fs::path(opened.file), Page(page));
+    EXPECT_TRUE(fs::exists(opened.file));
+  }
+}
+
+TEST_F(GuideContract, PageThatCannotBeOpenedIsNamed) {
+  opened.answer = SE_ERR_NOASSOC;
+  EXPECT_THAT(TextOfBox(GuideGo, "Zmanim"), HasSubstr(Page("zmanim.html").wstring()));
+  opened.answer = 32;  // the last of the answers that are errors
+  EXPECT_THAT(TextOfBox(GuideGo, "Places"), HasSubstr(Page("places.html").wstring()));
+  EXPECT_EQ(opened.count, 2);
+}
+
+TEST_F(GuideContract, MissingPageIsNamedWithWhatToDo) {
+  const SettingsHome folder;  // a folder of the test's own, with the library alone in it
+  fs::create_directories(folder.Folder());
+  const fs::path copy = folder.Path("guide_without_help.dll");
+  fs::copy_file(FileOf(GetModuleHandleW(L"guide.dll")), copy);
+  const HMODULE library = LoadLibraryW(copy.c_str());
+  ASSERT_TRUE(library);
+  const auto go =
+      reinterpret_cast<void (*)(HWND, const char*)>(reinterpret_cast<void*>(GetProcAddress(library, "GuideGo")));
+  const std::wstring text = TextOfBox(go, "Zmanim");
+  EXPECT_THAT(text, HasSubstr((folder.Folder() / "help" / "zmanim.html").wstring()));
+  EXPECT_THAT(text, HasSubstr(L"Please install the program again."));
+  FreeLibrary(library);
+}
+
+}  // namespace

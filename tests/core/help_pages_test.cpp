@@ -1,0 +1,102 @@
+// The topics of the help, and the pages as they lie in the source tree.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "libraries/guide/guide_core.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path ProgramFolder() {  // "help" stands in it, as in the finished program's
+  return fs::path(__FILE__).parent_path().parent_path().parent_path();
+}
+
+std::string TextOf(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(stream), {});
+}
+
+std::vector<fs::path> Pages() {
+  std::vector<fs::path> pages;
+  for (const auto& entry : fs::directory_iterator(ProgramFolder() / "help")) {
+    if (entry.path().extension() == ".html") pages.push_back(entry.path());
+  }
+  return pages;
+}
+
+// The values of an attribute: what stands between quotes behind ` attribute=`.
+std::vector<std::string> Values(const std::string& text, const std::string& attribute) {
+  const std::string opening = " " + attribute + "=\"";
+  std::vector<std::string> values;
+  for (std::size_t at = text.find(opening); at != std::string::npos; at = text.find(opening, at)) {
+    at += opening.size();
+    values.push_back(text.substr(at, text.find('"', at) - at));
+  }
+  return values;
+}
+
+TEST(HelpTopics, AreFoundWhateverTheirCase) {
+  EXPECT_EQ(guide::TopicNamed("Shabbat times").page, "shabbat_times.html");
+  EXPECT_EQ(guide::TopicNamed("ZMANIM").page, "zmanim.html");
+  EXPECT_EQ(guide::TopicNamed("accuracy").page, "accuracy.html");
+  EXPECT_EQ(guide::TopicNamed("Places").page, "places.html");
+  EXPECT_EQ(guide::TopicNamed("start").page, "index.html");
+}
+
+TEST(HelpTopics, UnknownAndEmptyOnesAreTheGeneralPage) {
+  for (const char* name : {"", "Zmani", "Zmanim ", "..\\..\\secret", "Z\xE9"}) {
+    EXPECT_EQ(guide::TopicNamed(name).page, "index.html") << name;
+  }
+}
+
+TEST(HelpTopics, EachHasAPage) {
+  for (const guide::Topic& topic : guide::Topics()) {
+    const guide::HelpPage page = guide::PageOf(topic.name, ProgramFolder());
+    EXPECT_TRUE(page.exists) << page.file;
+    EXPECT_EQ(page.file, ProgramFolder() / "help" / topic.page);
+  }
+}
+
+TEST(HelpTopics, PageOfAnotherFolderIsMissing) {
+  const guide::HelpPage page = guide::PageOf("Zmanim", ProgramFolder() / "nowhere");
+  EXPECT_FALSE(page.exists);
+  EXPECT_EQ(page.file, ProgramFolder() / "nowhere" / "help" / "zmanim.html");
+}
+
+TEST(HelpPages, EachIsReachedFromEveryOther) {
+  ASSERT_EQ(Pages().size(), guide::Topics().size());
+  for (const fs::path& page : Pages()) {
+    const std::vector<std::string> links = Values(TextOf(page), "href");
+    for (const guide::Topic& topic : guide::Topics()) EXPECT_THAT(links, testing::Contains(topic.page)) << page;
+  }
+}
+
+TEST(HelpPages, LinksLeadToPagesAndPlacesInThemThatExist) {
+  for (const fs::path& page : Pages()) {
+    for (const std::string& link : Values(TextOf(page), "href")) {
+      const std::size_t mark = link.find('#');
+      const fs::path target = mark == 0 ? page : page.parent_path() / link.substr(0, mark);
+      ASSERT_TRUE(fs::is_regular_file(target)) << page << " links to " << link;
+      if (mark == std::string::npos) continue;
+      EXPECT_THAT(Values(TextOf(target), "id"), testing::Contains(link.substr(mark + 1))) << page;
+    }
+  }
+}
+
+TEST(HelpPages, NeedNoNetworkAndNoScript) {
+  for (const fs::path& page : Pages()) {
+    const std::string text = TextOf(page);
+    for (const char* foreign : {"<script", "http:", "https:", "src=", "@import"}) {
+      EXPECT_EQ(text.find(foreign), std::string::npos) << page << " has " << foreign;
+    }
+  }
+}
+
+}  // namespace

@@ -1,0 +1,288 @@
+// Expected values are worked out by hand; letters and their bytes are those of the Unicode Consortium's table of
+// windows-1252.
+#include "libraries/placepick/place_search.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "libraries/placepick/place_list.h"
+#include "libraries/sun/places.h"
+
+namespace {
+
+using namespace placepick;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::u16string Folded(std::u16string_view text) {
+  return Fold(text).text;
+}
+
+PlaceIndex IndexOf(const std::vector<std::string>& names) {
+  std::vector<Place> places;
+  for (const std::string& name : names) places.push_back({name, 0, 0, 0, 0, false});
+  return PlaceIndex(std::move(places));
+}
+
+std::vector<std::string> Found(const PlaceIndex& index, std::u16string_view typed) {
+  std::vector<std::string> names;
+  for (const std::size_t number : index.Matching(typed)) names.push_back(index[number].name);
+  return names;
+}
+
+TEST(Windows1252, BytesBecomeTheirCharacters) {
+  EXPECT_EQ(FromWindows1252("Z\xFCrich 5\xB0 \x80\x8A\x9F\x92"), u"Zürich 5° €ŠŸ’");
+  EXPECT_EQ(FromWindows1252("\x81\x8D\x8F\x90\x9D"), u"\x81\x8D\x8F\x90\x9D");
+}
+
+TEST(Fold, CaseAndAccentsDoNotCount) {
+  EXPECT_EQ(Folded(u"ÀÁÂÃÄÅÇÈÉÊËÌÍÎÏÑÒÓÔÕÖØÙÚÛÜÝŠŽŸ"), u"aaaaaaceeeeiiiinoooooouuuuyszy");
+  EXPECT_EQ(Folded(u"àáâãäåçèéêëìíîïñòóôõöøùúûüýšžÿ"), u"aaaaaaceeeeiiiinoooooouuuuyszy");
+  EXPECT_EQ(Folded(u"ABCXYZ019"), u"abcxyz019");
+}
+
+TEST(Fold, LettersOfTwoBecomeTwo) {
+  EXPECT_EQ(Folded(u"Straße Æbeltoft œuvre ŒUVRE Þingvellir Ðakovo"),
+            u"strasse aebeltoft oeuvre oeuvre thingvellir dakovo");
+}
+
+TEST(Fold, AccentsOnTheirOwnAreLeftOut) {
+  EXPECT_EQ(Folded(u"Zu\u0308rich"), u"zurich");
+}
+
+TEST(Fold, SignsAndBlanksOfAnyNumberSeparateWords) {
+  EXPECT_EQ(Folded(u"  St.  Louis – (Mo.)×2 "), u"st louis mo 2");
+  EXPECT_EQ(Folded(u" -\u00A0. "), u"");
+}
+
+TEST(Fold, ApostrophesAreLeftOutAndBeginAWord) {
+  for (const char16_t* name : {u"Be'er", u"Be’er", u"Be‘er", u"Be`er", u"Be´er"}) {
+    const FoldedText folded = Fold(name);
+    EXPECT_EQ(folded.text, u"beer");
+    EXPECT_THAT(folded.wordStarts, ElementsAre(0u, 2u));
+  }
+  EXPECT_THAT(Fold(u"St. John's").wordStarts, ElementsAre(0u, 3u, 7u));
+}
+
+TEST(Fold, LettersOfOtherScriptsStayAsTheyAre) {
+  EXPECT_EQ(Folded(u"חיפה"), u"חיפה");
+}
+
+TEST(PlaceSearch, NothingTypedFindsAllInAlphabeticalOrderWithoutCaseAndAccents) {
+  const PlaceIndex index =
+      IndexOf({"Zwolle", "\xD6rebro", "oslo", "Newark", "New York", "Odessa", "New Delhi", "\xC5lborg"});
+  const std::vector<std::string> inOrder = {"\xC5lborg", "New Delhi", "New York", "Newark",
+                                            "Odessa",    "\xD6rebro", "oslo",     "Zwolle"};
+  EXPECT_EQ(Found(index, u""), inOrder);
+  EXPECT_EQ(Found(index, u" . "), inOrder);
+}
+
+TEST(PlaceSearch, FindsTheBeginningOfAnyWord) {
+  const PlaceIndex index = IndexOf({"New York", "York", "Yokohama", "Newark", "St. John's", "Be'er Sheva"});
+  EXPECT_THAT(Found(index, u"yo"), ElementsAre("New York", "Yokohama", "York"));
+  EXPECT_THAT(Found(index, u"york"), ElementsAre("New York", "York"));
+  EXPECT_THAT(Found(index, u"ork"), IsEmpty());
+  EXPECT_THAT(Found(index, u"newy"), IsEmpty());
+  EXPECT_THAT(Found(index, u"johns"), ElementsAre("St. John's"));
+  EXPECT_THAT(Found(index, u"st.john's"), ElementsAre("St. John's"));
+  EXPECT_THAT(Found(index, u"er"), ElementsAre("Be'er Sheva"));
+}
+
+TEST(PlaceSearch, EachTypedWordMustBeginSomeWordInAnyOrder) {
+  const PlaceIndex index = IndexOf({"New York", "New Delhi", "York"});
+  EXPECT_THAT(Found(index, u"york new"), ElementsAre("New York"));
+  EXPECT_THAT(Found(index, u"new"), ElementsAre("New Delhi", "New York"));
+  EXPECT_THAT(Found(index, u"new delhi york"), IsEmpty());
+}
+
+TEST(PlaceSearch, CaseAndAccentsDoNotCountOnEitherSide) {
+  const PlaceIndex index = IndexOf({"Z\xFCrich", "Sao Paulo", "Gro\xDF-Gerau"});
+  EXPECT_THAT(Found(index, u"ZUR"), ElementsAre("Z\xFCrich"));
+  EXPECT_THAT(Found(index, u"são"), ElementsAre("Sao Paulo"));
+  EXPECT_THAT(Found(index, u"gross"), ElementsAre("Gro\xDF-Gerau"));
+}
+
+TEST(PlaceSearch, OtherScriptsFindNothing) {
+  EXPECT_THAT(Found(IndexOf({"Haifa"}), u"חיפה"), IsEmpty());
+}
+
+TEST(PlaceSearch, NameOfSignsAloneIsListedThoughNothingTypedFindsIt) {
+  const PlaceIndex index = IndexOf({"***", "Haifa"});
+  EXPECT_THAT(Found(index, u""), ElementsAre("***", "Haifa"));
+  EXPECT_THAT(Found(index, u"h"), ElementsAre("Haifa"));
+}
+
+TEST(PlaceSearch, FirstNameThatBeginsWithWhatIsTypedStandsOut) {
+  const PlaceIndex index = IndexOf({"New York", "York", "Yorkton"});
+  const std::vector<std::size_t> found = index.Matching(u"york");
+  EXPECT_EQ(index.FirstBeginningWith(u"Y\u00D6rk", found), 1u);
+  EXPECT_EQ(index.FirstBeginningWith(u"yorkt", found), 2u);
+  EXPECT_EQ(index.FirstBeginningWith(u"delhi", found), std::nullopt);
+}
+
+TEST(PlaceSearch, NamedPlaceIsTheExactOneThenOneThatLooksAlike) {
+  const PlaceIndex index = IndexOf({"M\xE1laga", "Malaga", "Z\xFCrich"});
+  for (const char* name : {"Malaga", "M\xE1laga", "Z\xFCrich"}) {
+    ASSERT_TRUE(index.Named(name)) << name;
+    EXPECT_EQ(index[*index.Named(name)].name, name);
+  }
+  ASSERT_TRUE(index.Named("zurich"));
+  EXPECT_EQ(index[*index.Named("zurich")].name, "Z\xFCrich");
+  EXPECT_EQ(index.Named("Mal"), std::nullopt);
+  EXPECT_EQ(index.Named(""), std::nullopt);
+}
+
+// The settings as maps; a key list is answered as the profile library does.
+struct Settings {
+  std::vector<std::pair<std::string, std::string>> locations;
+  std::map<std::string, std::map<std::string, std::string>> numbers;
+};
+Settings settings;
+
+uint32_t ReadSetting(const char* section, const char* key, const char*, char* buffer, uint32_t size, const char* file) {
+  std::string answer;
+  if (std::strcmp(file, "shabloc2.ini") == 0) {
+    answer = settings.numbers[section][key];
+  } else if (std::strcmp(file, "shabbat2.ini") == 0 && std::strcmp(section, "Locations") == 0) {
+    for (const auto& [name, value] : settings.locations) {
+      if (!key) answer += name + '\0';
+      if (key && name == key) answer = value;
+    }
+  }
+  const std::size_t length = std::min<std::size_t>(answer.size(), size - (key ? 1 : 2));
+  std::memset(buffer, 0, size);
+  std::memcpy(buffer, answer.data(), length);
+  return static_cast<uint32_t>(length);
+}
+
+class PlaceList : public testing::Test {
+ protected:
+  void SetUp() override { settings = {}; }
+
+  static std::vector<Place> Known() { return KnownPlaces({nullptr, ReadSetting}); }
+
+  static std::vector<Place> UsersOwn() {
+    std::vector<Place> places = Known();
+    std::erase_if(places, [](const Place& place) { return !place.isUsersOwn; });
+    return places;
+  }
+};
+
+TEST_F(PlaceList, WithoutPlacesOfTheUsersOwnHasTheBuiltInOnes) {
+  const std::vector<Place> places = Known();
+  ASSERT_EQ(places.size(), sun::BuiltInPlaces().size());
+  EXPECT_EQ(places.front().name, "Aachen");
+  EXPECT_EQ(places.front().packedLatitude, 5047);
+  EXPECT_EQ(places.front().packedLongitude, 605);
+  EXPECT_EQ(places.front().zoneHours, 1);
+  EXPECT_FALSE(places.front().isUsersOwn);
+}
+
+TEST_F(PlaceList, ReadsTheNumbersOfTheUsersPlaces) {
+  settings.locations = {{"Home", "Available"}};
+  settings.numbers["Home"] = {{"LatitudeDegrees", "33"},    {"LatitudeHours", "52"},  {"LatitudeFlag", "1"},
+                              {"LongitudeDegrees", " 70x"}, {"LongitudeHours", "+9"}, {"LongitudeFlag", "0"},
+                              {"TimeZone", "-3"},           {"TimeZoneMin", "-30"}};
+  const std::vector<Place> places = UsersOwn();
+  ASSERT_EQ(places.size(), 1u);
+  EXPECT_EQ(places[0].name, "Home");
+  EXPECT_EQ(places[0].packedLatitude, -3352);
+  EXPECT_EQ(places[0].packedLongitude, 7009);
+  EXPECT_EQ(places[0].zoneHours, -3);
+  EXPECT_EQ(places[0].zoneMinutes, -30);
+  EXPECT_EQ(Known().size(), sun::BuiltInPlaces().size() + 1);
+}
+
+TEST_F(PlaceList, NumbersThatAreMissingOrNoneAreZeroAndHugeOnesAreCut) {
+  settings.locations = {{"Home", "Available"}};
+  settings.numbers["Home"] = {
+      {"LatitudeDegrees", "0x10"}, {"TimeZone", "99999999999"}, {"TimeZoneMin", "-99999999999"}};
+  const std::vector<Place> places = UsersOwn();
+  ASSERT_EQ(places.size(), 1u);
+  EXPECT_EQ(places[0].packedLatitude, 0);
+  EXPECT_EQ(places[0].packedLongitude, 0);
+  EXPECT_EQ(places[0].zoneHours, INT32_MAX);
+  EXPECT_EQ(places[0].zoneMinutes, INT32_MIN);
+}
+
+TEST_F(PlaceList, PlaceOfTheUsersOwnTakesTheBuiltInOnesPlaceWhateverItsCase) {
+  settings.locations = {{"Jerusalem", "Available"}, {"lonDON", "Available"}};
+  const std::vector<Place> places = Known();
+  EXPECT_EQ(places.size(), sun::BuiltInPlaces().size());
+  for (const char* name : {"Jerusalem", "lonDON"}) {
+    const auto isIt = [name](const Place& place) { return place.name == name; };
+    EXPECT_EQ(std::ranges::count_if(places, isIt), 1) << name;
+    EXPECT_TRUE(std::ranges::find_if(places, isIt)->isUsersOwn) << name;
+  }
+  EXPECT_FALSE(std::ranges::any_of(places, [](const Place& place) { return place.name == "London"; }));
+}
+
+TEST_F(PlaceList, KeyWithAnEmptyValueIsNoPlaceAndHidesNone) {
+  settings.locations = {{"Home", ""}, {"London", ""}};
+  EXPECT_THAT(UsersOwn(), IsEmpty());
+  EXPECT_EQ(Known().size(), sun::BuiltInPlaces().size());
+}
+
+TEST_F(PlaceList, RepeatedNameIsListedOnce) {
+  settings.locations = {{"Home", "Available"}, {"Home", "Available"}, {"HOME", "Available"}};
+  const std::vector<Place> places = UsersOwn();
+  ASSERT_EQ(places.size(), 1u);
+  EXPECT_EQ(places[0].name, "Home");
+}
+
+TEST_F(PlaceList, NameThatDoesNotFitTheProgramsBufferIsLeftOut) {
+  settings.locations = {{std::string(255, 'a'), "Available"}, {std::string(256, 'b'), "Available"}};
+  const std::vector<Place> places = UsersOwn();
+  ASSERT_EQ(places.size(), 1u);
+  EXPECT_EQ(places[0].name, std::string(255, 'a'));
+}
+
+// 170 names of 120 bytes, 119 letters and a zero, fill 20,400 of the 20,480 bytes; of the next one only a part is seen.
+TEST_F(PlaceList, NamesBeyondTheEndOfTheKeyListAreNotSeen) {
+  for (int i = 0; i < 200; ++i) {
+    const std::string number = std::to_string(1000 + i);
+    settings.locations.push_back({number + std::string(119 - number.size(), 'x'), "Available"});
+  }
+  const std::vector<Place> places = UsersOwn();
+  ASSERT_EQ(places.size(), 170u);
+  EXPECT_EQ(places.back().name.substr(0, 4), "1169");
+}
+
+TEST(PlaceTexts, CoordinatesNameTheirHemisphere) {
+  EXPECT_EQ(LatitudeText(5047),
+            "50\xB0"
+            "47' N");
+  EXPECT_EQ(LongitudeText(605),
+            "6\xB0"
+            "05' E");
+  EXPECT_EQ(LatitudeText(-3456),
+            "34\xB0"
+            "56' S");
+  EXPECT_EQ(LongitudeText(-8),
+            "0\xB0"
+            "08' W");
+  EXPECT_EQ(LatitudeText(INT32_MIN),
+            "21474836\xB0"
+            "48' S");
+}
+
+TEST(PlaceTexts, ZoneIsTheOffsetThatTheTimesAreToldIn) {
+  EXPECT_EQ(ZoneText(0, 0), "GMT");
+  EXPECT_EQ(ZoneText(1, 0), "GMT+1");
+  EXPECT_EQ(ZoneText(-10, 0), "GMT-10");
+  EXPECT_EQ(ZoneText(5, 45), "GMT+5:45");
+  EXPECT_EQ(ZoneText(-3, -30), "GMT-3:30");
+  EXPECT_EQ(ZoneText(0, 30), "GMT+0:30");
+  EXPECT_EQ(ZoneText(0, -5), "GMT-0:05");
+  EXPECT_EQ(ZoneText(-3, 30), "GMT-2:30");
+  EXPECT_EQ(ZoneText(INT32_MIN, INT32_MIN), "GMT-2183275042:08");
+}
+
+}  // namespace

@@ -1,0 +1,32 @@
+// Stand-ins for the libraries that the program binds by name: a Gregorian calendar by the standard library's, a few
+// places, and a sun that sets when the test says.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "companion/calendar_date.h"
+#include "tests/doubles/library_doubles.h"
+
+struct DoubledPlace {
+  std::string name;
+  int32_t latitude;
+  int32_t longitude;
+  int32_t zoneHours;
+  int32_t zoneMinutes;
+};
+
+struct BoundScript {
+  std::vector<DoubledPlace> places;
+  // The sunset of a date; each question is logged.
+  std::function<DoubledTime(const CalendarDate&)> sunset;
+  // Applied to every date that the calendar answers.
+  std::function<void(CalendarDate&)> spoilDate;
+};
+
+BoundScript& Bound();
+
+// Fills the bound entry points with the doubles: places Aachen, Haifa and Jerusalem, sunset at 19:05 every day.
+void ResetBoundLibraries();

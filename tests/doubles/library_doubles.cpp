@@ -1,0 +1,181 @@
+#include "tests/doubles/library_doubles.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <cstdlib>
+#include <cstring>
+
+#include "companion/candles.h"
+#include "companion/glyphs.h"
+#include "companion/guide.h"
+#include "companion/hours.h"
+#include "companion/kinship.h"
+#include "companion/placepick.h"
+#include "companion/profile.h"
+#include "companion/stamp.h"
+#include "companion/twilight.h"
+#include "tests/doubles/call_log.h"
+
+LibraryScript& Libraries() {
+  static LibraryScript script;
+  return script;
+}
+
+void ResetLibraries() {
+  CallLog().clear();
+  Libraries() = {};
+  Libraries().settings = {
+      {"shabbat2.ini|Shabbat|CandleLighting", ""},
+      {"shabbat2.ini|Shabbat|DoMinutes", ""},
+      {"shabbat2.ini|Shabbat|End", ""},
+      {"shabbat2.ini|Shabbat|DegreesBelowHorizon", ""},
+      {"shabbat2.ini|Shabbat|AddMinutesAfterDegrees", ""},
+      {"shab30.ini|Zmanim|Hebrew", ""},
+      {"shab30.ini|Settings|EnableZmanim", ""},
+      {"almanac13.ini|Preferences|DefaultLocation", ""},
+  };
+}
+
+namespace {
+
+std::string FindSetting(const char* section, const char* key, const char* file) {
+  const std::string name = std::string(file) + "|" + section + "|" + key;
+  if (Libraries().logSettings) LogCall("read %s", name.c_str());
+  const auto found = Libraries().settings.find(name);
+  if (found != Libraries().settings.end()) return found->second;
+  if (!Libraries().unknownSettingsAreMissing) ADD_FAILURE() << "unscripted setting " << name;
+  return {};
+}
+
+// The keys of a section as a list; only keys with a value exist.
+std::string KeysOf(const char* section, const char* file) {
+  const std::string prefix = std::string(file) + "|" + section + "|";
+  std::string keys;
+  for (const auto& [name, value] : Libraries().settings) {
+    if (name.starts_with(prefix) && !value.empty()) keys += name.substr(prefix.size()) + '\0';
+  }
+  return keys;
+}
+
+std::string FontOf(HDC dc) {
+  LOGFONTA font{};
+  GetObjectA(GetCurrentObject(dc, OBJ_FONT), sizeof font, &font);
+  return std::string(font.lfFaceName) + " " + std::to_string(font.lfWeight);
+}
+
+}  // namespace
+
+int32_t ProfileGetInt(const char* section, const char* key, int32_t defaultValue, const char* file) {
+  const std::string value = FindSetting(section, key, file);
+  return value.empty() ? defaultValue : std::atoi(value.c_str());
+}
+
+uint32_t ProfileGetString(const char* section, const char* key, const char* defaultValue, char* buffer, uint32_t size,
+                          const char* file) {
+  std::string value = key ? FindSetting(section, key, file) : KeysOf(section, file);
+  if (value.empty()) value = defaultValue;
+  const std::size_t length = std::min<std::size_t>(value.size(), size - 2);
+  std::memcpy(buffer, value.data(), length);
+  std::memset(buffer + length, 0, 2);
+  return static_cast<uint32_t>(length);
+}
+
+int32_t ProfileWriteString(const char* section, const char* key, const char* value, const char* file) {
+  if (Libraries().writesFail) return 0;
+  const std::string place = std::string(file) + "|" + section + "|";
+  if (key && value) {
+    LogCall("write %s%s=%s", place.c_str(), key, value);
+    Libraries().settings[place + key] = value;
+  } else if (key) {
+    Libraries().settings.erase(place + key);
+  } else {
+    std::erase_if(Libraries().settings, [&](const auto& setting) { return setting.first.starts_with(place); });
+  }
+  return 1;
+}
+
+void TwilightCalculate(uint32_t day, uint32_t month, uint32_t year, double depressionDegrees, int32_t, int32_t, int32_t,
+                       int32_t, int32_t* hours, int32_t* minutes) {
+  LogCall("twilight %u.%u.%u %.2f", day, month, year, depressionDegrees);
+  *hours = Libraries().twilightInterval.hour;
+  *minutes = Libraries().twilightInterval.minute;
+}
+
+double TwilightGetProfileDouble(const char* section, const char* key, double defaultValue, const char* file) {
+  const std::string value = FindSetting(section, key, file);
+  return value.empty() ? defaultValue : std::atof(value.c_str());
+}
+
+int32_t TwilightIsValidFloat(const char* text) {
+  char* end = nullptr;
+  std::strtod(text, &end);
+  return end != text && *end == '\0';
+}
+
+int32_t CandlesGetTime(const char* location, uint32_t day, uint32_t month, uint32_t year, int32_t* candleHour,
+                       int32_t* candleMinute, int32_t* endHour, int32_t* endMinute) {
+  const auto& times = Libraries().customTimes;
+  const auto found =
+      times.find(location + ("|" + std::to_string(day)) + "." + std::to_string(month) + "." + std::to_string(year));
+  if (found == times.end()) return 0;
+  *candleHour = found->second.candles.hour;
+  *candleMinute = found->second.candles.minute;
+  *endHour = found->second.end.hour;
+  *endMinute = found->second.end.minute;
+  return 1;
+}
+
+void StampCheck(HINSTANCE, HINSTANCE, LPSTR commandLine, int showState) {
+  LogCall("StampCheck %s %d", commandLine, showState);
+}
+
+int32_t StampIsAmPm(void) {
+  return Libraries().amPm;
+}
+
+void StampConvert(int32_t hour, int32_t minute, char* text) {
+  std::snprintf(text, STAMP_TEXT_SIZE, "<%d:%d>", hour, minute);
+}
+
+int32_t StampConfigure(HWND owner) {
+  LogCall("form of times, owner %s", owner ? "yes" : "none");
+  return Libraries().formChanged;
+}
+
+void CandlesDoDialog(HWND owner) {
+  LogCall("custom times, owner %s", owner ? "yes" : "none");
+}
+
+uint32_t HoursGetCount(void) {
+  LogCall("HoursGetCount");
+  return Libraries().zmanimCount;
+}
+
+int32_t PlacePickSelectLocation(HWND owner, char* name) {
+  LogCall("pick a place, current '%s', owner %s", name, owner ? "yes" : "none");
+  if (Libraries().pickedLocation.empty()) return 0;
+  std::strcpy(name, Libraries().pickedLocation.c_str());
+  return 1;
+}
+
+void GuideGo(HWND owner, const char* topic) {
+  LogCall("help '%s' owner %s", topic, owner ? "yes" : "none");
+}
+
+void KinshipInit(void) {
+  LogCall("KinshipInit");
+}
+void KinshipDone(void) {
+  LogCall("KinshipDone");
+}
+
+BOOL GlyphsTextOut(HDC dc, int x, int y, const char* text, int count) {
+  Libraries().draws.push_back({x, y, std::string(text, static_cast<std::size_t>(count)), FontOf(dc)});
+  return TRUE;
+}
+
+BOOL GlyphsGetTextExtentPoint(HDC, const char*, int count, SIZE* size) {
+  *size = {count * kDoubledCharacterWidth, kDoubledTextHeight};
+  return TRUE;
+}

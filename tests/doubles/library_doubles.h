@@ -1,0 +1,65 @@
+// Stand-ins for the companion libraries that the program imports. They are scripted, record their calls, and fail the
+// test on a call that no script foresees.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+struct DoubledTime {
+  int32_t hour;
+  int32_t minute;
+};
+
+struct CustomTimes {
+  DoubledTime candles;
+  DoubledTime end;
+};
+
+// One draw: where, what, and in which font ("face weight").
+struct Draw {
+  int x;
+  int y;
+  std::string text;
+  std::string font;
+  bool operator==(const Draw&) const = default;
+};
+
+// What the doubled text library measures.
+inline constexpr int kDoubledCharacterWidth = 8;
+inline constexpr int kDoubledTextHeight = 13;
+
+struct LibraryScript {
+  // profile: "file|section|key" to value. An empty value stands for a key that is missing.
+  std::map<std::string, std::string> settings;
+  bool logSettings = false;  // whether reads are logged too; writes always are
+  bool writesFail = false;
+  bool unknownSettingsAreMissing = false;  // else a read of one fails the test
+
+  // twilight: the interval, whatever is asked.
+  DoubledTime twilightInterval{0, 40};
+
+  // candles: "place|day.month.year" to times; none for any other.
+  std::map<std::string, CustomTimes> customTimes;
+
+  // stamp
+  bool amPm = false;
+  bool formChanged = false;  // the answer of its dialog
+
+  // hours
+  uint32_t zmanimCount = 25;
+
+  // placepick: the name that the user picks; empty: cancelled
+  std::string pickedLocation;
+
+  // glyphs
+  std::vector<Draw> draws;
+};
+
+LibraryScript& Libraries();
+
+// An empty script but for what nearly every test of documents needs: default preferences, no places of the user's own.
+void ResetLibraries();

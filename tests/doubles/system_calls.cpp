@@ -1,0 +1,233 @@
+#include "tests/doubles/system_calls.h"
+
+#include <commdlg.h>
+
+#include <cstring>
+
+#include "tests/doubles/call_log.h"
+
+namespace {
+
+// The system's own function, past the replaced import.
+template <typename Function>
+Function Real(const char* module, const char* name) {
+  const FARPROC found = GetProcAddress(GetModuleHandleA(module), name);
+  Function function;
+  std::memcpy(&function, &found, sizeof function);
+  return function;
+}
+
+#define REAL(module, name) (Real<decltype(&name)>(module, #name))
+
+std::string PropertyKey(HWND window, const char* name) {
+  return std::to_string(reinterpret_cast<UINT_PTR>(window)) + " " + name;
+}
+
+int WINAPI FakeMessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
+  LogCall("message box '%s' caption '%s' type 0x%x owner %s", text, caption, type, owner ? "yes" : "none");
+  return (type & MB_TYPEMASK) == MB_YESNO ? System().answer : IDOK;
+}
+
+BOOL WINAPI FakeGetSaveFileNameA(LPOPENFILENAMEA dialog) {
+  const char* pattern = dialog->lpstrFilter + std::strlen(dialog->lpstrFilter) + 1;
+  LogCall("save dialog '%s' '%s' extension %s size %lu", dialog->lpstrFilter, pattern, dialog->lpstrDefExt,
+          dialog->nMaxFile);
+  if (System().savedFile.empty()) return FALSE;
+  std::strcpy(dialog->lpstrFile, System().savedFile.c_str());
+  return TRUE;
+}
+
+void WINAPI FakeFatalAppExitA(UINT action, LPCSTR text) {
+  LogCall("fatal exit %u '%s'", action, text);
+}
+
+UINT WINAPI FakeWinExec(LPCSTR commandLine, UINT show) {
+  LogCall("start '%s' show %u", commandLine, show);
+  return System().winExecAnswer;
+}
+
+HWND WINAPI FakeFindWindowA(LPCSTR className, LPCSTR title) {
+  LogCall("find window '%s' '%s'", className, title ? title : "any");
+  return System().foundWindow;
+}
+
+BOOL WINAPI FakeSetForegroundWindow(HWND window) {
+  System().foregroundWindow = window;
+  return TRUE;
+}
+
+BOOL WINAPI FakeMessageBeep(UINT) {
+  ++System().beeps;
+  return TRUE;
+}
+
+void WINAPI FakeGetLocalTime(LPSYSTEMTIME time) {
+  *time = System().localTime;
+}
+
+HMODULE WINAPI LoggedLoadLibraryA(LPCSTR name) {
+  static const auto real = REAL("kernel32.dll", LoadLibraryA);
+  if (name == System().missingLibrary) {
+    LogCall("load %s failed", name);
+    return reinterpret_cast<HMODULE>(System().missingLibraryHandle);
+  }
+  LogCall("load %s", name);
+  return real(name);
+}
+
+BOOL WINAPI LoggedFreeLibrary(HMODULE module) {
+  static const auto real = REAL("kernel32.dll", FreeLibrary);
+  char path[MAX_PATH] = "";
+  GetModuleFileNameA(module, path, sizeof path);
+  const char* name = std::strrchr(path, '\\');
+  LogCall("unload %s", name ? name + 1 : path);
+  return real(module);
+}
+
+HGLOBAL WINAPI CountedGlobalAlloc(UINT flags, SIZE_T size) {
+  static const auto real = REAL("kernel32.dll", GlobalAlloc);
+  const HGLOBAL block = real(flags, size);
+  System().blocks.insert(block);
+  return block;
+}
+
+HGLOBAL WINAPI CountedGlobalFree(HGLOBAL block) {
+  static const auto real = REAL("kernel32.dll", GlobalFree);
+  if (System().blocks.erase(block) == 0) LogCall("freed a block that was not held");
+  return real(block);
+}
+
+BOOL WINAPI CountedSetPropA(HWND window, LPCSTR name, HANDLE value) {
+  static const auto real = REAL("user32.dll", SetPropA);
+  System().properties.insert(PropertyKey(window, name));
+  return real(window, name, value);
+}
+
+HANDLE WINAPI CountedRemovePropA(HWND window, LPCSTR name) {
+  static const auto real = REAL("user32.dll", RemovePropA);
+  System().properties.erase(PropertyKey(window, name));
+  return real(window, name);
+}
+
+HFONT WINAPI CountedCreateFontIndirectA(const LOGFONTA* font) {
+  static const auto real = REAL("gdi32.dll", CreateFontIndirectA);
+  const HFONT made = real(font);
+  System().fonts.insert(made);
+  return made;
+}
+
+HPEN WINAPI CountedCreatePen(int style, int width, COLORREF color) {
+  static const auto real = REAL("gdi32.dll", CreatePen);
+  const HPEN made = real(style, width, color);
+  System().pensAndBrushes.insert(made);
+  return made;
+}
+
+HBRUSH WINAPI CountedCreateSolidBrush(COLORREF color) {
+  static const auto real = REAL("gdi32.dll", CreateSolidBrush);
+  const HBRUSH made = real(color);
+  System().pensAndBrushes.insert(made);
+  return made;
+}
+
+BOOL WINAPI CountedDeleteObject(HGDIOBJ object) {
+  static const auto real = REAL("gdi32.dll", DeleteObject);
+  System().fonts.erase(object);
+  System().pensAndBrushes.erase(object);
+  return real(object);
+}
+
+HDC WINAPI CountedGetDC(HWND window) {
+  static const auto real = REAL("user32.dll", GetDC);
+  ++System().deviceContexts;
+  return real(window);
+}
+
+int WINAPI CountedReleaseDC(HWND window, HDC dc) {
+  static const auto real = REAL("user32.dll", ReleaseDC);
+  --System().deviceContexts;
+  return real(window, dc);
+}
+
+HDC WINAPI CountedBeginPaint(HWND window, LPPAINTSTRUCT paint) {
+  static const auto real = REAL("user32.dll", BeginPaint);
+  ++System().deviceContexts;
+  return real(window, paint);
+}
+
+BOOL WINAPI CountedEndPaint(HWND window, const PAINTSTRUCT* paint) {
+  static const auto real = REAL("user32.dll", EndPaint);
+  --System().deviceContexts;
+  return real(window, paint);
+}
+
+LPVOID WINAPI CountedGlobalLock(HGLOBAL block) {
+  static const auto real = REAL("kernel32.dll", GlobalLock);
+  ++System().locks;
+  return real(block);
+}
+
+BOOL WINAPI CountedGlobalUnlock(HGLOBAL block) {
+  static const auto real = REAL("kernel32.dll", GlobalUnlock);
+  --System().locks;
+  return real(block);
+}
+
+}  // namespace
+
+extern "C" {
+decltype(&MessageBoxA) __imp_MessageBoxA = FakeMessageBoxA;
+decltype(&GetSaveFileNameA) __imp_GetSaveFileNameA = FakeGetSaveFileNameA;
+decltype(&FatalAppExitA) __imp_FatalAppExitA = FakeFatalAppExitA;
+decltype(&WinExec) __imp_WinExec = FakeWinExec;
+decltype(&FindWindowA) __imp_FindWindowA = FakeFindWindowA;
+decltype(&SetForegroundWindow) __imp_SetForegroundWindow = FakeSetForegroundWindow;
+decltype(&MessageBeep) __imp_MessageBeep = FakeMessageBeep;
+decltype(&GetLocalTime) __imp_GetLocalTime = FakeGetLocalTime;
+decltype(&LoadLibraryA) __imp_LoadLibraryA = LoggedLoadLibraryA;
+decltype(&FreeLibrary) __imp_FreeLibrary = LoggedFreeLibrary;
+decltype(&GlobalAlloc) __imp_GlobalAlloc = CountedGlobalAlloc;
+decltype(&GlobalFree) __imp_GlobalFree = CountedGlobalFree;
+decltype(&SetPropA) __imp_SetPropA = CountedSetPropA;
+decltype(&RemovePropA) __imp_RemovePropA = CountedRemovePropA;
+decltype(&CreateFontIndirectA) __imp_CreateFontIndirectA = CountedCreateFontIndirectA;
+decltype(&CreatePen) __imp_CreatePen = CountedCreatePen;
+decltype(&CreateSolidBrush) __imp_CreateSolidBrush = CountedCreateSolidBrush;
+decltype(&DeleteObject) __imp_DeleteObject = CountedDeleteObject;
+decltype(&GetDC) __imp_GetDC = CountedGetDC;
+decltype(&ReleaseDC) __imp_ReleaseDC = CountedReleaseDC;
+decltype(&BeginPaint) __imp_BeginPaint = CountedBeginPaint;
+decltype(&EndPaint) __imp_EndPaint = CountedEndPaint;
+decltype(&GlobalLock) __imp_GlobalLock = CountedGlobalLock;
+decltype(&GlobalUnlock) __imp_GlobalUnlock = CountedGlobalUnlock;
+}
+
+SystemScript& System() {
+  static SystemScript script;
+  return script;
+}
+
+void ResetSystem() {
+  System() = {.localTime = {.wYear = 2026,
+                            .wMonth = 11,
+                            .wDayOfWeek = 5,
+                            .wDay = 20,
+                            .wHour = 12,
+                            .wMinute = 0,
+                            .wSecond = 0,
+                            .wMilliseconds = 0},
+              .winExecAnswer = 33,
+              .foundWindow = nullptr,
+              .foregroundWindow = nullptr,
+              .beeps = 0,
+              .answer = IDYES,
+              .savedFile = {},
+              .missingLibrary = {},
+              .missingLibraryHandle = 0,
+              .blocks = {},
+              .properties = {},
+              .fonts = {},
+              .pensAndBrushes = {},
+              .deviceContexts = 0,
+              .locks = 0};
+}

@@ -1,0 +1,18 @@
+#include "win/message_box.h"
+
+#include <string>
+
+void ShowStop(HWND owner, const char* text, const char* caption) {
+  MessageBoxA(owner, text, caption, MB_OK | MB_ICONHAND);
+}
+
+bool Ask(HWND owner, const char* text, const char* caption) {
+  return MessageBoxA(owner, text, caption, MB_YESNO | MB_ICONQUESTION) == IDYES;
+}
+
+void ShowUnwritableSettings(HWND owner, const char* file) {
+  const std::string text = "The settings could not be saved to the file " + std::string(file) +
+                           ".\nPlease check that its folder can be written to and that the disk is not full, and try "
+                           "again.";
+  ShowStop(owner, text.c_str(), "Error");
+}
