@@ -1,15 +1,48 @@
-/* hours.dll: the zmanim that the user has chosen. */
+/* hours.dll: the zmanim that the user has chosen, in the user's order, and the dialog to choose them.
+ *
+ * The choice is kept in the settings folder; a change of it, by whichever program, counts after at most 50 ms.
+ * Indices count the chosen zmanim from 0. */
 #ifndef TIMES_READINGS_COMPANION_HOURS_H
 #define TIMES_READINGS_COMPANION_HOURS_H
 
 #include <stdint.h>
+#include <windows.h>
 
 #ifdef __cplusplus
 extern "C" {
 #endif
 
-/* The number of zmanim in the user's selection. */
+/* The size of the buffers for descriptions, terminator included. */
+#define HOURS_TEXT_SIZE 256
+
+/* What HoursCalculate2 answers for a zman that does not occur. */
+#define HOURS_NONE (-1)
+
+/* The number of zmanim in the user's selection, at most 100. */
 uint32_t HoursGetCount(void);
+
+/* The zman's description in English (windows-1252, at most 48 bytes, unique in the selection) into text, a buffer of
+ * HOURS_TEXT_SIZE bytes. Nonzero on success; 0 with text untouched when there is no such zman. */
+int32_t HoursGetDescription(uint32_t index, char* text);
+
+/* The same in Hebrew: bytes of the Hebrew display font in reading order, numbers reversed and brackets swapped, so that
+ * the text with all its bytes reversed reads right when it is drawn from left to right. */
+int32_t HoursGetDescriptionHebrew(uint32_t index, char* text);
+
+/* The zman in minutes after midnight of the Gregorian date, 0 to 1439, on the clock in force there, or HOURS_NONE.
+ * A zman after midnight answers the clock time of the next civil day. Coordinates are packed (degrees * 100 + minutes,
+ * negative for south and west); the zone is hours and minutes from UTC, both signed, of standard time. Sunrise and
+ * sunset are the solar library's for the same day and place: sunrise, sunset and zmanim of whole minutes from them are
+ * counted from these, all others from the exact moments. document is not used and may be null. Shows no window, writes
+ * no file. */
+int32_t HoursCalculate2(HWND document, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes,
+                        uint32_t day, uint32_t month, uint32_t year, uint32_t index, int32_t sunriseHour,
+                        int32_t sunriseMinute, int32_t sunsetHour, int32_t sunsetMinute);
+
+/* The modal dialog in which the user chooses zmanim, orders them and makes zmanim of their own; the times that it shows
+ * are those of today at the given place. owner may be null. OK writes the choice at once and whole; when that fails, the
+ * dialog says so and stays. Cancel writes nothing. */
+void HoursDoDialogInitLoc(HWND owner, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes);
 
 #ifdef __cplusplus
 }

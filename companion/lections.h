@@ -1,0 +1,56 @@
+/* lections.dll: Torah and Haftarah readings of a Jewish date by the user's land, custom and language, Yizkor, and the
+ * dialogs to set them. Settings are kept in the settings folder; a change counts after at most 50 ms. */
+#ifndef TIMES_READINGS_COMPANION_LECTIONS_H
+#define TIMES_READINGS_COMPANION_LECTIONS_H
+
+#include <stdint.h>
+#include <windows.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Zero-terminated 8-bit texts in the charset of LectionsGetFont2, none over 255 bytes. */
+typedef struct LectionsReadings {
+  char torah1[260]; /* the weekly portion or the reading of the day; empty: the day has no readings */
+  char torah2[260];
+  char torah3[260];
+  char haftarah1[256];
+  char haftarah2[256];
+  char haftarah3[256];
+  char extraText[256]; /* windows-1252 in every language: it is drawn in the program's own font */
+} LectionsReadings;
+
+typedef struct LectionsFont {
+  uint32_t UseDefaultFont; /* nonzero: the program's own font; the rest then does not count */
+  char FaceName[256];
+  uint32_t PointSize;
+  uint32_t CharSet; /* Windows charset number; 0: none given */
+} LectionsFont;
+
+/* The readings of a Jewish date (months from Nisan = 1, Adar (I) = 12, Adar II = 13). The record is filled whole; a date
+ * that does not exist has no readings. */
+void LectionsGetReadings(uint32_t day, uint32_t month, uint32_t year, LectionsReadings* readings);
+
+/* The code of the language of the texts (1 English, 2 English in Ashkenazi spelling, 4 Hebrew). */
+uint32_t LectionsGetLanguage(void);
+
+/* Nonzero when Yizkor is said on the Jewish date in the user's land. */
+int32_t LectionsIsYizkor(uint32_t day, uint32_t month, uint32_t year);
+
+/* The word for Yizkor into text, a buffer of 256 bytes: windows-1252 in every language, at most 10 bytes. */
+void LectionsGetYizkor(char* text);
+
+/* The font that the texts are to be drawn in. */
+void LectionsGetFont2(LectionsFont* font);
+
+/* Modal dialogs: land, customs and what is shown; the language of the texts. owner may be null. Nonzero when OK has
+ * stored the settings; 0 on Cancel, which changes nothing. */
+int32_t LectionsDoConfigureDialog(HWND owner);
+int32_t LectionsDoLanguageDialog(HWND owner);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
