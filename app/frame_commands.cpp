@@ -9,7 +9,6 @@
 #include "app/program.h"
 #include "companion/candles.h"
 #include "companion/guide.h"
-#include "companion/hours.h"
 #include "companion/placepick.h"
 #include "companion/stamp.h"
 #include "engine/current.h"
@@ -21,6 +20,7 @@
 #include "locations/location_manager.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
+#include "zmanim/zmanim_count.h"
 
 namespace {
 
@@ -74,7 +74,7 @@ void ManageLocations(HWND frame) {
 
 // The zmanim in use have changed.
 void RenewZmanim(HWND frame) {
-  Program.zmanimCount = HoursGetCount();
+  RefreshZmanimCount();
   ApplyCandleOverrideRule();
   OpenAndCompute(frame);
 }

@@ -54,7 +54,8 @@
 #define IDS_BUTTON_HELP 58
 #define IDS_BUTTON_BAR_MITZVAH 59
 #define IDS_BUTTON_DAF_YOMI 60
-#define IDS_LAST 60
+#define IDS_FIRST_BUILT_IN_ZMAN 64 /* the built-in zmanim in the order of their table, to 82 */
+#define IDS_LAST 82
 
 /* Commands of the frame. */
 #define IDM_SELECT_LOCATION 1001
