@@ -1,5 +1,4 @@
 #include <cstring>
-#include <optional>
 
 #include "companion/glyphs.h"
 #include "companion/stamp.h"
@@ -9,8 +8,8 @@
 #include "engine/core/records.h"
 #include "output/date_text.h"
 #include "resources/ids.h"
+#include "win/list_pane_scroll.h"
 #include "win/scoped.h"
-#include "win/scroll_bar.h"
 #include "win/text_metrics.h"
 
 namespace {
@@ -75,29 +74,18 @@ LRESULT OnSize(HWND pane) {
 }
 
 LRESULT OnVerticalScroll(HWND pane, int code, int thumb) {
-  const std::optional<ScrollRequest> request = ScrollRequestOf(code);
-  if (!request) return 0;
   const ShabbatListGeometry geometry = GeometryOf(pane);
-  ScrollState state = ScrollStateOf(pane, SB_VERT);
-  state.page = geometry.WholeLines();
-  state.thumb = thumb;
-  const int position = ScrolledPosition(*request, state);
-  if (position == state.position) return 0;
-  ScrollWindow(pane, 0, (state.position - position) * geometry.lineHeight, nullptr, nullptr);
-  SetScrollPos(pane, SB_VERT, position, TRUE);
-  UpdateWindow(pane);
-  return 0;
-}
-
-LRESULT OnMouseWheel(HWND pane, int16_t delta) {
-  if (!IsWheelDelta(delta)) return 0;
-  SetScrollPos(pane, SB_VERT, WheeledPosition(delta, ScrollStateOf(pane, SB_VERT)), TRUE);
-  InvalidateRect(pane, nullptr, TRUE);
+  ScrollLines(pane, code, thumb, geometry.WholeLines(), geometry.lineHeight);
   return 0;
 }
 
 LRESULT OnKeyDown(HWND pane, WPARAM key) {
-  SendScrollKey(pane, kVerticalScrollKeys, key);
+  ScrollByKey(pane, key);
+  return 0;
+}
+
+LRESULT OnMouseWheel(HWND pane, int16_t delta) {
+  if (IsWheelDelta(delta)) WheelLines(pane, delta);
   return 0;
 }
 
@@ -117,5 +105,5 @@ LRESULT CALLBACK ShabbatListPaneProc(HWND pane, UINT message, WPARAM wParam, LPA
 void SetListPaneScrollRange(HWND listPane) {
   const ScopedGlobalLock<const ShabbatTimesList> list(GetBlockProperty(GetParent(listPane), property::kShabbatTimes));
   const int last = list ? LastScrollPosition(list->count, GeometryOf(listPane).WholeLines()) : 0;
-  SetScrollRangeTo(listPane, SB_VERT, last);
+  SetLastScrollPosition(listPane, SB_VERT, last);
 }
