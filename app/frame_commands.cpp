@@ -21,6 +21,7 @@
 #include "resources/ids.h"
 #include "win/message_box.h"
 #include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_panes.h"
 
 namespace {
 
@@ -29,7 +30,15 @@ struct FrameCommand {
   void (*run)(HWND frame);
 };
 
+// The form of times and the zmanim in use decide how the zmanim view of every document is laid out and scrolls.
+void LayOutZmanimViews() {
+  for (HWND document = GetWindow(Program.mdiClient, GW_CHILD); document; document = GetWindow(document, GW_HWNDNEXT)) {
+    RefreshZmanimView(document);
+  }
+}
+
 void RedrawEverything(HWND frame) {
+  LayOutZmanimViews();
   RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
@@ -75,6 +84,7 @@ void ManageLocations(HWND frame) {
 // The zmanim in use have changed.
 void RenewZmanim(HWND frame) {
   RefreshZmanimCount();
+  LayOutZmanimViews();
   ApplyCandleOverrideRule();
   OpenAndCompute(frame);
 }

@@ -6,6 +6,19 @@ std::string PadRight(std::string_view text, std::size_t width) {
   return padded;
 }
 
+bool IsBlank(std::string_view text) {
+  return text.find_first_not_of(' ') == std::string_view::npos;
+}
+
+std::string ReverseText(std::string_view text) {
+  return {text.rbegin(), text.rend()};
+}
+
+std::string_view FirstWord(std::string_view text) {
+  const std::size_t end = text.find_first_not_of(' ', text.find(' '));
+  return text.substr(0, end);
+}
+
 std::string RtfEscape(std::string_view text) {
   constexpr char kDigits[] = "0123456789ABCDEF";
   std::string escaped;

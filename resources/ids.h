@@ -103,6 +103,11 @@
 #define IDC_ZMANIM_PANE 4
 #define IDC_READINGS_PANE 5
 
+/* Panes of the zmanim view. */
+#define IDC_ZMANIM_HEADING 1
+#define IDC_ZMANIM_TABLE 2
+#define IDC_ZMANIM_LEGEND 3
+
 /* Toolbar buttons of a document window, which are its commands. 8 is not used. */
 #define IDB_SHABBAT_TIMES 1
 #define IDB_ZMANIM 2
@@ -149,6 +154,11 @@
 #define IDC_RTF_ONE_COLUMN 103
 
 #define IDC_ABORT_PROGRESS 101
+
+#define IDC_EDIT_ZMAN_DATE 101
+#define IDC_EDIT_ZMAN_DESCRIPTION 102
+#define IDC_EDIT_ZMAN_HOUR 103
+#define IDC_EDIT_ZMAN_MINUTE 104
 
 #define IDC_LOCATIONS_LIST 101
 #define IDC_LOCATIONS_ADD 102

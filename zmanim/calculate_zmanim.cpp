@@ -17,6 +17,8 @@
 #include "zmanim/core/zmanim_block.h"
 #include "zmanim/custom_zmanim.h"
 #include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_names.h"
+#include "zmanim/zmanim_panes.h"
 
 namespace {
 
@@ -53,11 +55,6 @@ void ComputeBuiltInDay(const DaySun& sun, ZmanimDay& day) {
   }
 }
 
-std::string PlaceOf(HWND document) {
-  const ScopedGlobalLock<const char> city(GetBlockProperty(document, property::kCity));
-  return city ? city.get() : "";
-}
-
 // A day's date, its sun and the marks of the slots that the calculation leaves alone.
 DaySun BeginDay(int32_t absoluteDay, uint32_t zmanimCount, ZmanimDay& day) {
   day.date = DateFromAbsolute(absoluteDay);
@@ -74,8 +71,7 @@ void FillBlock(HWND document, int32_t firstDay, ZmanimBlock& block) {
     }
     return;
   }
-  LibraryQuestions questions{document, PlaceOf(document), {}, {}};
-  for (uint32_t zman = 0; zman < inUse.count; ++zman) questions.descriptions.push_back(LibraryZmanName(zman));
+  LibraryQuestions questions{document, DocumentPlace(document), ZmanNames(inUse), {}};
   for (uint32_t i = 0; i < block.count; ++i) {
     ComputeLibraryDay(questions, BeginDay(dayNumber(i), inUse.count, block.days[i]), block.days[i]);
   }
@@ -100,4 +96,5 @@ void CalculateZmanim(HWND document, uint32_t startDay, uint32_t startMonth, uint
   const int32_t firstDay = AbsoluteFromDate({startDay, startMonth, startYear});
   const int32_t lastDay = AbsoluteFromDate({endDay, endMonth, endYear});
   ReplaceBlockProperty(document, property::kZmanimTimes, BuildBlock(document, firstDay, lastDay));
+  RefreshZmanimView(document);
 }

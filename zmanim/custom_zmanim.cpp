@@ -1,11 +1,6 @@
 #include "zmanim/custom_zmanim.h"
 
-#include "companion/hours.h"
-
-std::string LibraryZmanName(uint32_t zman) {
-  char text[HOURS_TEXT_SIZE] = "";
-  return HoursGetDescription(zman, text) ? text : "";
-}
+#include "zmanim/zmanim_names.h"
 
 bool GetCustomZman(const OwnHoursHandle* store, const CalendarDate& date, const std::string& description,
                    const char* location, ClockTime& time) {

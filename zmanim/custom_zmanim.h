@@ -21,9 +21,6 @@ class ScopedCustomZmanim {
   OwnHoursHandle handle_{};
 };
 
-// The description of a zman of the library; empty when it has none.
-std::string LibraryZmanName(uint32_t zman);
-
 // Whether the store holds a time for the key; it is written then. A zman without a description has none.
 bool GetCustomZman(const OwnHoursHandle* store, const CalendarDate& date, const std::string& description,
                    const char* location, ClockTime& time);
