@@ -1,0 +1,105 @@
+#include "benchmarks/zmanim_bench.h"
+
+#include <windows.h>
+
+#include <cstdio>
+#include <string>
+
+#include "app/active_document.h"
+#include "app/bound_entries.h"
+#include "app/frame_window.h"
+#include "app/program.h"
+#include "app/window_classes.h"
+#include "benchmarks/measured.h"
+#include "document/properties.h"
+#include "engine/current.h"
+#include "resources/ids.h"
+#include "win/scoped.h"
+#include "zmanim/calculate_zmanim.h"
+#include "zmanim/core/zmanim_block.h"
+#include "zmanim/zmanim_count.h"
+
+namespace {
+
+constexpr int kCalculations = 3;
+constexpr int kPaintings = 20;
+constexpr int kSteps = 200;
+constexpr int32_t kFirstDay = 726468;  // 1 January 1990
+constexpr int32_t kDays = 32000;
+
+// Chooses so many zmanim, each by a depression of its own, and waits until the library has noticed.
+bool ChooseZmanim(const SettingsHome& home, uint32_t count) {
+  std::string text;
+  for (uint32_t i = 1; i <= count; ++i) {
+    const std::string number = std::to_string(i);
+    const std::string degrees = std::to_string(3 + i / 10) + "." + std::to_string(i % 10);
+    text += "zman own-" + number + "\nown " + number + " degrees-before-sunrise " + degrees + " up Dawn by " + degrees +
+            " degrees|" + number + "\n";
+  }
+  home.Put("hours.txt", text);
+  for (int i = 0; i < 100; ++i) {
+    RefreshZmanimCount();
+    if (GetZmanimCount() == count) return true;
+    Sleep(10);
+  }
+  std::fprintf(stderr, "%u zmanim instead of %u\n", GetZmanimCount(), count);
+  return false;
+}
+
+void MeasureCalculation(HWND document, const char* name) {
+  const CalendarDate start = DateFromAbsolute(kFirstDay);
+  const CalendarDate end = DateFromAbsolute(kFirstDay + kDays - 1);
+  Report(name, BestMilliseconds(kCalculations, [&] {
+           CalculateZmanim(document, start.uDay, start.uMonth, start.uYear, end.uDay, end.uMonth, end.uYear);
+         }));
+  const uint32_t count = ScopedGlobalLock<const ZmanimBlock>(GetBlockProperty(document, property::kZmanimTimes))->count;
+  if (count != kDays) std::fprintf(stderr, "%u days instead of %d\n", count, kDays);
+}
+
+void MeasurePainting(HWND pane, const char* name) {
+  Report(name, BestMilliseconds(kPaintings, [pane] {
+           RedrawWindow(pane, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+           GdiFlush();
+         }));
+}
+
+// Forth and back again.
+void MeasureSteps(HWND table, UINT message, int forth, int back, const char* name) {
+  const double milliseconds = BestMilliseconds(3, [=] {
+    for (int i = 0; i < kSteps; ++i) SendMessageA(table, message, static_cast<WPARAM>(i % 2 ? back : forth), 0);
+    GdiFlush();
+  });
+  Report(name, milliseconds / kSteps);
+}
+
+void MeasureTable(HWND document) {
+  const HWND container = GetDlgItem(document, IDC_ZMANIM_PANE);
+  const HWND table = GetDlgItem(container, IDC_ZMANIM_TABLE);
+  MeasurePainting(table, "a screen of the zmanim table, ms");
+  MeasurePainting(GetDlgItem(container, IDC_ZMANIM_LEGEND), "legend of 100 zmanim, ms");
+  MeasureSteps(table, WM_VSCROLL, SB_LINEDOWN, SB_LINEUP, "zmanim table, a day down or up, ms");
+  MeasureSteps(table, WM_HSCROLL, SB_LINERIGHT, SB_LINELEFT, "zmanim table, a zman right or left, ms");
+  MeasureSteps(table, WM_VSCROLL, SB_PAGEDOWN, SB_PAGEUP, "zmanim table, a page down or up, ms");
+}
+
+}  // namespace
+
+bool MeasureZmanim(const SettingsHome& home) {
+  Program.instance = GetModuleHandleA(nullptr);
+  const HBRUSH tooltipBrush = CreateSolidBrush(RGB(255, 255, 0));
+  if (!RegisterWindowClasses(Program.instance, tooltipBrush)) return false;
+  const HWND frame = CreateFrameWindow(SW_SHOWNORMAL);
+  const HWND document = frame ? ActiveDocument() : nullptr;
+  if (!document) return false;
+  SendMessageA(document, WM_COMMAND, IDB_ZMANIM, 0);
+  bool chosen = ChooseZmanim(home, 40);
+  if (chosen) MeasureCalculation(document, "32,000 days x 40 zmanim, ms");
+  chosen = chosen && ChooseZmanim(home, 100);
+  if (chosen) {
+    MeasureCalculation(document, "32,000 days x 100 zmanim, ms");
+    MeasureTable(document);
+  }
+  DestroyWindow(frame);
+  DeleteObject(tooltipBrush);
+  return chosen;
+}
