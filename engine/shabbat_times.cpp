@@ -10,6 +10,7 @@
 #include "engine/core/shabbat_rules.h"
 #include "engine/current.h"
 #include "engine/shabbat_preferences.h"
+#include "readings/readings_list.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
 #include "win/scoped.h"
@@ -115,6 +116,7 @@ void CalculateShabbatTimes(HWND document, uint32_t startDay, uint32_t startMonth
   const ScopedWaitCursor wait;
   SetCity(document);
   SetRangeProperties(document, CurrentRange);
+  BuildReadingsList(document, startDay, startMonth, startYear, endDay, endMonth, endYear);
   SetPlaceProperties(document);
   const int32_t firstDay = AbsoluteFromDate({startDay, startMonth, startYear});
   const int32_t lastDay = AbsoluteFromDate({endDay, endMonth, endYear});

@@ -102,6 +102,10 @@
 #define IDC_ZMANIM_PANE 4
 #define IDC_READINGS_PANE 5
 
+/* Children of the readings container. */
+#define IDC_READINGS_HEADER_PANE 1
+#define IDC_READINGS_LIST_PANE 2
+
 /* Toolbar buttons of a document window, which are its commands. 8 is not used. */
 #define IDB_SHABBAT_TIMES 1
 #define IDB_ZMANIM 2
