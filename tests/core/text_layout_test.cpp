@@ -18,6 +18,17 @@ TEST(RtfEscape, ReplacesBracesAndBackslashOnly) {
   EXPECT_EQ(RtfEscape(""), "");
 }
 
+TEST(RtfEscape, ReplacesTheBytesAskedFor) {
+  EXPECT_EQ(RtfEscape("It's {a}", "'{"), "It\\'27s \\'7Ba}");
+}
+
+TEST(IsBlank, TakesSpacesAloneForNothing) {
+  EXPECT_TRUE(IsBlank(""));
+  EXPECT_TRUE(IsBlank("   "));
+  EXPECT_FALSE(IsBlank(" a "));
+  EXPECT_FALSE(IsBlank("\t"));
+}
+
 TEST(WriteLine, EndsInCarriageReturnAndLineFeed) {
   StringSink sink;
   WriteLine(sink, "a");
