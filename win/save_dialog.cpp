@@ -1,5 +1,6 @@
 #include "win/save_dialog.h"
 
+#include <cderr.h>
 #include <commdlg.h>
 
 #include "win/message_box.h"
