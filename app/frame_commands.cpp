@@ -9,7 +9,6 @@
 #include "app/program.h"
 #include "companion/candles.h"
 #include "companion/guide.h"
-#include "companion/hours.h"
 #include "companion/lections.h"
 #include "companion/placepick.h"
 #include "companion/stamp.h"
@@ -22,6 +21,8 @@
 #include "locations/location_manager.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
+#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_panes.h"
 
 namespace {
 
@@ -30,7 +31,15 @@ struct FrameCommand {
   void (*run)(HWND frame);
 };
 
+// The form of times and the zmanim in use decide how the zmanim view of every document is laid out and scrolls.
+void LayOutZmanimViews() {
+  for (HWND document = GetWindow(Program.mdiClient, GW_CHILD); document; document = GetWindow(document, GW_HWNDNEXT)) {
+    RefreshZmanimView(document);
+  }
+}
+
 void RedrawEverything(HWND frame) {
+  LayOutZmanimViews();
   RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
@@ -75,7 +84,8 @@ void ManageLocations(HWND frame) {
 
 // The zmanim in use have changed.
 void RenewZmanim(HWND frame) {
-  Program.zmanimCount = HoursGetCount();
+  RefreshZmanimCount();
+  LayOutZmanimViews();
   ApplyCandleOverrideRule();
   OpenAndCompute(frame);
 }

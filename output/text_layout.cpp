@@ -7,7 +7,16 @@ std::string PadRight(std::string_view text, std::size_t width) {
 }
 
 bool IsBlank(std::string_view text) {
-  return text.find_first_not_of(' ') == text.npos;
+  return text.find_first_not_of(' ') == std::string_view::npos;
+}
+
+std::string ReverseText(std::string_view text) {
+  return {text.rbegin(), text.rend()};
+}
+
+std::string_view FirstWord(std::string_view text) {
+  const std::size_t end = text.find_first_not_of(' ', text.find(' '));
+  return text.substr(0, end);
 }
 
 std::string RtfEscape(std::string_view text, std::string_view special) {

@@ -20,8 +20,9 @@ struct DoubledPlace {
 
 struct BoundScript {
   std::vector<DoubledPlace> places;
-  // The sunset of a date; each question is logged.
+  // Sunset and sunrise of a date; each question is logged.
   std::function<DoubledTime(const CalendarDate&)> sunset;
+  std::function<DoubledTime(const CalendarDate&)> sunrise;
   // Applied to every date that the calendar answers.
   std::function<void(CalendarDate&)> spoilDate;
 };
@@ -31,5 +32,6 @@ inline constexpr uint32_t kDoubledJewishEpoch = 3760;
 
 BoundScript& Bound();
 
-// Fills the bound entry points with the doubles: places Aachen, Haifa and Jerusalem, sunset at 19:05 every day.
+// Fills the bound entry points with the doubles: places Aachen, Haifa and Jerusalem, sunrise at 05:47 and sunset at
+// 19:05 every day.
 void ResetBoundLibraries();
