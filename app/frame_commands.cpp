@@ -9,6 +9,7 @@
 #include "app/program.h"
 #include "companion/candles.h"
 #include "companion/guide.h"
+#include "companion/lections.h"
 #include "companion/placepick.h"
 #include "companion/stamp.h"
 #include "engine/current.h"
@@ -97,6 +98,14 @@ void ToggleBuiltInZmanim(HWND frame) {
   }
 }
 
+// A change of what readings are shown does not move the place.
+template <int32_t (*dialog)(HWND owner)>
+void ChangeReadings(HWND frame) {
+  if (!dialog(frame)) return;
+  ApplyCandleOverrideRule();
+  OpenAndCompute(frame);
+}
+
 // Deliberate: a document is opened whatever the dialog's outcome.
 void ChangeCustomTimes(HWND frame) {
   CandlesDoDialog(frame);
@@ -146,6 +155,8 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_EXPORT_TEXT, ExportText},
     {IDM_EXPORT_RTF, ExportRtf},
     {IDM_EXIT, Exit},
+    {IDM_READINGS_CONFIGURE, ChangeReadings<LectionsDoConfigureDialog>},
+    {IDM_READINGS_LANGUAGE, ChangeReadings<LectionsDoLanguageDialog>},
     {IDM_CUSTOM_CANDLES, ChangeCustomTimes},
     {IDM_TIME_FORM, ChangeFormOfTimes},
     {IDM_ZMANIM_HEBREW, NameZmanim<true>},

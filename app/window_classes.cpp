@@ -6,6 +6,7 @@
 #include "document/shabbat_panes.h"
 #include "document/toolbar.h"
 #include "document/tooltip.h"
+#include "readings/readings_panes.h"
 #include "resources/ids.h"
 #include "win/class_names.h"
 #include "zmanim/zmanim_panes.h"
@@ -34,9 +35,9 @@ constexpr WindowClass kWindowClasses[] = {
     {window_class::kZmanimHeadingPane, true, Background::kWhite, ZmanimHeadingPaneProc},
     {window_class::kZmanimTablePane, true, Background::kWhite, ZmanimTablePaneProc},
     {window_class::kZmanimLegendPane, true, Background::kWhite, ZmanimLegendPaneProc},
-    {window_class::kReadingsContainer, true, Background::kWhite, DefWindowProcA},
-    {window_class::kReadingsHeaderPane, true, Background::kWhite, DefWindowProcA},
-    {window_class::kReadingsListPane, true, Background::kWhite, DefWindowProcA},
+    {window_class::kReadingsContainer, true, Background::kWhite, ReadingsContainerProc},
+    {window_class::kReadingsHeaderPane, true, Background::kWhite, ReadingsHeaderPaneProc},
+    {window_class::kReadingsListPane, true, Background::kWhite, ReadingsListPaneProc},
     {window_class::kTooltip, true, Background::kTooltip, TooltipProc},
 };
 

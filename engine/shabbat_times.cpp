@@ -10,6 +10,7 @@
 #include "engine/current.h"
 #include "engine/shabbat_preferences.h"
 #include "engine/sun_times.h"
+#include "readings/readings_list.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
 #include "win/scoped.h"
@@ -101,6 +102,7 @@ void CalculateShabbatTimes(HWND document, uint32_t startDay, uint32_t startMonth
   SetCity(document);
   SetRangeProperties(document, CurrentRange);
   CalculateZmanim(document, startDay, startMonth, startYear, endDay, endMonth, endYear);
+  BuildReadingsList(document, startDay, startMonth, startYear, endDay, endMonth, endYear);
   SetPlaceProperties(document);
   const int32_t firstDay = AbsoluteFromDate({startDay, startMonth, startYear});
   const int32_t lastDay = AbsoluteFromDate({endDay, endMonth, endYear});

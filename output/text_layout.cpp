@@ -19,11 +19,11 @@ std::string_view FirstWord(std::string_view text) {
   return text.substr(0, end);
 }
 
-std::string RtfEscape(std::string_view text) {
+std::string RtfEscape(std::string_view text, std::string_view special) {
   constexpr char kDigits[] = "0123456789ABCDEF";
   std::string escaped;
   for (const char c : text) {
-    if (c != '{' && c != '}' && c != '\\') {
+    if (special.find(c) == special.npos) {
       escaped += c;
       continue;
     }

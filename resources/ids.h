@@ -108,6 +108,10 @@
 #define IDC_ZMANIM_TABLE 2
 #define IDC_ZMANIM_LEGEND 3
 
+/* Panes of the readings view. */
+#define IDC_READINGS_HEADER_PANE 1
+#define IDC_READINGS_LIST_PANE 2
+
 /* Toolbar buttons of a document window, which are its commands. 8 is not used. */
 #define IDB_SHABBAT_TIMES 1
 #define IDB_ZMANIM 2

@@ -3,25 +3,18 @@
 #include <set>
 #include <vector>
 
+#include "libraries/settings_folder/text_lines.h"
+
 namespace candles {
 namespace {
 
-std::string_view FirstLineEnd(std::string_view text) {
-  const std::string_view end = text.empty() ? text : TakeLine(text).end;
-  return end.empty() ? "\r\n" : end;
-}
-
-std::vector<Line> LinesOf(std::string_view text) {
-  std::vector<Line> lines;
-  while (!text.empty()) lines.push_back(TakeLine(text));
-  return lines;
-}
+using settings_folder::Line;
 
 // The lines that stay, the last first, with the changes made in them. placed collects the occasions that have their
 // line: of several lines the last is the one that counts.
 std::vector<std::string> RemainingBackwards(const Changes& changes, std::string_view text, std::set<Occasion>& placed) {
   std::vector<std::string> remaining;
-  const std::vector<Line> lines = LinesOf(text);
+  const std::vector<Line> lines = settings_folder::LinesOf(text);
   for (auto at = lines.rbegin(); at != lines.rend(); ++at) {
     const Line& line = *at;
     const std::optional<Entry> entry = EntryIn(line.content);
@@ -52,13 +45,13 @@ Changes Difference(const Entries& before, const Entries& after) {
 }
 
 std::string Applied(const Changes& changes, std::string_view text) {
-  std::string result(text.substr(0, MarkLength(text)));
+  std::string result(text.substr(0, settings_folder::MarkLength(text)));
   text.remove_prefix(result.size());
   std::set<Occasion> placed;
   const std::vector<std::string> remaining = RemainingBackwards(changes, text, placed);
   for (auto line = remaining.rbegin(); line != remaining.rend(); ++line) result += *line;
 
-  const std::string_view end = FirstLineEnd(text);
+  const std::string_view end = settings_folder::FirstLineEnd(text);
   bool isEndMissing = !remaining.empty() && remaining.front().back() != '\n' && remaining.front().back() != '\r';
   for (const auto& [occasion, times] : changes) {
     if (!times || placed.contains(occasion)) continue;

@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <utility>
 
+#include "libraries/settings_folder/text_lines.h"
+
 namespace candles {
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 constexpr uint32_t kLastYear = 9999;
 
@@ -42,70 +42,12 @@ std::string KeyOf(std::string_view place, uint32_t day, uint32_t month, uint32_t
   return key.append(place);
 }
 
-std::optional<char> HexByte(std::string_view digits) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF0123456789abcdef";
-  if (digits.size() < 2) return std::nullopt;
-  const size_t high = kDigits.find(digits[0]);
-  const size_t low = kDigits.find(digits[1]);
-  if (high == std::string_view::npos || low == std::string_view::npos) return std::nullopt;
-  return static_cast<char>((high % 16) << 4 | low % 16);
-}
-
 // The bytes that a written place stands for; none when it is damaged.
 std::optional<std::string> Place(std::string_view written) {
-  written = written.substr(0, written.find_last_not_of(" \t") + 1);
-  std::string place;
-  for (size_t i = 0; i < written.size(); ++i) {
-    if (written[i] != '%') {
-      place += written[i];
-      continue;
-    }
-    const std::optional<char> byte = HexByte(written.substr(i + 1));
-    if (!byte) return std::nullopt;
-    place += *byte;
-    i += 2;
-  }
-  return place;
-}
-
-bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
-}
-
-bool IsControl(char c) {
-  const auto byte = static_cast<unsigned char>(c);
-  return byte < 0x20 || byte == 0x7F;
-}
-
-// The place as it is written.
-std::string Written(std::string_view place) {
-  std::string written;
-  for (size_t i = 0; i < place.size(); ++i) {
-    const bool isEdge = i == 0 || i + 1 == place.size();
-    if (place[i] != '%' && !IsControl(place[i]) && !(isEdge && IsBlank(place[i]))) {
-      written += place[i];
-      continue;
-    }
-    char code[4];
-    std::snprintf(code, sizeof code, "%%%02X", static_cast<unsigned>(static_cast<unsigned char>(place[i])));
-    written += code;
-  }
-  return written;
+  return settings_folder::PercentDecoded(written.substr(0, written.find_last_not_of(" \t") + 1));
 }
 
 }  // namespace
-
-size_t MarkLength(std::string_view text) {
-  return text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
-}
-
-Line TakeLine(std::string_view& text) {
-  const size_t length = std::min(text.find_first_of("\r\n"), text.size());
-  const size_t endLength = text.substr(length).starts_with("\r\n") ? 2 : length < text.size() ? 1 : 0;
-  const Line line = {text.substr(0, length), text.substr(length, endLength)};
-  text.remove_prefix(length + endLength);
-  return line;
-}
 
 std::optional<Entry> EntryIn(std::string_view line) {
   if (!HasPattern(line)) return std::nullopt;
@@ -126,13 +68,13 @@ std::string LineOf(const Entry& entry) {
   char columns[64];
   std::snprintf(columns, sizeof columns, "%04u-%02u-%02u %02d:%02d %02d:%02d ", occasion.year, occasion.month,
                 occasion.day, times.candleHour, times.candleMinute, times.endHour, times.endMinute);
-  return columns + Written(occasion.place);
+  return columns + settings_folder::PercentCoded(occasion.place);
 }
 
 Store::Store(std::string_view text) {
-  text.remove_prefix(MarkLength(text));
+  text.remove_prefix(settings_folder::MarkLength(text));
   while (!text.empty()) {
-    std::optional<Entry> entry = EntryIn(TakeLine(text).content);
+    std::optional<Entry> entry = EntryIn(settings_folder::TakeLine(text).content);
     if (!entry) continue;
     const Occasion& occasion = entry->occasion;
     std::string key = KeyOf(occasion.place, occasion.day, occasion.month, occasion.year);

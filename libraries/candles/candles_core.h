@@ -50,18 +50,6 @@ struct Entry {
 
 using Entries = std::map<Occasion, Times>;
 
-// A line of the file without and with what ends it: CR, LF, both, or nothing at the end of the text.
-struct Line {
-  std::string_view content;
-  std::string_view end;
-};
-
-// The length of the byte order mark that the text starts with, or 0.
-size_t MarkLength(std::string_view text);
-
-// Takes the first line off the text, which is not empty.
-Line TakeLine(std::string_view& text);
-
 // The entry that a line is; none when it is none.
 std::optional<Entry> EntryIn(std::string_view line);
 

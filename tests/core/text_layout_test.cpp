@@ -18,6 +18,10 @@ TEST(RtfEscape, ReplacesBracesAndBackslashOnly) {
   EXPECT_EQ(RtfEscape(""), "");
 }
 
+TEST(RtfEscape, ReplacesTheBytesAskedFor) {
+  EXPECT_EQ(RtfEscape("It's {a}", "'{"), "It\\'27s \\'7Ba}");
+}
+
 TEST(IsBlank, SpacesOnlyAreBlank) {
   EXPECT_TRUE(IsBlank(""));
   EXPECT_TRUE(IsBlank("   "));

@@ -26,6 +26,11 @@ void ForeignFromAbsolute(int32_t absoluteDay, CalendarDate* date) {
   if (Bound().spoilDate) Bound().spoilDate(*date);
 }
 
+void JewishForeignFromAbsolute(int32_t absoluteDay, CalendarDate* date) {
+  ForeignFromAbsolute(absoluteDay, date);
+  date->uYear += kDoubledJewishEpoch;
+}
+
 uint32_t CountPlaces() {
   return static_cast<uint32_t>(Bound().places.size());
 }
@@ -73,6 +78,7 @@ void ResetBoundLibraries() {
   CivilCalendar.DatefilterAbsoluteFromForeign = AbsoluteFromForeign;
   CivilCalendar.DatefilterForeignFromAbsolute = ForeignFromAbsolute;
   LunarCalendar = {};
+  LunarCalendar.DatefilterForeignFromAbsolute = JewishForeignFromAbsolute;
   Solar = {};
   Solar.SolarGetCountOfBuiltInLocations = CountPlaces;
   Solar.SolarGetBuiltInLocation = GetPlace;

@@ -1,5 +1,5 @@
-// Stand-ins for the libraries that the program binds by name: a Gregorian calendar by the standard library's, a few
-// places, and a sun that sets when the test says.
+// Stand-ins for the libraries that the program binds by name: a Gregorian calendar by the standard library's, a Jewish
+// one that has the same days and months in years of its own, a few places, and a sun that sets when the test says.
 #pragma once
 
 #include <cstdint>
@@ -26,6 +26,9 @@ struct BoundScript {
   // Applied to every date that the calendar answers.
   std::function<void(CalendarDate&)> spoilDate;
 };
+
+// A Gregorian year is the doubled Jewish calendar's year less this: 6.1.2007 is 6.1.5767.
+inline constexpr uint32_t kDoubledJewishEpoch = 3760;
 
 BoundScript& Bound();
 

@@ -11,6 +11,7 @@
 #include "companion/guide.h"
 #include "companion/hours.h"
 #include "companion/kinship.h"
+#include "companion/lections.h"
 #include "companion/ownhours.h"
 #include "companion/placepick.h"
 #include "companion/profile.h"
@@ -175,6 +176,57 @@ void CandlesDoDialog(HWND owner) {
 uint32_t HoursGetCount(void) {
   LogCall("HoursGetCount");
   return Libraries().zmanimCount;
+}
+
+namespace {
+
+std::string JewishDateText(uint32_t day, uint32_t month, uint32_t year) {
+  return std::to_string(day) + "." + std::to_string(month) + "." + std::to_string(year);
+}
+
+}  // namespace
+
+void LectionsGetReadings(uint32_t day, uint32_t month, uint32_t year, LectionsReadings* readings) {
+  *readings = {};
+  const auto found = Libraries().readings.find(JewishDateText(day, month, year));
+  if (found == Libraries().readings.end()) return;
+  std::vector<std::string> texts = found->second;
+  texts.resize(7);
+  std::strcpy(readings->torah1, texts[0].c_str());
+  std::strcpy(readings->torah2, texts[1].c_str());
+  std::strcpy(readings->torah3, texts[2].c_str());
+  std::strcpy(readings->haftarah1, texts[3].c_str());
+  std::strcpy(readings->haftarah2, texts[4].c_str());
+  std::strcpy(readings->haftarah3, texts[5].c_str());
+  std::strcpy(readings->extraText, texts[6].c_str());
+}
+
+uint32_t LectionsGetLanguage(void) {
+  return Libraries().readingsLanguage;
+}
+
+int32_t LectionsIsYizkor(uint32_t day, uint32_t month, uint32_t year) {
+  return Libraries().yizkorDays.count(JewishDateText(day, month, year)) ? 7 : 0;
+}
+
+void LectionsGetYizkor(char* text) {
+  std::strcpy(text, Libraries().yizkorText.c_str());
+}
+
+void LectionsGetFont2(LectionsFont* font) {
+  const DoubledFont& script = Libraries().readingsFont;
+  *font = {script.face.empty() ? 1u : 0u, "", script.points, script.charset};
+  std::strcpy(font->FaceName, script.face.c_str());
+}
+
+int32_t LectionsDoConfigureDialog(HWND owner) {
+  LogCall("readings, owner %s", owner ? "yes" : "none");
+  return Libraries().readingsChanged;
+}
+
+int32_t LectionsDoLanguageDialog(HWND owner) {
+  LogCall("language of readings, owner %s", owner ? "yes" : "none");
+  return Libraries().readingsChanged;
 }
 
 int32_t HoursGetDescription(uint32_t index, char* text) {

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -30,6 +31,13 @@ struct Draw {
   std::string text;
   std::string font;
   bool operator==(const Draw&) const = default;
+};
+
+// The font that the readings library names; an empty face: the program's own.
+struct DoubledFont {
+  std::string face;
+  uint32_t points = 0;
+  uint32_t charset = 0;
 };
 
 // One text that the library breaks into lines itself.
@@ -76,6 +84,14 @@ struct LibraryScript {
   std::map<std::string, DoubledTime> ownTimes;
   bool ownTimesFail = false;  // whether the file cannot be written
   int openOwnTimes = 0;       // stores that are loaded and not done with
+
+  // lections: "day.month.year" of the Jewish date to the seven texts; no readings on any other.
+  std::map<std::string, std::vector<std::string>> readings;
+  std::set<std::string> yizkorDays;
+  uint32_t readingsLanguage = 1;
+  std::string yizkorText = "Yizkor";
+  DoubledFont readingsFont;
+  bool readingsChanged = false;  // the answer of its dialogs
 
   // placepick: the name that the user picks; empty: cancelled
   std::string pickedLocation;

@@ -37,7 +37,8 @@ BOOL GlyphsGetTextExtentPoint(HDC dc, const char* text, int count, SIZE* size) {
 }
 
 int GlyphsDrawText(HDC dc, const char* text, int count, RECT* rectangle, UINT format) {
-  Record(dc, rectangle->left, rectangle->top, std::string(text, static_cast<std::size_t>(count)));
+  const std::string whole = count == -1 ? text : std::string(text, static_cast<std::size_t>(count));
+  Record(dc, rectangle->left, rectangle->top, whole);
   return DrawTextA(dc, text, count, rectangle, format);
 }
 

@@ -28,7 +28,10 @@ class DocumentWindowTest : public ProgramTest {
 
   HWND Pane(int id) { return GetDlgItem(document_, id); }
   // Where the focus of a pane ends up: the zmanim view hands it on to its table.
-  HWND FocusOfPane(int id) { return id == IDC_ZMANIM_PANE ? GetDlgItem(Pane(id), IDC_ZMANIM_TABLE) : Pane(id); }
+  HWND FocusOfPane(int id) {
+    if (id == IDC_ZMANIM_PANE) return GetDlgItem(Pane(id), IDC_ZMANIM_TABLE);
+    return id == IDC_READINGS_PANE ? GetDlgItem(Pane(id), IDC_READINGS_LIST_PANE) : Pane(id);
+  }
   void Command(unsigned id) { SendMessageA(document_, WM_COMMAND, MAKEWPARAM(id, 0), 0); }
 
   HWND document_ = nullptr;
@@ -136,7 +139,7 @@ TEST_F(DocumentWindowTest, GivesTheFocusToTheVisiblePane) {
   EXPECT_EQ(focusOfDocument(), FocusOfPane(4));
   ShowWindow(Pane(4), SW_HIDE);
   ShowWindow(Pane(5), SW_SHOW);
-  EXPECT_EQ(focusOfDocument(), Pane(5));
+  EXPECT_EQ(focusOfDocument(), FocusOfPane(5));
 }
 
 TEST_F(DocumentWindowTest, ShabbatTimesCommandBringsItsPanesBack) {

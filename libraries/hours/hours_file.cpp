@@ -1,0 +1,74 @@
+#include "libraries/hours/hours_file.h"
+
+#include "libraries/hours/description_text.h"
+#include "libraries/settings_folder/settings_folder_win.h"
+#include "libraries/settings_folder/watched_file.h"
+
+namespace hours {
+namespace {
+
+struct ChoiceFile {
+  std::mutex mutex;
+  settings_folder::WatchedFile watched{"hours.txt"};
+  bool isAsked = false;
+  DWORD askedTick = 0;
+  Choice choice;
+  std::vector<AnsweredZman> zmanim;
+};
+
+ChoiceFile choiceFile;
+
+void TakeUp(std::string_view text) {
+  choiceFile.choice = ReadChoice(text);
+  choiceFile.zmanim.clear();
+  for (DescribedZman& zman : ChosenZmanim(choiceFile.choice)) {
+    choiceFile.zmanim.push_back({std::move(zman.description), DisplayHebrew(zman.hebrew), zman.definition});
+  }
+}
+
+void Refresh() {
+  std::string text;
+  if (choiceFile.watched.Refresh(&text)) TakeUp(text);
+}
+
+}  // namespace
+
+SelectionLock::SelectionLock() : lock_(choiceFile.mutex) {
+  // Calls come by the million, and even to ask which file it is takes a microsecond. The tick advances every 10 to 16
+  // ms.
+  const DWORD tick = GetTickCount();
+  if (choiceFile.isAsked && tick == choiceFile.askedTick) return;
+  Refresh();
+  choiceFile.isAsked = true;
+  choiceFile.askedTick = tick;
+}
+
+const std::vector<AnsweredZman>& SelectionLock::Zmanim() const {
+  return choiceFile.zmanim;
+}
+
+Choice StoredChoice() {
+  const std::lock_guard lock(choiceFile.mutex);
+  choiceFile.watched.Distrust();
+  Refresh();
+  return choiceFile.choice;
+}
+
+bool WriteChoice(const Choice& choice) {
+  const std::lock_guard lock(choiceFile.mutex);
+  std::string text;
+  const auto apply = [&choice, &text](std::string& bytes) {
+    bytes = Applied(choice, bytes);
+    text = bytes;
+    return true;
+  };
+  if (!choiceFile.watched.Edit(apply)) return false;
+  TakeUp(text);
+  return true;
+}
+
+std::wstring ChoicePath() {
+  return settings_folder::PathNow(L"hours.txt");
+}
+
+}  // namespace hours

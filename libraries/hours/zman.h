@@ -1,0 +1,62 @@
+// What a zman is: a moment reckoned from the sun of a day, and how it is rounded to a minute.
+//
+// Every zman is a number of proportional hours into some day, and maybe minutes more. Dawn and nightfall are the two
+// ends of a day, its hours 0 and 12. Amounts are whole thousandths, so that they are written and compared exactly.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace hours {
+
+// What a day begins or ends with. In the morning all of them lie before or at midday, in the evening after or at it.
+enum class BoundKind : uint8_t {
+  kSun,                  // sunrise or sunset as the solar library has them, elevation included
+  kSeaLevelSun,          // the same as seen from the sea
+  kDegrees,              // the sun's centre so far below the geometric horizon
+  kMinutes,              // so long before sunrise or after sunset
+  kProportionalMinutes,  // the same in minutes of which the day from sunrise to sunset has 720
+  kTransit,              // the sun's upper culmination
+  kMeanNoon,             // 12:00 of local mean time
+  kMidnight,             // the sun's lower culmination before or after the transit
+};
+
+struct Bound {
+  BoundKind kind;
+  int32_t thousandths = 0;  // of degrees or minutes; negative on the other side of sunrise or sunset
+
+  bool operator==(const Bound&) const = default;
+};
+
+struct Day {
+  Bound start;
+  Bound end;
+
+  bool operator==(const Day&) const = default;
+};
+
+// So many twelfths of the day after its start, and so many minutes of the clock more. At 0 and 12 hours the other end
+// need not occur.
+struct Reckoning {
+  Day day;
+  int32_t thousandthHours;
+  int32_t thousandthMinutes = 0;
+
+  bool operator==(const Reckoning&) const = default;
+};
+
+constexpr int32_t kDayThousandthHours = 12000;
+
+// Deadlines go down and onsets up, so that a time shown is always a safe one.
+enum class Rounding : uint8_t { kDown, kUp, kNearest };
+
+struct Definition {
+  Reckoning reckoning;
+  Rounding rounding;
+  std::optional<Reckoning> notBefore = {};  // the later of both counts
+  bool isForPesachEve = false;              // occurs on 14 Nisan only
+
+  bool operator==(const Definition&) const = default;
+};
+
+}  // namespace hours

@@ -1,0 +1,163 @@
+#include "libraries/hours/zman_day.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+#include "libraries/calendar/jewish.h"
+#include "libraries/sun/clock_time.h"
+
+namespace hours {
+namespace {
+
+constexpr double kSecondsPerDay = 86400;
+constexpr int64_t kMinutesPerDay = 24 * 60;
+constexpr int32_t kAbsoluteDayOfUnixDay0 = 719163;  // Rata Die of 1970-01-01
+constexpr double kProportionalMinutesPerDay = 12 * 60;
+
+double Seconds(int32_t thousandthMinutes) {
+  return thousandthMinutes / 1000.0 * 60;
+}
+
+bool IsWhole(int32_t thousandths) {
+  return thousandths % 1000 == 0;
+}
+
+// The minute nearest to a computed one whose time of day is the shown one.
+int64_t MinuteShown(int64_t computed, int64_t shownOfDay) {
+  const int64_t difference = (shownOfDay % kMinutesPerDay - computed % kMinutesPerDay) % kMinutesPerDay;
+  const int64_t half = kMinutesPerDay / 2;
+  return computed + (difference + kMinutesPerDay + half) % kMinutesPerDay - half;
+}
+
+}  // namespace
+
+ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSun& shown)
+    : unixDay_(unixDay), place_(place), sun_(sun::ComputeSunDay(unixDay, place.site)) {
+  const double before = sun_.noonUtcSeconds - kSecondsPerDay;
+  const double after = sun_.noonUtcSeconds + kSecondsPerDay;
+  offsetSeconds_ = sun::ClockOffsetSeconds(place_.clock, before);
+  hasOneOffset_ = offsetSeconds_ == sun::ClockOffsetSeconds(place_.clock, after);
+  sunrise_ = sun::Sunrise(sun_, place.elevationMetres).utcSeconds;
+  sunset_ = sun::Sunset(sun_, place.elevationMetres).utcSeconds;
+
+  const auto momentShown = [this](double exact, int64_t shownMinutes) {
+    const int32_t offset = OffsetSeconds(exact);
+    return 60.0 * static_cast<double>(MinuteShown(sun::NearestMinute(exact, offset), shownMinutes)) - offset;
+  };
+  shownSunrise_ = momentShown(sunrise_, shown.sunriseMinutes);
+  shownSunset_ = momentShown(sunset_, shown.sunsetMinutes);
+}
+
+int32_t ZmanDay::OffsetSeconds(double utcSeconds) const {
+  if (hasOneOffset_ && std::fabs(utcSeconds - sun_.noonUtcSeconds) < kSecondsPerDay) return offsetSeconds_;
+  return sun::ClockOffsetSeconds(place_.clock, utcSeconds);
+}
+
+bool ZmanDay::IsPesachEve() {
+  if (!isPesachEve_) {
+    const calendar::Date date = calendar::JewishFromAbsolute(unixDay_ + kAbsoluteDayOfUnixDay0);
+    isPesachEve_ = date.day == 14 && date.month == calendar::kNisan;
+  }
+  return *isPesachEve_;
+}
+
+// The moment of that hour on the place's own meridian that is nearest to 12:00 of the standard clock, as the transit
+// is.
+double ZmanDay::MeanNoon() const {
+  const double utcOfDay = kSecondsPerDay / 2 - place_.site.longitudeRadians / (2 * std::numbers::pi) * kSecondsPerDay;
+  return sun_.noonUtcSeconds + std::remainder(utcOfDay - sun_.noonUtcSeconds, kSecondsPerDay);
+}
+
+std::optional<double> ZmanDay::AtDepression(int32_t thousandthDegrees, End end) {
+  const int32_t key = thousandthDegrees * 2 + (end == End::kEnd ? 1 : 0);
+  const auto last = keptKeys_.begin() + static_cast<std::ptrdiff_t>(keptCount_);
+  const auto kept = std::find(keptKeys_.begin(), last, key);
+  double moment;
+  if (kept != last) {
+    moment = keptMoments_[static_cast<size_t>(kept - keptKeys_.begin())];
+  } else {
+    const double degrees = thousandthDegrees / 1000.0;
+    const sun::SunEvent event =
+        end == End::kStart ? sun::MorningDepression(sun_, degrees) : sun::EveningDepression(sun_, degrees);
+    const bool isReached = event.crossing == sun::Crossing::kReached;
+    moment = isReached ? event.utcSeconds : std::numeric_limits<double>::quiet_NaN();
+    if (keptCount_ < kMostKept) {
+      keptKeys_[keptCount_] = key;
+      keptMoments_[keptCount_++] = moment;
+    }
+  }
+  return std::isnan(moment) ? std::nullopt : std::optional(moment);
+}
+
+std::optional<double> ZmanDay::At(const Bound& bound, End end) {
+  const bool isStart = end == End::kStart;
+  const double outwards = isStart ? -1 : 1;
+  const double sun = isStart ? sunrise_ : sunset_;
+  switch (bound.kind) {
+    case BoundKind::kSun: return sun;
+    case BoundKind::kSeaLevelSun: return (isStart ? sun::Sunrise(sun_, 0) : sun::Sunset(sun_, 0)).utcSeconds;
+    case BoundKind::kDegrees: return AtDepression(bound.thousandths, end);
+    case BoundKind::kMinutes: return sun + outwards * Seconds(bound.thousandths);
+    case BoundKind::kProportionalMinutes:
+      return sun + outwards * (sunset_ - sunrise_) * (bound.thousandths / (1000 * kProportionalMinutesPerDay));
+    case BoundKind::kTransit: return sun::TransitUtcSeconds(sun_);
+    case BoundKind::kMeanNoon: return MeanNoon();
+    case BoundKind::kMidnight:
+      return isStart ? sun::MidnightBeforeUtcSeconds(sun_) : sun::MidnightAfterUtcSeconds(sun_);
+  }
+  return std::nullopt;
+}
+
+std::optional<double> ZmanDay::At(const Reckoning& reckoning) {
+  const double added = Seconds(reckoning.thousandthMinutes);
+  if (reckoning.thousandthHours == 0) {
+    const std::optional<double> start = At(reckoning.day.start, End::kStart);
+    return start ? std::optional(*start + added) : std::nullopt;
+  }
+  const std::optional<double> end = At(reckoning.day.end, End::kEnd);
+  if (!end) return std::nullopt;
+  if (reckoning.thousandthHours == kDayThousandthHours) return *end + added;
+  const std::optional<double> start = At(reckoning.day.start, End::kStart);
+  if (!start) return std::nullopt;
+  return *start + (*end - *start) * reckoning.thousandthHours / kDayThousandthHours + added;
+}
+
+std::optional<double> ZmanDay::UtcSeconds(const Definition& zman) {
+  if (zman.isForPesachEve && !IsPesachEve()) return std::nullopt;
+  const std::optional<double> moment = At(zman.reckoning);
+  if (!moment || !zman.notBefore) return moment;
+  const std::optional<double> other = At(*zman.notBefore);
+  return other ? std::optional(std::max(*moment, *other)) : std::nullopt;
+}
+
+// The minute of a zman that is sunrise, sunset or whole minutes away from them.
+std::optional<int64_t> ZmanDay::CountedMinute(const Definition& zman) const {
+  const Reckoning& reckoning = zman.reckoning;
+  const bool isStart = reckoning.thousandthHours == 0;
+  if (!isStart && reckoning.thousandthHours != kDayThousandthHours) return std::nullopt;
+  const Bound& bound = isStart ? reckoning.day.start : reckoning.day.end;
+  if (bound.kind != BoundKind::kSun && bound.kind != BoundKind::kMinutes) return std::nullopt;
+  if (zman.notBefore || zman.isForPesachEve) return std::nullopt;
+  if (!IsWhole(bound.thousandths) || !IsWhole(reckoning.thousandthMinutes)) return std::nullopt;
+
+  const int32_t outwards = isStart ? -bound.thousandths : bound.thousandths;
+  const double moment = (isStart ? shownSunrise_ : shownSunset_) + Seconds(outwards + reckoning.thousandthMinutes);
+  return sun::NearestMinute(moment, OffsetSeconds(moment));
+}
+
+std::optional<int64_t> ZmanDay::ClockMinute(const Definition& zman) {
+  if (const std::optional<int64_t> counted = CountedMinute(zman)) return counted;
+  const std::optional<double> moment = UtcSeconds(zman);
+  if (!moment) return std::nullopt;
+  const int32_t offset = OffsetSeconds(*moment);
+  switch (zman.rounding) {
+    case Rounding::kDown: return static_cast<int64_t>(std::floor((*moment + offset) / 60));
+    case Rounding::kUp: return sun::MinuteNotBefore(*moment, offset);
+    case Rounding::kNearest: return sun::NearestMinute(*moment, offset);
+  }
+  return std::nullopt;
+}
+
+}  // namespace hours
