@@ -176,6 +176,22 @@ TEST_F(ZmanimScrollTest, ScrollingByAColumnDrawsOnlyWhatCameIntoViewInTableAndHe
   for (const Draw& draw : Libraries().draws) EXPECT_TRUE(draw.x >= left || draw.text == "Date") << draw.text;
 }
 
+TEST_F(ZmanimScrollTest, TheHeadingMovesOnlyTheNumbersOverTheTable) {
+  // With a vertical scroll bar the heading is wider than the table's columns; beyond them it draws nothing that could
+  // be moved into view.
+  UseZmanim(40);
+  ComputeDays(300);
+  RECT heading;
+  GetClientRect(heading_, &heading);
+  ASSERT_GT(heading.right, TableClient().right);
+  PaintAll();
+  Libraries().draws.clear();
+  ScrollSideways(SB_LINERIGHT);
+  const RECT exposed{TableClient().right - ColumnWidth(), 0, TableClient().right, heading.bottom};
+  EXPECT_TRUE(EqualRect(&Libraries().lastPaintedArea, &exposed))
+      << Libraries().lastPaintedArea.left << " to " << Libraries().lastPaintedArea.right;
+}
+
 TEST_F(ZmanimScrollTest, TheLastPageOfTheLongestRangeIsReached) {
   UseZmanim(100);
   ComputeDays(32001);
