@@ -16,10 +16,10 @@ constexpr wchar_t kConfigure[] = L"Readings";
 constexpr wchar_t kLanguage[] = L"Language of Readings";
 constexpr char kAllStored[] =
     "[Readings]\r\nLand=Israel\r\nCustom=Sephardi\r\nLanguage=2\r\nChabad=1\r\nVerses=0\r\nNewMonth=0\r\n"
-    "MondayThursday=1\r\nShabbatAfternoon=1\r\n";
+    "MondayThursday=1\r\nShabbatAfternoon=1\r\nTriennial=1\r\n";
 constexpr char kFirstStored[] =
     "[Readings]\r\nLand=Diaspora\r\nCustom=Both\r\nLanguage=1\r\nChabad=0\r\nVerses=1\r\nNewMonth=1\r\n"
-    "MondayThursday=0\r\nShabbatAfternoon=0\r\n";
+    "MondayThursday=0\r\nShabbatAfternoon=0\r\nTriennial=0\r\n";
 
 class LectionsDialog : public testing::Test {
  protected:
@@ -35,7 +35,7 @@ class ConfigureDialog : public DialogDriver {
   HWND Button(int id) const { return GetDlgItem(window_, id); }
   std::vector<int> Checked() const {
     std::vector<int> checked;
-    for (int id = IDC_ISRAEL; id <= IDC_SHABBAT_AFTERNOON; ++id) {
+    for (int id = IDC_ISRAEL; id <= IDC_TRIENNIAL; ++id) {
       if (SendMessageW(Button(id), BM_GETCHECK, 0, 0) == BST_CHECKED) checked.push_back(id);
     }
     return checked;
@@ -87,8 +87,8 @@ TEST_F(LectionsDialog, ShowsIsraelFirstWhereTheSystemIsSetToIt) {
 TEST_F(LectionsDialog, ShowsWhatIsStored) {
   home_.Put("lections.ini", kAllStored);
   ConfigureDialog dialog;
-  EXPECT_EQ(dialog.Checked(),
-            (std::vector<int>{IDC_ISRAEL, IDC_SEPHARDI, IDC_CHABAD, IDC_MONDAY_THURSDAY, IDC_SHABBAT_AFTERNOON}));
+  EXPECT_EQ(dialog.Checked(), (std::vector<int>{IDC_ISRAEL, IDC_SEPHARDI, IDC_CHABAD, IDC_MONDAY_THURSDAY,
+                                                IDC_SHABBAT_AFTERNOON, IDC_TRIENNIAL}));
   Press(dialog.Window(), IDOK);
   EXPECT_NE(dialog.Result(), 0);
   EXPECT_EQ(home_.Bytes("lections.ini"), kAllStored);
@@ -107,8 +107,8 @@ TEST_F(LectionsDialog, SaysThatTheLandHoldsForEveryPlace) {
 
 TEST_F(LectionsDialog, OkStoresEverythingAndItCountsAtOnce) {
   ConfigureDialog dialog;
-  for (const int id :
-       {IDC_ISRAEL, IDC_SEPHARDI, IDC_CHABAD, IDC_VERSES, IDC_NEW_MONTH, IDC_MONDAY_THURSDAY, IDC_SHABBAT_AFTERNOON}) {
+  for (const int id : {IDC_ISRAEL, IDC_SEPHARDI, IDC_CHABAD, IDC_VERSES, IDC_NEW_MONTH, IDC_MONDAY_THURSDAY,
+                       IDC_SHABBAT_AFTERNOON, IDC_TRIENNIAL}) {
     dialog.Click(id);
   }
   Press(dialog.Window(), IDOK);

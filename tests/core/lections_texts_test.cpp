@@ -78,7 +78,7 @@ std::vector<Settings> AllSettings(uint32_t language) {
     Settings settings = Of(bits % 2 == 0 ? Land::kDiaspora : Land::kIsrael, static_cast<Customs>(bits / 2 % 3));
     settings.chabad = bits / 6 % 2 != 0;
     settings.verses = settings.chabad || bits % 5 != 0;
-    settings.optional = {bits / 12 != 0, bits / 12 != 0};
+    settings.optional = {bits / 12 != 0, bits / 12 != 0, bits % 7 == 0};
     settings.language = language;
     all.push_back(settings);
   }
@@ -260,7 +260,8 @@ TEST(LectionsSettings, WhatIsMissingOrMeansNothingIsTheDefault) {
   Settings defaults;
   EXPECT_EQ(defaults.customs, Customs::kBoth);
   EXPECT_TRUE(defaults.verses);
-  EXPECT_FALSE(defaults.chabad || defaults.optional.mondayAndThursday || defaults.optional.shabbatAfternoon);
+  EXPECT_FALSE(defaults.chabad || defaults.optional.mondayAndThursday || defaults.optional.shabbatAfternoon ||
+               defaults.optional.triennial);
   for (const char* value : {"", "israel", "2", "-1", "4x", "99999999999", "Both "}) {
     const auto read = [value](const char*) { return value; };
     if (value != "2"sv) {
