@@ -319,6 +319,7 @@ BOOL GlyphsExtTextOut(HDC dc, int x, int y, UINT options, const RECT* rectangle,
                       const INT*) {
   EXPECT_EQ(options, UINT{ETO_CLIPPED});
   Libraries().lastClip = *rectangle;
+  GetClipBox(dc, &Libraries().lastPaintedArea);
   return GlyphsTextOut(dc, x, y, text, static_cast<int>(count));
 }
 

@@ -137,10 +137,14 @@ class ZmanimTest : public testing::Test {
     const auto documents = run_->WaitForDocuments(1);
     if (documents.size() != 1) return nullptr;
     run_->PostCommand(kViewZmanim);
-    EXPECT_TRUE(run_->Eventually([this] { return ReadTable(settings_.path()).size() >= kRowsAtLeast; }));
+    EXPECT_TRUE(run_->Eventually([this] { return Table().size() >= kRowsAtLeast; }));
     return documents[0];
   }
-  std::map<std::string, Row> Table() { return ReadTable(settings_.path()); }
+  // What the program answers next, it answers after it has finished the painting that it is at.
+  std::map<std::string, Row> Table() {
+    SendMessageA(run_->WaitForTopLevel("ShabbatMain"), WM_NULL, 0, 0);
+    return ReadTable(settings_.path());
+  }
 
   static void ClickTime(HWND document, const Row& row, std::size_t zman) {
     const HWND table = GetDlgItem(GetDlgItem(document, kZmanimPane), kTable);
