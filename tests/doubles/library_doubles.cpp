@@ -6,7 +6,9 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "app/bound_entries.h"
 #include "companion/candles.h"
+#include "companion/datecore.h"
 #include "companion/glyphs.h"
 #include "companion/guide.h"
 #include "companion/hours.h"
@@ -290,6 +292,21 @@ void OwnHoursDone(OwnHoursHandle* handle) {
   --Libraries().openOwnTimes;
   delete static_cast<OwnTimes*>(handle->store);
   handle->store = nullptr;
+}
+
+// The dates are those of the doubled calendars.
+int32_t CivilAbsoluteFromDate(const CalendarDate* date) {
+  return AbsoluteFromDate(*date);
+}
+
+void LunarDateFromAbsolute(int32_t absoluteDay, CalendarDate* date) {
+  *date = JewishFromAbsolute(absoluteDay);
+}
+
+void LunarGetMonthNameEx(uint32_t month, uint32_t reserved, char* name, uint32_t size, uint32_t year,
+                         uint32_t language) {
+  EXPECT_EQ(reserved, 0u);
+  std::snprintf(name, size, "Month %u of %u in %u", month, year, language);
 }
 
 int32_t PlacePickSelectLocation(HWND owner, char* name) {
