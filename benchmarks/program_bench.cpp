@@ -17,6 +17,7 @@
 #include "document/properties.h"
 #include "engine/current.h"
 #include "engine/shabbat_times.h"
+#include "readings/readings_list.h"
 #include "resources/ids.h"
 #include "tests/contract/settings_home.h"
 #include "win/scoped.h"
@@ -94,7 +95,7 @@ void MeasureLibraryCalls() {
   });
 }
 
-// Without the zmanim of the same document, which have figures of their own.
+// Without the zmanim and the readings of the same document.
 void MeasureShabbatTimes(const char* name) {
   const HWND document = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
   CurrentLocation = {"Aachen", 5047, 605, 1, 0};
@@ -102,17 +103,21 @@ void MeasureShabbatTimes(const char* name) {
   CurrentRange = {DateFromAbsolute(kFirstDay), DateFromAbsolute(kFirstDay + 7 * kFridays - 1)};
   const CalendarDate& start = CurrentRange.start;
   const CalendarDate& end = CurrentRange.end;
-  const double withZmanim = BestMilliseconds(kRounds, [&] {
+  const double all = BestMilliseconds(kRounds, [&] {
     CalculateShabbatTimes(document, start.uDay, start.uMonth, start.uYear, end.uDay, end.uMonth, end.uYear);
   });
   const double zmanim = BestMilliseconds(kRounds, [&] {
     CalculateZmanim(document, start.uDay, start.uMonth, start.uYear, end.uDay, end.uMonth, end.uYear);
   });
+  const double readings = BestMilliseconds(kRounds, [&] {
+    BuildReadingsList(document, start.uDay, start.uMonth, start.uYear, end.uDay, end.uMonth, end.uYear);
+  });
   const uint32_t count =
       ScopedGlobalLock<const ShabbatTimesList>(GetBlockProperty(document, property::kShabbatTimes))->count;
   if (count != kFridays) std::fprintf(stderr, "%u Fridays instead of %d\n", count, kFridays);
-  Report(name, withZmanim - zmanim);
+  Report(name, all - zmanim - readings);
   FreeBlockProperty(document, property::kZmanimTimes);
+  FreeBlockProperty(document, property::kParashaReadings);
   FreeBlockProperty(document, property::kShabbatTimes);
   FreeBlockProperty(document, property::kCity);
   RemoveRangeProperties(document);
