@@ -114,7 +114,7 @@ TEST(LectionsShabbat, WeeksOfRebukeAndConsolationOverrideMacharChodesh) {
 }
 
 // Y. Spitz, "The Double-Header Haftara" (Ohr Somayach, 2012 and 2018), on just these two Shabbatot; the Sephardi
-// reading with the verses of the day's other two haftarot: United Synagogue, "Re'eh 5772".
+// reading with the verses of the day's other two haftarot: United Synagogue of Conservative Judaism, "Re'eh 5772".
 TEST(LectionsShabbat, ReehOnRoshChodeshElulAndItsMakingUpInKiTeitzei) {
   for (const std::string& read : {InDiaspora(18, 8, 2012), InIsrael(18, 8, 2012)}) {
     EXPECT_EQ(read,
