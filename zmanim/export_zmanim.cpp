@@ -4,7 +4,6 @@
 #include "companion/glyphs.h"
 #include "companion/stamp.h"
 #include "document/properties.h"
-#include "engine/settings_flags.h"
 #include "resources/ids.h"
 #include "win/file_sink.h"
 #include "win/scoped.h"
@@ -36,7 +35,7 @@ void WriteFile(HWND document, const std::string& file, Writer write) {
   const ZmanimExport data{.location = city ? city.get() : "",
                           .dateTitle = TableString(IDS_DATE),
                           .names = ZmanNames(inUse),
-                          .hebrew = ZmanimInHebrew(),
+                          .hebrew = LegendIsHebrew(inUse),
                           .hebrewNames = HebrewZmanNames(inUse.count),
                           .hebrewFont = HebrewFontName(),
                           .vilnaGaon = TableString(IDS_VILNA_GAON),

@@ -233,6 +233,17 @@ TEST_F(ZmanimPanesTest, TheEnglishLegendOfTheBuiltInZmanimHasTheirNames) {
   EXPECT_THAT(Libraries().brokenTexts.front().text, testing::HasSubstr(",   19 = Tzait HaChochavim (Rabbeinu Tam)  "));
 }
 
+// The library's Hebrew names are those of its own zmanim, in the user's order: over the built-in ones they would be
+// wrong.
+TEST_F(ZmanimPanesTest, TheBuiltInZmanimKeepTheirEnglishNamesInHebrew) {
+  Libraries().settings["shab30.ini|Settings|EnableZmanim"] = "0";
+  Libraries().settings["shab30.ini|Zmanim|Hebrew"] = "1";
+  Libraries().brokenTexts.clear();
+  EXPECT_THAT(DrawsOf(legend_), testing::IsEmpty());
+  ASSERT_THAT(Libraries().brokenTexts, SizeIs(1));
+  EXPECT_THAT(Libraries().brokenTexts.front().text, testing::StartsWith("1 = Alot HaShachar (Rabbi Moshe Feinstein),"));
+}
+
 TEST_F(ZmanimPanesTest, ALegendOfAHundredZmanimIsWrittenWhole) {
   UseZmanim(100);
   for (uint32_t zman = 0; zman < 100; ++zman) Libraries().zmanNames[zman] = std::string(48, 'x');
