@@ -9,6 +9,7 @@
 #include "app/string_table.h"
 #include "resources/ids.h"
 #include "win/dialog.h"
+#include "win/message_box.h"
 #include "win/scoped.h"
 
 namespace {
@@ -54,7 +55,7 @@ void ShowVersions(HWND dialog) {
                 "Release date: %s\nFile version: %s\nCalendar library API version: %u.%02u\nSolar library API version: "
                 "%u.%02u",
                 kReleaseDate, kFileVersion, calendar >> 8 & 0xFFu, calendar & 0xFFu, solar >> 8 & 0xFFu, solar & 0xFFu);
-  MessageBoxA(dialog, text, TableString(IDS_TITLE), MB_OK | MB_ICONINFORMATION);
+  ShowInformation(dialog, text, TableString(IDS_TITLE));
 }
 
 // The edges of the icon's square are part of it.

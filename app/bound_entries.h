@@ -47,3 +47,10 @@ inline CalendarDate DateFromAbsolute(int32_t absoluteDay) {
   CivilCalendar.DatefilterForeignFromAbsolute(absoluteDay, &date);
   return date;
 }
+
+// The Jewish date of a day number; months count from Nisan = 1.
+inline CalendarDate JewishFromAbsolute(int32_t absoluteDay) {
+  CalendarDate date{};
+  LunarCalendar.DatefilterForeignFromAbsolute(absoluteDay, &date);
+  return date;
+}

@@ -17,10 +17,9 @@
 namespace {
 
 std::string TitleOf(HWND document) {
-  const ScopedGlobalLock<const char> city(GetBlockProperty(document, property::kCity));
   char title[2 * kTextSize];
   std::snprintf(title, sizeof title, TableString(IDS_TITLE_OF_LOCATION), TableString(IDS_TITLE),
-                city ? city.get() : "");
+                DocumentPlace(document).c_str());
   return title;
 }
 

@@ -9,7 +9,7 @@
 #include "app/program.h"
 #include "companion/candles.h"
 #include "companion/guide.h"
-#include "companion/hours.h"
+#include "companion/lections.h"
 #include "companion/placepick.h"
 #include "companion/stamp.h"
 #include "engine/current.h"
@@ -21,6 +21,8 @@
 #include "locations/location_manager.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
+#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_panes.h"
 
 namespace {
 
@@ -29,7 +31,15 @@ struct FrameCommand {
   void (*run)(HWND frame);
 };
 
+// The form of times and the zmanim in use decide how the zmanim view of every document is laid out and scrolls.
+void LayOutZmanimViews() {
+  for (HWND document = GetWindow(Program.mdiClient, GW_CHILD); document; document = GetWindow(document, GW_HWNDNEXT)) {
+    RefreshZmanimView(document);
+  }
+}
+
 void RedrawEverything(HWND frame) {
+  LayOutZmanimViews();
   RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
@@ -74,7 +84,8 @@ void ManageLocations(HWND frame) {
 
 // The zmanim in use have changed.
 void RenewZmanim(HWND frame) {
-  Program.zmanimCount = HoursGetCount();
+  RefreshZmanimCount();
+  LayOutZmanimViews();
   ApplyCandleOverrideRule();
   OpenAndCompute(frame);
 }
@@ -85,6 +96,14 @@ void ToggleBuiltInZmanim(HWND frame) {
   } else {
     ShowUnwritableSettings(frame, kFlagsFile);
   }
+}
+
+// A change of what readings are shown does not move the place.
+template <int32_t (*dialog)(HWND owner)>
+void ChangeReadings(HWND frame) {
+  if (!dialog(frame)) return;
+  ApplyCandleOverrideRule();
+  OpenAndCompute(frame);
 }
 
 // Deliberate: a document is opened whatever the dialog's outcome.
@@ -136,6 +155,8 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_EXPORT_TEXT, ExportText},
     {IDM_EXPORT_RTF, ExportRtf},
     {IDM_EXIT, Exit},
+    {IDM_READINGS_CONFIGURE, ChangeReadings<LectionsDoConfigureDialog>},
+    {IDM_READINGS_LANGUAGE, ChangeReadings<LectionsDoLanguageDialog>},
     {IDM_CUSTOM_CANDLES, ChangeCustomTimes},
     {IDM_TIME_FORM, ChangeFormOfTimes},
     {IDM_ZMANIM_HEBREW, NameZmanim<true>},

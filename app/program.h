@@ -7,7 +7,6 @@
 
 struct ProgramState {
   HINSTANCE instance;
-  uint32_t zmanimCount;  // as the zmanim library last answered
   HBRUSH tooltipBrush;
   HHOOK mouseHook;  // of the tooltips, for this thread
   HWND mdiClient;

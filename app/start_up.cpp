@@ -6,10 +6,10 @@
 #include "app/program.h"
 #include "app/string_table.h"
 #include "app/window_classes.h"
-#include "companion/hours.h"
 #include "companion/kinship.h"
 #include "companion/stamp.h"
 #include "document/tooltip.h"
+#include "zmanim/zmanim_count.h"
 
 ProgramState Program;
 
@@ -55,7 +55,7 @@ void ShutDown() {
 
 int RunProgram(HINSTANCE instance, HINSTANCE previousInstance, LPSTR commandLine, int showState) {
   StampCheck(instance, previousInstance, commandLine, showState);
-  Program.zmanimCount = HoursGetCount();
+  RefreshZmanimCount();
   Program.instance = instance;
   KinshipInit();
   Program.tooltipBrush = CreateSolidBrush(kTooltipYellow);

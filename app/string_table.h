@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-// Fills the texts of ids 1 to 60 from the resources of instance.
+// Fills the texts of ids 1 to IDS_LAST from the resources of instance.
 void LoadStringTable(HINSTANCE instance);
 
 // The text of an id of resources/ids.h (IDS_...); empty for an id that is not in use.

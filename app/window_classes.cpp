@@ -6,8 +6,10 @@
 #include "document/shabbat_panes.h"
 #include "document/toolbar.h"
 #include "document/tooltip.h"
+#include "readings/readings_panes.h"
 #include "resources/ids.h"
 #include "win/class_names.h"
+#include "zmanim/zmanim_panes.h"
 
 namespace {
 
@@ -29,13 +31,13 @@ constexpr WindowClass kWindowClasses[] = {
     {window_class::kIconButton, false, Background::kLightGrey, IconButtonProc},
     {window_class::kHeaderPane, true, Background::kWhite, ShabbatHeaderPaneProc},
     {window_class::kListPane, true, Background::kWhite, ShabbatListPaneProc},
-    {window_class::kZmanimContainer, true, Background::kWhite, DefWindowProcA},
-    {window_class::kZmanimHeadingPane, true, Background::kWhite, DefWindowProcA},
-    {window_class::kZmanimTablePane, true, Background::kWhite, DefWindowProcA},
-    {window_class::kZmanimLegendPane, true, Background::kWhite, DefWindowProcA},
-    {window_class::kReadingsContainer, true, Background::kWhite, DefWindowProcA},
-    {window_class::kReadingsHeaderPane, true, Background::kWhite, DefWindowProcA},
-    {window_class::kReadingsListPane, true, Background::kWhite, DefWindowProcA},
+    {window_class::kZmanimContainer, true, Background::kWhite, ZmanimContainerProc},
+    {window_class::kZmanimHeadingPane, true, Background::kWhite, ZmanimHeadingPaneProc},
+    {window_class::kZmanimTablePane, true, Background::kWhite, ZmanimTablePaneProc},
+    {window_class::kZmanimLegendPane, true, Background::kWhite, ZmanimLegendPaneProc},
+    {window_class::kReadingsContainer, true, Background::kWhite, ReadingsContainerProc},
+    {window_class::kReadingsHeaderPane, true, Background::kWhite, ReadingsHeaderPaneProc},
+    {window_class::kReadingsListPane, true, Background::kWhite, ReadingsListPaneProc},
     {window_class::kTooltip, true, Background::kTooltip, TooltipProc},
 };
 

@@ -1,7 +1,8 @@
 /* glyphs.dll: 8-bit text drawn and measured by the charset of the selected font, never by the system's code page.
  *
  * Text in a font of the Hebrew charset is logical-order windows-1255 and goes through the system's bidirectional
- * layout; the Hebrew display font has an ordinary Latin charset and is drawn left to right as its bytes stand.
+ * layout, from right to left; the Hebrew display font has an ordinary Latin charset and is drawn left to right as its
+ * bytes stand. The library makes that font known to the process by itself, at the first call of any of these.
  * Arguments and results are those of the system's text calls; count -1 is allowed for zero-terminated text where the
  * system's call allows it. */
 #ifndef TIMES_READINGS_COMPANION_GLYPHS_H

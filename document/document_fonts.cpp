@@ -1,14 +1,11 @@
 #include "document/document_fonts.h"
 
-#include <cstring>
 #include <string>
 
 #include "document/properties.h"
-#include "win/scoped.h"
+#include "win/display_font.h"
 
 namespace {
-
-constexpr int kPointsPerInch = 72;
 
 struct FontPair {
   const char* name;
@@ -29,15 +26,6 @@ void ReplaceFont(HWND window, const char* name, HFONT font) {
 }
 
 }  // namespace
-
-HFONT MakeFont(const char* face, int points, int weight) {
-  const ScopedWindowDc display(nullptr);
-  LOGFONTA font{};
-  font.lfHeight = -(points * GetDeviceCaps(display.dc(), LOGPIXELSY) / kPointsPerInch);
-  font.lfWeight = weight;
-  std::strncpy(font.lfFaceName, face, LF_FACESIZE - 1);
-  return CreateFontIndirectA(&font);
-}
 
 void MakeFontPair(HWND window, const char* name, const char* face, int points, int boldPoints) {
   ReplaceFont(window, name, MakeFont(face, points, FW_DONTCARE));

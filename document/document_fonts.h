@@ -3,10 +3,6 @@
 
 #include <windows.h>
 
-// A font of a face in points at the display's resolution, weight FW_DONTCARE or FW_BOLD, all else left to the system.
-// The caller deletes it.
-HFONT MakeFont(const char* face, int points, int weight);
-
 // Makes a regular and a bold font of a face and puts them under name and "Bold" + name; fonts that were there are
 // deleted. Sizes are in points.
 void MakeFontPair(HWND window, const char* name, const char* face, int points, int boldPoints);

@@ -87,6 +87,9 @@ LRESULT OnSize(HWND document, int clientWidth, int clientHeight) {
   Place(document, IDC_LIST_PANE, layout.list);
   Place(document, IDC_ZMANIM_PANE, layout.content);
   Place(document, IDC_READINGS_PANE, layout.content);
+  // The view lays itself out by the document's fonts, which may be new though its size is not.
+  SendDlgItemMessageA(document, IDC_READINGS_PANE, WM_SIZE, SIZE_RESTORED,
+                      MAKELPARAM(layout.content.width, layout.content.height));
   return 0;
 }
 

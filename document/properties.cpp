@@ -2,6 +2,8 @@
 
 #include <initializer_list>
 
+#include "win/scoped.h"
+
 void SetIntegerProperty(HWND window, const char* name, int32_t value) {
   SetPropA(window, name, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(value)));
 }
@@ -45,6 +47,11 @@ void ReplaceBlockProperty(HWND window, const char* name, HGLOBAL block) {
 void FreeBlockProperty(HWND window, const char* name) {
   const HGLOBAL block = RemovePropA(window, name);
   if (block) GlobalFree(block);
+}
+
+std::string DocumentPlace(HWND window) {
+  const ScopedGlobalLock<const char> city(GetBlockProperty(window, property::kCity));
+  return city ? city.get() : "";
 }
 
 HFONT GetFontProperty(HWND window, const char* name) {

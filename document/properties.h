@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <string>
 
 #include "engine/core/records.h"
 
@@ -55,6 +56,9 @@ void RemoveRangeProperties(HWND window);
 HGLOBAL GetBlockProperty(HWND window, const char* name);
 void ReplaceBlockProperty(HWND window, const char* name, HGLOBAL block);
 void FreeBlockProperty(HWND window, const char* name);
+
+// The name of the document's place; empty before it was computed.
+std::string DocumentPlace(HWND window);
 
 HFONT GetFontProperty(HWND window, const char* name);
 void DeleteFontProperty(HWND window, const char* name);

@@ -1,15 +1,14 @@
 #include <cstring>
-#include <optional>
 
 #include "companion/glyphs.h"
 #include "companion/stamp.h"
-#include "document/core/list_scroll.h"
 #include "document/core/shabbat_geometry.h"
 #include "document/properties.h"
 #include "document/shabbat_panes.h"
 #include "engine/core/records.h"
 #include "output/date_text.h"
 #include "resources/ids.h"
+#include "win/list_pane_scroll.h"
 #include "win/scoped.h"
 #include "win/text_metrics.h"
 
@@ -74,63 +73,19 @@ LRESULT OnSize(HWND pane) {
   return 0;
 }
 
-std::optional<ScrollRequest> RequestOf(int code) {
-  switch (code) {
-    case SB_LINEUP: return ScrollRequest::kLineUp;
-    case SB_LINEDOWN: return ScrollRequest::kLineDown;
-    case SB_PAGEUP: return ScrollRequest::kPageUp;
-    case SB_PAGEDOWN: return ScrollRequest::kPageDown;
-    case SB_THUMBPOSITION:
-    case SB_THUMBTRACK: return ScrollRequest::kThumb;
-    case SB_TOP: return ScrollRequest::kTop;
-    case SB_BOTTOM: return ScrollRequest::kBottom;
-  }
-  return std::nullopt;
-}
-
-ScrollState ScrollStateOf(HWND pane) {
-  ScrollState state{};
-  state.position = GetScrollPos(pane, SB_VERT);
-  GetScrollRange(pane, SB_VERT, &state.minimum, &state.maximum);
-  return state;
-}
-
 LRESULT OnVerticalScroll(HWND pane, int code, int thumb) {
-  const std::optional<ScrollRequest> request = RequestOf(code);
-  if (!request) return 0;
   const ShabbatListGeometry geometry = GeometryOf(pane);
-  ScrollState state = ScrollStateOf(pane);
-  state.page = geometry.WholeLines();
-  state.thumb = thumb;
-  const int position = ScrolledPosition(*request, state);
-  if (position == state.position) return 0;
-  ScrollWindow(pane, 0, (state.position - position) * geometry.lineHeight, nullptr, nullptr);
-  SetScrollPos(pane, SB_VERT, position, TRUE);
-  UpdateWindow(pane);
+  ScrollLines(pane, code, thumb, geometry.WholeLines(), geometry.lineHeight);
+  return 0;
+}
+
+LRESULT OnKeyDown(HWND pane, WPARAM key) {
+  ScrollByKey(pane, key);
   return 0;
 }
 
 LRESULT OnMouseWheel(HWND pane, int16_t delta) {
-  if (!IsWheelDelta(delta)) return 0;
-  SetScrollPos(pane, SB_VERT, WheeledPosition(delta, ScrollStateOf(pane)), TRUE);
-  InvalidateRect(pane, nullptr, TRUE);
-  return 0;
-}
-
-struct ScrollKey {
-  WPARAM key;
-  int code;
-};
-
-constexpr ScrollKey kScrollKeys[] = {
-    {VK_PRIOR, SB_PAGEUP}, {VK_NEXT, SB_PAGEDOWN}, {VK_END, SB_BOTTOM},
-    {VK_HOME, SB_TOP},     {VK_UP, SB_LINEUP},     {VK_DOWN, SB_LINEDOWN},
-};
-
-LRESULT OnKeyDown(HWND pane, WPARAM key) {
-  for (const ScrollKey& row : kScrollKeys) {
-    if (row.key == key) SendMessageA(pane, WM_VSCROLL, MAKEWPARAM(row.code, 0), 0);
-  }
+  if (IsWheelDelta(delta)) WheelLines(pane, delta);
   return 0;
 }
 
@@ -150,8 +105,5 @@ LRESULT CALLBACK ShabbatListPaneProc(HWND pane, UINT message, WPARAM wParam, LPA
 void SetListPaneScrollRange(HWND listPane) {
   const ScopedGlobalLock<const ShabbatTimesList> list(GetBlockProperty(GetParent(listPane), property::kShabbatTimes));
   const int last = list ? LastScrollPosition(list->count, GeometryOf(listPane).WholeLines()) : 0;
-  const int position = GetScrollPos(listPane, SB_VERT);
-  SetScrollPos(listPane, SB_VERT, 0, FALSE);
-  SetScrollRange(listPane, SB_VERT, 0, last, FALSE);
-  SetScrollPos(listPane, SB_VERT, position < last ? position : last, TRUE);
+  SetLastScrollPosition(listPane, SB_VERT, last);
 }

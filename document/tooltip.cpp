@@ -5,11 +5,11 @@
 
 #include "companion/glyphs.h"
 #include "document/core/icon_button.h"
-#include "document/document_fonts.h"
 #include "document/icon_button.h"
 #include "document/properties.h"
 #include "engine/core/records.h"
 #include "win/class_names.h"
+#include "win/display_font.h"
 #include "win/scoped.h"
 
 TooltipState Tooltip;

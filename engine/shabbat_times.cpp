@@ -5,14 +5,16 @@
 #include "app/bound_entries.h"
 #include "app/string_table.h"
 #include "companion/candles.h"
-#include "companion/twilight.h"
 #include "document/properties.h"
 #include "engine/core/shabbat_rules.h"
 #include "engine/current.h"
 #include "engine/shabbat_preferences.h"
+#include "engine/sun_times.h"
+#include "readings/readings_list.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
 #include "win/scoped.h"
+#include "zmanim/calculate_zmanim.h"
 
 namespace {
 
@@ -32,22 +34,6 @@ void SetPlaceProperties(HWND document) {
 // A calendar filter that answers such a date is broken, and nothing computed with it can be trusted.
 void RequireMonth(const CalendarDate& date, const char* text) {
   if (date.uMonth < 1 || date.uMonth > 12) FatalAppExitA(0, text);
-}
-
-ClockTime Sunset(const CalendarDate& date) {
-  ClockTime sunset{};
-  Solar.SolarGetSunsetSunrise(date.uDay, date.uMonth, date.uYear, SOLAR_SUNSET, CurrentLocation.latitude,
-                              CurrentLocation.longitude, CurrentLocation.zoneHours, CurrentLocation.zoneMinutes,
-                              &sunset.hour, &sunset.minute);
-  return sunset;
-}
-
-ClockTime TwilightInterval(const CalendarDate& date, double depressionDegrees) {
-  ClockTime interval{};
-  TwilightCalculate(date.uDay, date.uMonth, date.uYear, depressionDegrees, CurrentLocation.latitude,
-                    CurrentLocation.longitude, CurrentLocation.zoneHours, CurrentLocation.zoneMinutes, &interval.hour,
-                    &interval.minute);
-  return interval;
 }
 
 int32_t CandleMinutes() {
@@ -88,9 +74,9 @@ void ComputeEntry(int32_t fridayNumber, ShabbatTimeEntry& entry) {
   RequireMonth(friday, "CalculateShabbatTimes: dateCurrent.uMonth must be in the range 1-12");
   if (TakeCustomTimes(friday, entry)) return;
 
-  Store(CandleLightingTime(Sunset(friday), CandleMinutes()), entry.candleHour, entry.candleMinute);
+  Store(CandleLightingTime(SunEvent(friday, SOLAR_SUNSET), CandleMinutes()), entry.candleHour, entry.candleMinute);
   RequireMonth(saturday, "CalculateShabbatTimes: dateNext.uMonth must be in the range 1-12");
-  const ClockTime sunset = Sunset(saturday);
+  const ClockTime sunset = SunEvent(saturday, SOLAR_SUNSET);
   Store(sunset, entry.sunsetHour, entry.sunsetMinute);
   Store(EndOfShabbat(saturday, sunset), entry.endHour, entry.endMinute);
 }
@@ -115,6 +101,8 @@ void CalculateShabbatTimes(HWND document, uint32_t startDay, uint32_t startMonth
   const ScopedWaitCursor wait;
   SetCity(document);
   SetRangeProperties(document, CurrentRange);
+  CalculateZmanim(document, startDay, startMonth, startYear, endDay, endMonth, endYear);
+  BuildReadingsList(document, startDay, startMonth, startYear, endDay, endMonth, endYear);
   SetPlaceProperties(document);
   const int32_t firstDay = AbsoluteFromDate({startDay, startMonth, startYear});
   const int32_t lastDay = AbsoluteFromDate({endDay, endMonth, endYear});

@@ -54,7 +54,8 @@
 #define IDS_BUTTON_HELP 58
 #define IDS_BUTTON_BAR_MITZVAH 59
 #define IDS_BUTTON_DAF_YOMI 60
-#define IDS_LAST 60
+#define IDS_FIRST_BUILT_IN_ZMAN 64 /* the built-in zmanim in the order of their table, to 82 */
+#define IDS_LAST 82
 
 /* Commands of the frame. */
 #define IDM_SELECT_LOCATION 1001
@@ -102,6 +103,15 @@
 #define IDC_ZMANIM_PANE 4
 #define IDC_READINGS_PANE 5
 
+/* Panes of the zmanim view. */
+#define IDC_ZMANIM_HEADING 1
+#define IDC_ZMANIM_TABLE 2
+#define IDC_ZMANIM_LEGEND 3
+
+/* Panes of the readings view. */
+#define IDC_READINGS_HEADER_PANE 1
+#define IDC_READINGS_LIST_PANE 2
+
 /* Toolbar buttons of a document window, which are its commands. 8 is not used. */
 #define IDB_SHABBAT_TIMES 1
 #define IDB_ZMANIM 2
@@ -148,6 +158,11 @@
 #define IDC_RTF_ONE_COLUMN 103
 
 #define IDC_ABORT_PROGRESS 101
+
+#define IDC_EDIT_ZMAN_DATE 101
+#define IDC_EDIT_ZMAN_DESCRIPTION 102
+#define IDC_EDIT_ZMAN_HOUR 103
+#define IDC_EDIT_ZMAN_MINUTE 104
 
 #define IDC_LOCATIONS_LIST 101
 #define IDC_LOCATIONS_ADD 102

@@ -1,6 +1,7 @@
 # The Debian packages that the project needs, by what needs them. Read by run.sh, test.sh and benchmarks/report.
 # shellcheck shell=sh disable=SC2034
-build_packages="cmake ninja-build g++-mingw-w64-x86-64-posix librsvg2-bin icoutils"
-wine_packages="wine wine64 fonts-wine fonts-liberation2 xvfb xauth imagemagick"
+build_packages="cmake ninja-build g++-mingw-w64-x86-64-posix librsvg2-bin icoutils
+  python3-fonttools fonts-liberation2"
+wine_packages="wine wine64 fonts-wine xvfb xauth imagemagick"
 test_packages="g++ googletest python3-minimal clang libclang-rt-14-dev"
 benchmark_packages="g++ libbenchmark-dev"

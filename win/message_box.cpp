@@ -6,6 +6,10 @@ void ShowStop(HWND owner, const char* text, const char* caption) {
   MessageBoxA(owner, text, caption, MB_OK | MB_ICONHAND);
 }
 
+void ShowInformation(HWND owner, const char* text, const char* caption) {
+  MessageBoxA(owner, text, caption, MB_OK | MB_ICONINFORMATION);
+}
+
 bool Ask(HWND owner, const char* text, const char* caption) {
   return MessageBoxA(owner, text, caption, MB_YESNO | MB_ICONQUESTION) == IDYES;
 }

@@ -5,6 +5,9 @@
 // A message with the stop icon and one button. A null owner is allowed.
 void ShowStop(HWND owner, const char* text, const char* caption);
 
+// A message with the information icon and one button.
+void ShowInformation(HWND owner, const char* text, const char* caption);
+
 // A question with the buttons Yes and No; true for Yes.
 bool Ask(HWND owner, const char* text, const char* caption);
 

@@ -1,5 +1,6 @@
 #include "win/save_dialog.h"
 
+#include <cderr.h>
 #include <commdlg.h>
 
 #include "win/message_box.h"
@@ -18,9 +19,10 @@ constexpr FormatTexts kRtf{"RTF files (*.rtf)\0*.rtf\0All files (*.*)\0*.*\0", "
 
 }  // namespace
 
-std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format) {
+std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, std::string* lastFile) {
   const FormatTexts& texts = format == ExportFormat::kText ? kText : kRtf;
   char file[kFileNameSize] = "";
+  if (lastFile) lastFile->copy(file, kFileNameSize - 1);
   OPENFILENAMEA dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = owner;
@@ -30,7 +32,16 @@ std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format) {
   dialog.nMaxFile = kFileNameSize;
   dialog.lpstrDefExt = texts.extension;
   dialog.Flags = OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
-  if (!GetSaveFileNameA(&dialog)) return std::nullopt;
+  if (!GetSaveFileNameA(&dialog)) {
+    if (CommDlgExtendedError() == FNERR_BUFFERTOOSMALL) {
+      ShowStop(owner,
+               "The file's name and folder together may have 255 characters.\nPlease choose a shorter name or another "
+               "folder.",
+               "Error");
+    }
+    return std::nullopt;
+  }
+  if (lastFile) *lastFile = file;
   return file;
 }
 

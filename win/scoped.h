@@ -60,6 +60,7 @@ class ScopedPaint {
   ScopedPaint(const ScopedPaint&) = delete;
   ScopedPaint& operator=(const ScopedPaint&) = delete;
   HDC dc() const { return dc_; }
+  const RECT& area() const { return paint_.rcPaint; }  // what is to be painted lies in it
 
  private:
   HWND window_;

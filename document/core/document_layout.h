@@ -1,13 +1,7 @@
 // Where the children of a document window stand in its client area, in pixels.
 #pragma once
 
-struct PaneRect {
-  int x;
-  int y;
-  int width;
-  int height;
-  bool operator==(const PaneRect&) const = default;
-};
+#include "win/core/pane_rect.h"
 
 struct LayoutMeasures {
   int lineHeight;             // of the document's font

@@ -2,9 +2,6 @@
 
 namespace {
 
-constexpr int64_t kMinutesPerHour = 60;
-constexpr int64_t kHoursPerDay = 24;
-
 ClockTime Narrow(int64_t hour, int64_t minute) {
   return {static_cast<int32_t>(hour), static_cast<int32_t>(minute)};
 }
@@ -42,18 +39,7 @@ ClockTime CandleLightingTime(ClockTime sunset, int32_t minutesBefore) {
 }
 
 ClockTime EndOfShabbatTime(ClockTime sunset, int32_t minutesAfter) {
-  int64_t hour = sunset.hour;
-  int64_t minute = int64_t{sunset.minute} + minutesAfter;
-  // Every carry takes at most one day off; under 24 the remaining carries can be counted at once.
-  while (minute >= kMinutesPerHour && hour >= kHoursPerDay) {
-    minute -= kMinutesPerHour;
-    hour += 1 - kHoursPerDay;
-  }
-  if (minute >= kMinutesPerHour) {
-    hour = (hour + minute / kMinutesPerHour) % kHoursPerDay;
-    minute %= kMinutesPerHour;
-  }
-  return Narrow(hour, minute);
+  return MinutesAfter(sunset, minutesAfter);
 }
 
 ClockTime AddTwilightInterval(ClockTime sunset, ClockTime interval) {

@@ -5,13 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "engine/core/clock_time.h"
 #include "engine/core/records.h"
-
-struct ClockTime {
-  int32_t hour;
-  int32_t minute;
-  bool operator==(const ClockTime&) const = default;
-};
 
 // More Fridays than this in one range are too many; the one that exceeds it is still kept.
 inline constexpr uint32_t kMostFridays = 32000;

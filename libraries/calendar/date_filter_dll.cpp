@@ -48,9 +48,13 @@ void DatefilterGetDescriptionString(char* description) {
   CopyText(FilterOfThisLibrary().description, description, kBufferSize);
 }
 
-int32_t DatefilterAbsoluteFromForeign(const CalendarDate* date) {
+int32_t calendar::AbsoluteFromCalendarDate(const DateFilter& filter, const CalendarDate* date) {
   if (date == nullptr) return 0;
-  return FilterOfThisLibrary().absoluteFromDate({Signed(date->uDay), Signed(date->uMonth), Signed(date->uYear)});
+  return filter.absoluteFromDate({Signed(date->uDay), Signed(date->uMonth), Signed(date->uYear)});
+}
+
+int32_t DatefilterAbsoluteFromForeign(const CalendarDate* date) {
+  return calendar::AbsoluteFromCalendarDate(FilterOfThisLibrary(), date);
 }
 
 void DatefilterForeignFromAbsolute(int32_t absoluteDay, CalendarDate* date) {

@@ -3,11 +3,15 @@
 #ifndef TIMES_READINGS_LIBRARIES_CALENDAR_DATE_FILTER_DLL_H
 #define TIMES_READINGS_LIBRARIES_CALENDAR_DATE_FILTER_DLL_H
 
+#include "companion/calendar_date.h"
 #include "libraries/calendar/date_filter.h"
 
 namespace calendar {
 
 const DateFilter& FilterOfThisLibrary();
+
+// The day number of a date in a filter's calendar; a null date answers 0.
+int32_t AbsoluteFromCalendarDate(const DateFilter& filter, const CalendarDate* date);
 
 }  // namespace calendar
 

@@ -9,14 +9,17 @@
 namespace calendar {
 namespace {
 
-// The byte of a letter beyond ASCII: the codes of Latin-1 stand in both code pages, and the further letters that the
-// names below need have one code each, wherever they occur.
+// The byte of a letter beyond ASCII: the codes of Latin-1 stand in both Latin code pages, and the further letters that
+// the names below need have one code each, wherever they occur. Hebrew letters are those of windows-1255.
 consteval char ByteOf(char32_t letter) {
   switch (letter) {
     case U'š': return '\x9A';  // windows-1252 and -1250
     case U'ń': return '\xF1';  // windows-1250
     case U'ź': return '\x9F';  // windows-1250
-    default: return letter <= 0xFF ? static_cast<char>(letter) : throw "a letter without a byte";
+    case U'׳': return '\xD7';  // geresh, windows-1255
+    default:
+      if (letter >= U'א' && letter <= U'ת') return static_cast<char>(letter - U'א' + 0xE0);
+      return letter <= 0xFF ? static_cast<char>(letter) : throw "a letter without a byte";
   }
 }
 
@@ -49,6 +52,8 @@ constexpr GregorianNames kGregorianNames[] = {
                 U"July", U"August", U"September", U"October", U"November", U"December"}},
     {3, {U"Januar", U"Februar", U"März", U"April", U"Mai", U"Juni",
          U"Juli", U"August", U"September", U"Oktober", U"November", U"Dezember"}},
+    {4, {U"ינואר", U"פברואר", U"מרץ", U"אפריל", U"מאי", U"יוני",
+         U"יולי", U"אוגוסט", U"ספטמבר", U"אוקטובר", U"נובמבר", U"דצמבר"}},
     {5, {U"janvier", U"février", U"mars", U"avril", U"mai", U"juin",
          U"juillet", U"août", U"septembre", U"octobre", U"novembre", U"décembre"}},
     {6, {U"januar", U"februar", U"marts", U"april", U"maj", U"juni",
@@ -78,6 +83,8 @@ constexpr JewishNames kJewishNames[] = {
                 U"Cheshvan", U"Kislev", U"Tevet", U"Shevat", U"Adar", U"Adar I", U"Adar II"}},
     {3, {U"Nisan", U"Ijjar", U"Siwan", U"Tammus", U"Aw", U"Elul", U"Tischri",
          U"Cheschwan", U"Kislew", U"Tevet", U"Schevat", U"Adar", U"Adar I", U"Adar II"}},
+    {4, {U"ניסן", U"אייר", U"סיוון", U"תמוז", U"אב", U"אלול", U"תשרי",
+         U"חשוון", U"כסלו", U"טבת", U"שבט", U"אדר", U"אדר א׳", U"אדר ב׳"}},
     {5, {U"nissan", U"iyar", U"sivan", U"tamouz", U"av", U"éloul", U"tichri",
          U"hèchvan", U"kislev", U"téveth", U"chevat", U"adar", U"adar I", U"adar II"}},
     {6, {U"nisan", U"iyar", U"sivan", U"tamuz", U"av", U"elul", U"tishri",

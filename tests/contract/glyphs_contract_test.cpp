@@ -97,6 +97,26 @@ TEST(GlyphsContract, HebrewCharsetIsLaidOutFromRightToLeft) {
   EXPECT_EQ(logical.Pixels(), visual.Pixels());
 }
 
+TEST(GlyphsContract, PunctuationAtTheEndOfAHebrewTextStandsAtItsLeft) {
+  // Alef and a full stop show as the full stop, then alef from the left, in each of the drawing calls.
+  const Canvas visual(HEBREW_CHARSET, "Arial");
+  SIZE stop{};
+  ASSERT_TRUE(GlyphsGetTextExtentPoint(visual.dc(), ".", 1, &stop));
+  ASSERT_TRUE(GlyphsTextOut(visual.dc(), 0, 0, ".", 1));
+  ASSERT_TRUE(GlyphsTextOut(visual.dc(), stop.cx, 0, "\xE0", 1));
+
+  const Canvas plain(HEBREW_CHARSET, "Arial");
+  ASSERT_TRUE(GlyphsTextOut(plain.dc(), 0, 0, "\xE0.", 2));
+  EXPECT_EQ(plain.Pixels(), visual.Pixels());
+  const Canvas extended(HEBREW_CHARSET, "Arial");
+  ASSERT_TRUE(GlyphsExtTextOut(extended.dc(), 0, 0, 0, nullptr, "\xE0.", 2, nullptr));
+  EXPECT_EQ(extended.Pixels(), visual.Pixels());
+  const Canvas inRectangle(HEBREW_CHARSET, "Arial");
+  RECT all{0, 0, kWidth, kHeight};
+  ASSERT_TRUE(GlyphsDrawText(inRectangle.dc(), "\xE0.", 2, &all, DT_SINGLELINE | DT_LEFT));
+  EXPECT_EQ(inRectangle.Pixels(), visual.Pixels());
+}
+
 TEST(GlyphsContract, LatinCharsetIsDrawnLeftToRightAsTheBytesStand) {
   // The codes of alef and bet in a font of a Latin charset, as the Hebrew display font has them.
   const Canvas whole(ANSI_CHARSET, "Arial");
@@ -174,8 +194,54 @@ TEST(GlyphsContract, NullAndEmptyTextsAreHarmless) {
   EXPECT_TRUE(canvas.IsBlank());
 }
 
-TEST(GlyphsContract, NamesTheHebrewDisplayFont) {
+TEST(GlyphsContract, NamesTheHebrewDisplayFontAndMakesItKnown) {
   char name[LF_FACESIZE];
   GlyphsGetHebrewFontName(name);
   EXPECT_STREQ(name, "DisplayHebrew1");
+  const Canvas canvas(ANSI_CHARSET, name);
+  char face[LF_FACESIZE];
+  GetTextFaceA(canvas.dc(), sizeof face, face);
+  EXPECT_STREQ(face, name);
+  EXPECT_EQ(GetTextCharset(canvas.dc()), ANSI_CHARSET);
+}
+
+TEST(GlyphsContract, TheDisplayFontHasHebrewLettersAtTheirWindows1255Codes) {
+  char name[LF_FACESIZE];
+  GlyphsGetHebrewFontName(name);
+  // The font is made of Liberation Serif, whose letters stand at their Unicode codes.
+  for (unsigned letter = 0; letter <= 0x05EA - 0x05D0; ++letter) {
+    const Canvas display(ANSI_CHARSET, name);
+    const Canvas source(HEBREW_CHARSET, "Liberation Serif");
+    const char byte = static_cast<char>(0xE0 + letter);
+    const wchar_t code = static_cast<wchar_t>(0x05D0 + letter);
+    ASSERT_TRUE(GlyphsTextOut(display.dc(), 10, 4, &byte, 1));
+    ASSERT_TRUE(TextOutW(source.dc(), 10, 4, &code, 1));
+    EXPECT_EQ(display.Pixels(), source.Pixels()) << "letter " << letter;
+    EXPECT_FALSE(display.IsBlank());
+  }
+}
+
+TEST(GlyphsContract, TheDisplayFontHasLatinLettersDigitsAndPunctuation) {
+  char name[LF_FACESIZE];
+  GlyphsGetHebrewFontName(name);
+  for (char character = '!'; character <= '~'; ++character) {
+    const Canvas display(ANSI_CHARSET, name);
+    const Canvas source(ANSI_CHARSET, "Liberation Serif");
+    ASSERT_TRUE(GlyphsTextOut(display.dc(), 10, 4, &character, 1));
+    ASSERT_TRUE(GlyphsTextOut(source.dc(), 10, 4, &character, 1));
+    EXPECT_EQ(display.Pixels(), source.Pixels()) << character;
+  }
+}
+
+TEST(GlyphsContract, TheDisplayFontIsDrawnLeftToRightAsTheBytesStand) {
+  char name[LF_FACESIZE];
+  GlyphsGetHebrewFontName(name);
+  const Canvas whole(ANSI_CHARSET, name);
+  const Canvas parts(ANSI_CHARSET, name);
+  ASSERT_TRUE(GlyphsTextOut(whole.dc(), 0, 0, "(12) \xE0\xE1", 7));
+  SIZE first{};
+  ASSERT_TRUE(GlyphsGetTextExtentPoint(parts.dc(), "(12) \xE0", 6, &first));
+  ASSERT_TRUE(GlyphsTextOut(parts.dc(), 0, 0, "(12) \xE0", 6));
+  ASSERT_TRUE(GlyphsTextOut(parts.dc(), first.cx, 0, "\xE1", 1));
+  EXPECT_EQ(whole.Pixels(), parts.Pixels());
 }

@@ -11,6 +11,7 @@ namespace {
 using namespace calendar;
 
 constexpr uint32_t kGerman = 3;
+constexpr uint32_t kHebrew = 4;
 constexpr uint32_t kFinnish = 7;
 constexpr uint32_t kDutch = 9;
 constexpr uint32_t kPolish = 21;
@@ -42,17 +43,19 @@ TEST(MonthNames, LettersBeyondAsciiAreBytesOfTheLanguagesCodePage) {
   EXPECT_STREQ(GregorianMonthName(3, 2024, kGerman), "M\xE4rz");
   EXPECT_STREQ(JewishMonthName(kTishri, 5784, kFinnish), "ti\x9Ar\xEDkuu");
   EXPECT_STREQ(GregorianMonthName(9, 2024, kPolish), "wrzesie\xF1");
+  EXPECT_STREQ(JewishMonthName(kTishri, 5784, kHebrew), "\xFA\xF9\xF8\xE9");
+  EXPECT_STREQ(JewishMonthName(kAdar, 5784, kHebrew), "\xE0\xE3\xF8 \xE0\xD7");
 }
 
 TEST(MonthNames, AnUnknownLanguageAnswersEnglish) {
-  for (const uint32_t language : {0u, 2u, 4u, 22u, 0xFFFFFFFFu}) {
+  for (const uint32_t language : {0u, 2u, 13u, 22u, 0xFFFFFFFFu}) {
     EXPECT_STREQ(JewishMonthName(kCheshvan, 5784, language), "Cheshvan");
     EXPECT_STREQ(GregorianMonthName(5, 2024, language), "May");
   }
 }
 
 TEST(MonthNames, EveryLanguageOfTheExportsNamesEveryMonth) {
-  for (const uint32_t language : {1u, 3u, 5u, 6u, 7u, 8u, 9u, 10u, 11u, 12u, 14u, 20u, 21u}) {
+  for (const uint32_t language : {1u, 3u, 4u, 5u, 6u, 7u, 8u, 9u, 10u, 11u, 12u, 14u, 20u, 21u}) {
     for (int32_t month = 1; month <= 13; ++month) {
       EXPECT_GE(std::strlen(JewishMonthName(month, 5784, language)), 2u) << language << ' ' << month;
     }

@@ -1,5 +1,5 @@
 // Expected values are worked out by hand.
-#include "document/core/list_scroll.h"
+#include "win/core/list_scroll.h"
 
 #include <gtest/gtest.h>
 

@@ -18,6 +18,31 @@ TEST(RtfEscape, ReplacesBracesAndBackslashOnly) {
   EXPECT_EQ(RtfEscape(""), "");
 }
 
+TEST(RtfEscape, ReplacesTheBytesAskedFor) {
+  EXPECT_EQ(RtfEscape("It's {a}", "'{"), "It\\'27s \\'7Ba}");
+}
+
+TEST(IsBlank, SpacesOnlyAreBlank) {
+  EXPECT_TRUE(IsBlank(""));
+  EXPECT_TRUE(IsBlank("   "));
+  EXPECT_FALSE(IsBlank(" x "));
+  EXPECT_FALSE(IsBlank("\t"));
+}
+
+TEST(ReverseText, TurnsTheBytesRound) {
+  EXPECT_EQ(ReverseText("ab c"), "c ba");
+  EXPECT_EQ(ReverseText("\xE0\xE1"), "\xE1\xE0");
+  EXPECT_EQ(ReverseText(""), "");
+}
+
+TEST(FirstWord, TakesTheSpacesThatFollow) {
+  EXPECT_EQ(FirstWord("ab  c"), "ab  ");
+  EXPECT_EQ(FirstWord("ab"), "ab");
+  EXPECT_EQ(FirstWord("ab "), "ab ");
+  EXPECT_EQ(FirstWord("  ab"), "  ");
+  EXPECT_EQ(FirstWord(""), "");
+}
+
 TEST(WriteLine, EndsInCarriageReturnAndLineFeed) {
   StringSink sink;
   WriteLine(sink, "a");

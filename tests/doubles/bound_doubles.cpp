@@ -26,6 +26,11 @@ void ForeignFromAbsolute(int32_t absoluteDay, CalendarDate* date) {
   if (Bound().spoilDate) Bound().spoilDate(*date);
 }
 
+void JewishForeignFromAbsolute(int32_t absoluteDay, CalendarDate* date) {
+  ForeignFromAbsolute(absoluteDay, date);
+  date->uYear += kDoubledJewishEpoch;
+}
+
 uint32_t CountPlaces() {
   return static_cast<uint32_t>(Bound().places.size());
 }
@@ -43,11 +48,12 @@ uint32_t GetPlace(uint32_t index, char* name, int32_t* latitude, int32_t* longit
 
 void GetSunsetSunrise(uint32_t day, uint32_t month, uint32_t year, uint32_t event, int32_t latitude, int32_t longitude,
                       int32_t zoneHours, int32_t zoneMinutes, int32_t* hour, int32_t* minute) {
-  EXPECT_EQ(event, uint32_t{SOLAR_SUNSET}) << "nothing asks for sunrise";
-  LogCall("sunset %u.%u.%u %d %d %d:%d", day, month, year, latitude, longitude, zoneHours, zoneMinutes);
-  const DoubledTime sunset = Bound().sunset({day, month, year});
-  *hour = sunset.hour;
-  *minute = sunset.minute;
+  const bool sunrise = event == SOLAR_SUNRISE;
+  LogCall("%s %u.%u.%u %d %d %d:%d", sunrise ? "sunrise" : "sunset", day, month, year, latitude, longitude, zoneHours,
+          zoneMinutes);
+  const DoubledTime time = sunrise ? Bound().sunrise({day, month, year}) : Bound().sunset({day, month, year});
+  *hour = time.hour;
+  *minute = time.minute;
 }
 
 }  // namespace
@@ -63,11 +69,16 @@ void ResetBoundLibraries() {
                  [](const CalendarDate&) {
                    return DoubledTime{19, 5};
                  },
+             .sunrise =
+                 [](const CalendarDate&) {
+                   return DoubledTime{5, 47};
+                 },
              .spoilDate = nullptr};
   CivilCalendar = {};
   CivilCalendar.DatefilterAbsoluteFromForeign = AbsoluteFromForeign;
   CivilCalendar.DatefilterForeignFromAbsolute = ForeignFromAbsolute;
   LunarCalendar = {};
+  LunarCalendar.DatefilterForeignFromAbsolute = JewishForeignFromAbsolute;
   Solar = {};
   Solar.SolarGetCountOfBuiltInLocations = CountPlaces;
   Solar.SolarGetBuiltInLocation = GetPlace;

@@ -2,12 +2,17 @@
 // test on a call that no script foresees.
 #pragma once
 
+#include <windows.h>
+
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "companion/calendar_date.h"
 
 struct DoubledTime {
   int32_t hour;
@@ -28,6 +33,22 @@ struct Draw {
   bool operator==(const Draw&) const = default;
 };
 
+// The font that the readings library names; an empty face: the program's own.
+struct DoubledFont {
+  std::string face;
+  uint32_t points = 0;
+  uint32_t charset = 0;
+};
+
+// One text that the library breaks into lines itself.
+struct BrokenText {
+  int width;  // of the rectangle
+  int height;
+  unsigned format;
+  std::string text;
+  std::string font;
+};
+
 // What the doubled text library measures.
 inline constexpr int kDoubledCharacterWidth = 8;
 inline constexpr int kDoubledTextHeight = 13;
@@ -39,8 +60,9 @@ struct LibraryScript {
   bool writesFail = false;
   bool unknownSettingsAreMissing = false;  // else a read of one fails the test
 
-  // twilight: the interval, whatever is asked.
+  // twilight: the interval, whatever is asked, unless set for a depression.
   DoubledTime twilightInterval{0, 40};
+  std::map<double, DoubledTime> twilightIntervals;
 
   // candles: "place|day.month.year" to times; none for any other.
   std::map<std::string, CustomTimes> customTimes;
@@ -49,14 +71,35 @@ struct LibraryScript {
   bool amPm = false;
   bool formChanged = false;  // the answer of its dialog
 
-  // hours
+  // hours: the size of the selection. Names are "Zman <index>" and "namZ<index>" but for those set here; an empty one
+  // is none.
   uint32_t zmanimCount = 25;
+  std::map<uint32_t, std::string> zmanNames;
+  std::map<uint32_t, std::string> hebrewZmanNames;
+  // The minutes after midnight of a zman on a day: six o'clock and ten minutes more for every index, unless set.
+  std::function<int32_t(uint32_t index, const CalendarDate& date)> zmanMinutes;
+  bool logZmanim = false;  // whether what is asked of hours and ownhours is logged too; what is stored always is
+
+  // ownhours: the file, "place|description|day.month.year" to time.
+  std::map<std::string, DoubledTime> ownTimes;
+  bool ownTimesFail = false;  // whether the file cannot be written
+  int openOwnTimes = 0;       // stores that are loaded and not done with
+
+  // lections: "day.month.year" of the Jewish date to the seven texts; no readings on any other.
+  std::map<std::string, std::vector<std::string>> readings;
+  std::set<std::string> yizkorDays;
+  uint32_t readingsLanguage = 1;
+  std::string yizkorText = "Yizkor";
+  DoubledFont readingsFont;
+  bool readingsChanged = false;  // the answer of its dialogs
 
   // placepick: the name that the user picks; empty: cancelled
   std::string pickedLocation;
 
   // glyphs
   std::vector<Draw> draws;
+  std::vector<BrokenText> brokenTexts;
+  RECT lastClip{};  // of the last clipped draw
 };
 
 LibraryScript& Libraries();

@@ -9,6 +9,7 @@
 #include "document/tooltip.h"
 #include "engine/current.h"
 #include "win/scoped.h"
+#include "zmanim/zmanim_count.h"
 
 void ProgramTest::SetUp() {
   ResetLibraries();
@@ -25,6 +26,8 @@ void ProgramTest::SetUp() {
     return RegisterWindowClasses(Program.instance, CreateSolidBrush(RGB(255, 255, 0)));
   }();
   ASSERT_TRUE(ready);
+  RefreshZmanimCount();
+  CallLog().clear();
 }
 
 void ProgramTest::TearDown() {

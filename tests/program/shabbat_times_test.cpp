@@ -2,10 +2,14 @@
 // by hand.
 #include "engine/shabbat_times.h"
 
+#include <algorithm>
+
 #include "document/properties.h"
 #include "engine/current.h"
 #include "tests/program/program_fixture.h"
 #include "win/scoped.h"
+#include "zmanim/core/zmanim_block.h"
+#include "zmanim/zmanim_count.h"
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -47,6 +51,15 @@ class ShabbatTimesTest : public ProgramTest {
   DoubledTime FirstEnd() {
     const ShabbatTimeEntry entry = FirstEntry();
     return {static_cast<int32_t>(entry.endHour), static_cast<int32_t>(entry.endMinute)};
+  }
+
+  // The calls of the calculation that start with a prefix, those for the zmanim, which come first, left out.
+  static std::vector<std::string> ShabbatCallsWith(const std::string& prefix) {
+    auto& calls = CallLog();
+    const auto zmanimDone = std::find(calls.begin(), calls.end(), "own times done");
+    EXPECT_NE(zmanimDone, calls.end());
+    calls.erase(calls.begin(), zmanimDone);
+    return CallsWith(prefix);
   }
 
   void Set(const char* key, const char* value) {
@@ -105,8 +118,9 @@ TEST_F(ShabbatTimesTest, EntriesStandInDateOrderOverYearsEnd) {
 
 TEST_F(ShabbatTimesTest, SunsetsOfFridayAndSaturdayAreAskedForThePlace) {
   CurrentLocation = {"South", -3352, -15112, -3, -30};
+  Libraries().logZmanim = true;
   FirstEntry();
-  EXPECT_THAT(CallsWith("sunset"),
+  EXPECT_THAT(ShabbatCallsWith("sunset"),
               ElementsAre("sunset 5.1.2007 -3352 -15112 -3:-30", "sunset 6.1.2007 -3352 -15112 -3:-30"));
 }
 
@@ -199,13 +213,14 @@ TEST_F(ShabbatTimesTest, DegreesMethodLeavesAnHourOfTwentyFourWhenNothingIsCarri
 TEST_F(ShabbatTimesTest, CustomTimesAreTakenExactlyAndNoPreferenceIsReadForThem) {
   Libraries().customTimes["Haifa|5.1.2007"] = {{16, 20}, {17, 31}};
   Libraries().logSettings = true;
+  Libraries().logZmanim = true;
   const ShabbatTimeEntry entry = FirstEntry();
   EXPECT_EQ(entry.candleHour, 16u);
   EXPECT_EQ(entry.candleMinute, 20u);
   EXPECT_EQ(entry.endHour, 17u);
   EXPECT_EQ(entry.endMinute, 31u);
-  EXPECT_THAT(CallsWith("read"), IsEmpty());
-  EXPECT_THAT(CallsWith("sunset"), IsEmpty());
+  EXPECT_THAT(ShabbatCallsWith("read"), IsEmpty());
+  EXPECT_THAT(ShabbatCallsWith("sunset"), IsEmpty());
 }
 
 TEST_F(ShabbatTimesTest, CustomTimesHoldForTheirOwnFridayOnly) {
@@ -219,16 +234,20 @@ TEST_F(ShabbatTimesTest, CustomTimesHoldForTheirOwnFridayOnly) {
 
 TEST_F(ShabbatTimesTest, PreferencesAreReadAfreshForEveryShabbatInTheirOrder) {
   Libraries().logSettings = true;
+  Libraries().logZmanim = true;
   Set("DoMinutes", "0");
   Calculate({{5, 1, 2007}, {12, 1, 2007}});
   const std::string file = "read shabbat2.ini|Shabbat|";
-  EXPECT_THAT(CallsWith("read"),
+  EXPECT_THAT(ShabbatCallsWith("read"),
               ElementsAre(file + "CandleLighting", file + "DoMinutes", file + "DegreesBelowHorizon",
                           file + "AddMinutesAfterDegrees", file + "CandleLighting", file + "DoMinutes",
                           file + "DegreesBelowHorizon", file + "AddMinutesAfterDegrees"));
 }
 
 TEST_F(ShabbatTimesTest, MoreThan32000FridaysAreReportedOnceAndCutTo32001) {
+  Libraries().logZmanim = true;
+  Libraries().zmanimCount = 1;
+  RefreshZmanimCount();
   Calculate({{7, 1, 1583}, {31, 12, 3000}});
   const auto entries = ShabbatTimesOf(document_);
   ASSERT_THAT(entries, SizeIs(32001));
@@ -236,7 +255,7 @@ TEST_F(ShabbatTimesTest, MoreThan32000FridaysAreReportedOnceAndCutTo32001) {
   EXPECT_EQ(entries.back().day, 22u);
   EXPECT_EQ(entries.back().month, 4u);
   EXPECT_EQ(entries.back().year, 2196u);
-  EXPECT_THAT(CallsWith("message box"),
+  EXPECT_THAT(ShabbatCallsWith("message box"),
               ElementsAre("message box 'Too many shabbat times' caption 'Times / Readings' type 0x10 owner none"));
 }
 
@@ -258,6 +277,17 @@ TEST_F(ShabbatTimesTest, ASaturdayWithoutAMonthEndsTheProcess) {
               ElementsAre("fatal exit 0 'CalculateShabbatTimes: dateNext.uMonth must be in the range 1-12'"));
 }
 
+TEST_F(ShabbatTimesTest, TheZmanimOfTheRangeAreComputedForThePlaceOnTheWindow) {
+  Libraries().ownTimes["Haifa|Zman 0|6.1.2007"] = {4, 44};
+  Calculate({{5, 1, 2007}, {6, 1, 2007}});
+  const ScopedGlobalLock<const ZmanimBlock> block(GetBlockProperty(document_, property::kZmanimTimes));
+  ASSERT_TRUE(block);
+  ASSERT_EQ(block->count, 2u);
+  const ZmanimDay* const days = block->days;
+  EXPECT_EQ(days[0].times[0], (ClockTime{6, 0}));
+  EXPECT_EQ(days[1].times[0], (ClockTime{4, 44}));
+}
+
 TEST_F(ShabbatTimesTest, PlaceAndRangeAreRecordedOnTheWindow) {
   CurrentLocation = {"South", -3352, -15112, -3, -30};
   Calculate({{5, 1, 2007}, {11, 2, 2008}});
@@ -277,9 +307,9 @@ TEST_F(ShabbatTimesTest, PlaceAndRangeAreRecordedOnTheWindow) {
 
 TEST_F(ShabbatTimesTest, ASecondCalculationFreesTheBlocksOfTheFirst) {
   FirstEntry();
-  EXPECT_THAT(System().blocks, SizeIs(2));  // City and ShabbatTimes
+  EXPECT_THAT(System().blocks, SizeIs(3));  // City, ZmanimTimes and ShabbatTimes
   FirstEntry();
-  EXPECT_THAT(System().blocks, SizeIs(2));
+  EXPECT_THAT(System().blocks, SizeIs(3));
 }
 
 TEST_F(ShabbatTimesTest, TheCursorIsPutBack) {

@@ -5,6 +5,7 @@
 #include "app/string_table.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
+#include "zmanim/zmanim_count.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -27,7 +28,7 @@ TEST_F(StartUpTest, RunsInOrderFromTheFirstCheckToTheLastRelease) {
   EXPECT_THAT(CallLog(), ElementsAre("StampCheck ignored 1", "HoursGetCount", "KinshipInit", "load CIVILCAL.DLL",
                                      "load LUNARCAL.DLL", "load SOLAR.DLL", "unload CIVILCAL.DLL",
                                      "unload LUNARCAL.DLL", "unload SOLAR.DLL", "KinshipDone"));
-  EXPECT_EQ(Program.zmanimCount, 25u);
+  EXPECT_EQ(GetZmanimCount(), 25u);
   EXPECT_THAT(Program.notice, HasSubstr("without any warranty"));
 }
 

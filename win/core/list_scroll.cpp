@@ -1,4 +1,4 @@
-#include "document/core/list_scroll.h"
+#include "win/core/list_scroll.h"
 
 #include <algorithm>
 

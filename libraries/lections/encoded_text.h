@@ -1,0 +1,18 @@
+// From the UTF-8 of the language tables to the 8-bit texts that the program draws by charset.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace lections {
+
+enum class CodePage : uint16_t { kWestern = 1252, kHebrew = 1255 };
+
+// The Windows charset number of a code page that is drawn in a font of its own; 0 for the program's own font's.
+uint32_t CharSetOf(CodePage page);
+
+// Characters that the code page does not have, and damaged UTF-8, become question marks.
+std::string Encoded(std::string_view utf8, CodePage page);
+
+}  // namespace lections

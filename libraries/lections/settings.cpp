@@ -1,0 +1,84 @@
+#include "libraries/lections/settings.h"
+
+#include <charconv>
+#include <iterator>
+#include <system_error>
+
+#include "libraries/lections/language.h"
+
+namespace lections {
+namespace {
+
+using calendar::Land;
+
+template <typename T>
+struct Named {
+  const char* name;
+  T value;
+};
+
+constexpr Named<Land> kLands[] = {{"Israel", Land::kIsrael}, {"Diaspora", Land::kDiaspora}};
+constexpr Named<Customs> kCustoms[] = {
+    {"Ashkenazi", Customs::kAshkenazi}, {"Sephardi", Customs::kSephardi}, {"Both", Customs::kBoth}};
+constexpr Named<bool> kSwitches[] = {{"0", false}, {"1", true}};
+
+constexpr char kLand[] = "Land";
+constexpr char kCustom[] = "Custom";
+constexpr char kLanguage[] = "Language";
+
+struct Switch {
+  const char* key;
+  bool& (*of)(Settings& settings);
+};
+constexpr Switch kSwitchKeys[] = {
+    {"Chabad", [](Settings& settings) -> bool& { return settings.chabad; }},
+    {"Verses", [](Settings& settings) -> bool& { return settings.verses; }},
+    {"NewMonth", [](Settings& settings) -> bool& { return settings.newMonth; }},
+    {"MondayThursday", [](Settings& settings) -> bool& { return settings.optional.mondayAndThursday; }},
+    {"ShabbatAfternoon", [](Settings& settings) -> bool& { return settings.optional.shabbatAfternoon; }},
+};
+
+template <typename T, size_t kCount>
+void Take(const std::string& text, const Named<T> (&names)[kCount], T& value) {
+  for (const Named<T>& named : names) {
+    if (text == named.name) value = named.value;
+  }
+}
+
+template <typename T, size_t kCount>
+const char* NameOf(T value, const Named<T> (&names)[kCount]) {
+  for (const Named<T>& named : names) {
+    if (named.value == value) return named.name;
+  }
+  return "";
+}
+
+uint32_t LanguageFrom(const std::string& text) {
+  uint32_t code = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, code);
+  return LanguageOf(error == std::errc() && stop == end ? code : 0).code;
+}
+
+}  // namespace
+
+Settings SettingsFrom(const ReadKey& read, Land landOfRegion) {
+  Settings settings;
+  settings.land = landOfRegion;
+  Take(read(kLand), kLands, settings.land);
+  Take(read(kCustom), kCustoms, settings.customs);
+  for (const Switch& choice : kSwitchKeys) Take(read(choice.key), kSwitches, choice.of(settings));
+  settings.language = LanguageFrom(read(kLanguage));
+  return settings;
+}
+
+std::vector<KeyValue> ValuesOf(const Settings& settings) {
+  std::vector<KeyValue> values = {{kLand, NameOf(settings.land, kLands)},
+                                  {kCustom, NameOf(settings.customs, kCustoms)},
+                                  {kLanguage, std::to_string(settings.language)}};
+  Settings copy = settings;
+  for (const Switch& choice : kSwitchKeys) values.push_back({choice.key, NameOf(choice.of(copy), kSwitches)});
+  return values;
+}
+
+}  // namespace lections

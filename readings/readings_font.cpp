@@ -1,0 +1,26 @@
+#include "readings/readings_font.h"
+
+#include "companion/lections.h"
+#include "win/scoped.h"
+
+namespace {
+
+constexpr int kPointsPerInch = 72;
+
+}  // namespace
+
+ReadingsFont::ReadingsFont(HFONT programFont) : programFont_(programFont) {
+  LectionsFont font{};
+  LectionsGetFont2(&font);
+  if (font.UseDefaultFont) return;
+  const ScopedWindowDc display(nullptr);
+  LOGFONTA record{};
+  record.lfHeight = -MulDiv(static_cast<int>(font.PointSize), GetDeviceCaps(display.dc(), LOGPIXELSY), kPointsPerInch);
+  record.lfCharSet = static_cast<BYTE>(font.CharSet);
+  lstrcpynA(record.lfFaceName, font.FaceName, LF_FACESIZE);
+  own_ = CreateFontIndirectA(&record);
+}
+
+ReadingsFont::~ReadingsFont() {
+  if (own_) DeleteObject(own_);
+}

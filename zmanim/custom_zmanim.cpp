@@ -1,0 +1,19 @@
+#include "zmanim/custom_zmanim.h"
+
+#include "zmanim/zmanim_names.h"
+
+bool GetCustomZman(const OwnHoursHandle* store, const CalendarDate& date, const std::string& description,
+                   const char* location, ClockTime& time) {
+  if (description.empty()) return false;
+  return OwnHoursGet(store, date.uDay, date.uMonth, date.uYear, description.c_str(), location, &time.hour,
+                     &time.minute) != 0;
+}
+
+bool SetCustomZman(const CalendarDate& date, uint32_t zman, const char* location, ClockTime time) {
+  const std::string description = LibraryZmanName(zman);
+  if (description.empty()) return false;
+  ScopedCustomZmanim store;
+  return OwnHoursSet(store.get(), date.uDay, date.uMonth, date.uYear, description.c_str(), location, time.hour,
+                     time.minute) &&
+         OwnHoursStore(store.get());
+}

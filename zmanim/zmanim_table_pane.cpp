@@ -1,0 +1,153 @@
+#include <windowsx.h>
+
+#include <optional>
+#include <string>
+
+#include "companion/glyphs.h"
+#include "document/properties.h"
+#include "output/date_text.h"
+#include "resources/ids.h"
+#include "win/list_pane_scroll.h"
+#include "win/scoped.h"
+#include "zmanim/core/zmanim_block.h"
+#include "zmanim/edit_custom_zman.h"
+#include "zmanim/zmanim_measures.h"
+#include "zmanim/zmanim_panes.h"
+#include "zmanim/zmanim_time_text.h"
+
+namespace {
+
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+
+HWND DocumentOf(HWND table) {
+  return GetParent(GetParent(table));
+}
+
+HWND HeadingOf(HWND table) {
+  return GetDlgItem(GetParent(table), IDC_ZMANIM_HEADING);
+}
+
+// The geometry in the font of the table, or, by its bold font, of the heading.
+ZmanimGeometry GeometryOf(HWND table, const char* font = property::kZmanimFont) {
+  const HWND document = DocumentOf(table);
+  const ScopedWindowDc dc(table);
+  return MeasureZmanimTable(table, dc.dc(), GetFontProperty(document, font),
+                            GetBlockProperty(document, property::kZmanimTimes));
+}
+
+void DrawText(HDC dc, const ZmanimGeometry& geometry, const PaneRect& cell, const std::string& text) {
+  GlyphsTextOut(dc, geometry.textIndent + cell.x, cell.y, text.c_str(), static_cast<int>(text.size()));
+}
+
+void DrawDay(HDC dc, const ZmanimGeometry& geometry, uint32_t index, const ZmanimDay& day, const PaneRect& area) {
+  const PaneRect date = geometry.DateRect(index);
+  if (area.x < date.Right()) DrawText(dc, geometry, date, DateText(day.date));
+  const IndexRange zmanim = geometry.ZmanimIn(area);
+  for (uint32_t zman = zmanim.begin; zman < zmanim.end; ++zman) {
+    DrawText(dc, geometry, geometry.CellRect({index, zman}), ZmanTimeText(day.times[zman]));
+  }
+}
+
+// Only what meets the area that is to be painted is drawn. A document without zmanim shows an empty table.
+void PaintTable(HWND table, HDC dc, const RECT& update) {
+  const HWND document = DocumentOf(table);
+  const HFONT font = GetFontProperty(document, property::kZmanimFont);
+  const HGLOBAL handle = GetBlockProperty(document, property::kZmanimTimes);
+  const ZmanimGeometry geometry = MeasureZmanimTable(table, dc, font, handle);
+  const PaneRect area{update.left, update.top, update.right - update.left, update.bottom - update.top};
+  const ScopedSelect selectedFont(dc, font);
+  const ScopedTextColors colors(dc, kBlack, kWhite);
+  const ScopedGlobalLock<const ZmanimBlock> block(handle);
+  const IndexRange days = geometry.DaysIn(area);
+  for (uint32_t day = days.begin; day < days.end; ++day) DrawDay(dc, geometry, day, block->days[day], area);
+}
+
+LRESULT OnPaint(HWND table) {
+  const ScopedPaint paint(table);
+  PaintTable(table, paint.dc(), paint.area());
+  return 0;
+}
+
+LRESULT OnSize(HWND table, int width, int height) {
+  SetupZmanimScroll(table, width, height);
+  return 0;
+}
+
+LRESULT OnVerticalScroll(HWND table, int code, int thumb) {
+  const ZmanimGeometry geometry = GeometryOf(table);
+  ScrollLines(table, code, thumb, geometry.WholeRows(), geometry.rowHeight);
+  return 0;
+}
+
+// The columns of a pane move by so many of them; what is left of them stays.
+void MoveColumns(HWND pane, const ZmanimGeometry& geometry, int columns) {
+  RECT client;
+  GetClientRect(pane, &client);
+  const PaneRect rect = geometry.ColumnsRect(client.bottom);
+  const RECT moving{rect.x, rect.y, client.right, rect.Bottom()};
+  ScrollWindow(pane, columns * geometry.ColumnWidth(), 0, &moving, &moving);
+}
+
+// Nothing pages sideways.
+LRESULT OnHorizontalScroll(HWND table, int code, int thumb) {
+  const std::optional<ScrollRequest> request = ScrollRequestOf(code);
+  if (!request || *request == ScrollRequest::kPageUp || *request == ScrollRequest::kPageDown) return 0;
+  ScrollState state = ScrollStateOf(table, SB_HORZ);
+  state.thumb = thumb;
+  const int position = ScrolledPosition(*request, state);
+  if (position == state.position) return 0;
+  const HWND heading = HeadingOf(table);
+  MoveColumns(table, GeometryOf(table), state.position - position);
+  MoveColumns(heading, GeometryOf(table, property::kBoldZmanimFont), state.position - position);
+  SetScrollPos(table, SB_HORZ, position, TRUE);
+  UpdateWindow(table);
+  UpdateWindow(heading);
+  return 0;
+}
+
+LRESULT OnKeyDown(HWND table, WPARAM key) {
+  if (key == VK_LEFT) return SendMessageA(table, WM_HSCROLL, SB_LINELEFT, 0);
+  if (key == VK_RIGHT) return SendMessageA(table, WM_HSCROLL, SB_LINERIGHT, 0);
+  ScrollByKey(table, key);
+  return 0;
+}
+
+LRESULT OnMouseWheel(HWND table, int16_t delta) {
+  if (IsWheelDelta(delta)) WheelLines(table, delta);
+  return 0;
+}
+
+// A click beside the times does nothing.
+LRESULT OnLeftButtonUp(HWND table, int x, int y) {
+  const std::optional<ZmanimCell> cell = GeometryOf(table).CellAt(x, y);
+  if (!cell || !EditCustomZman(DocumentOf(table), *cell)) return 0;
+  InvalidateRect(table, nullptr, TRUE);
+  UpdateWindow(table);
+  return 0;
+}
+
+}  // namespace
+
+LRESULT CALLBACK ZmanimTablePaneProc(HWND table, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SIZE: return OnSize(table, LOWORD(lParam), HIWORD(lParam));
+    case WM_PAINT: return OnPaint(table);
+    case WM_KEYDOWN: return OnKeyDown(table, wParam);
+    case WM_HSCROLL: return OnHorizontalScroll(table, LOWORD(wParam), HIWORD(wParam));
+    case WM_VSCROLL: return OnVerticalScroll(table, LOWORD(wParam), HIWORD(wParam));
+    case WM_LBUTTONUP: return OnLeftButtonUp(table, GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+    case WM_MOUSEWHEEL: return OnMouseWheel(table, static_cast<int16_t>(HIWORD(wParam)));
+  }
+  return DefWindowProcA(table, message, wParam, lParam);
+}
+
+void SetupZmanimScroll(HWND table, int width, int height) {
+  ZmanimGeometry geometry = GeometryOf(table);
+  geometry.clientWidth = width;
+  geometry.clientHeight = height;
+  SetLastScrollPosition(table, SB_VERT, geometry.LastFirstDay());
+  SetLastScrollPosition(table, SB_HORZ, geometry.LastFirstZman());
+  // The numbers stand over the columns, whose width and first one may have changed.
+  InvalidateRect(HeadingOf(table), nullptr, TRUE);
+}
