@@ -1,15 +1,14 @@
-#include "libraries/placepick/resizable_dialog.h"
+#include "libraries/dialogs/resizable_dialog.h"
 
 #include <algorithm>
 #include <string>
 
 #include "companion/profile.h"
 
-namespace placepick {
+namespace dialogs {
 namespace {
 
 // The size of the client area in dialog units, so that it suits every resolution of the display.
-constexpr char kFile[] = "placepick.ini";
 constexpr char kSection[] = "Dialog";
 constexpr char kWidth[] = "Width";
 constexpr char kHeight[] = "Height";
@@ -56,9 +55,9 @@ void PlaceOverOwner(HWND dialog, SIZE size) {
                SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void Keep(const char* key, LONG pixels, LONG pixelsOfMostUnits) {
+void Keep(const char* file, const char* key, LONG pixels, LONG pixelsOfMostUnits) {
   const std::string units = std::to_string(MulDiv(pixels, kMostUnits, pixelsOfMostUnits));
-  ProfileWriteString(kSection, key, units.c_str(), kFile);
+  ProfileWriteString(kSection, key, units.c_str(), file);
 }
 
 void Apply(Follow follow, LONG growth, LONG& begin, LONG& end) {
@@ -68,7 +67,8 @@ void Apply(Follow follow, LONG growth, LONG& begin, LONG& end) {
 
 }  // namespace
 
-void ResizableDialog::Start(HWND dialog, std::span<const Anchor> anchors) {
+void ResizableDialog::Start(HWND dialog, std::span<const Anchor> anchors, const char* file) {
+  file_ = file;
   for (const Anchor& anchor : anchors) {
     Control control = {GetDlgItem(dialog, anchor.control), {}, anchor};
     GetWindowRect(control.window, &control.rectangle);
@@ -86,8 +86,8 @@ void ResizableDialog::Start(HWND dialog, std::span<const Anchor> anchors) {
 }
 
 SIZE ResizableDialog::KeptClientSize() const {
-  const auto units = [](const char* key) {
-    return std::clamp<LONG>(ProfileGetInt(kSection, key, 0, kFile), 0, kMostUnits);
+  const auto units = [this](const char* key) {
+    return std::clamp<LONG>(ProfileGetInt(kSection, key, 0, file_), 0, kMostUnits);
   };
   RECT kept = {0, 0, units(kWidth), units(kHeight)};
   MapDialogRect(dialog_, &kept);
@@ -119,8 +119,8 @@ void ResizableDialog::KeepSize() const {
   const SIZE kept = KeptClientSize();
   if (client.cx == kept.cx && client.cy == kept.cy) return;
   const SIZE mostUnits = PixelsOfMostUnits(dialog_);
-  Keep(kWidth, client.cx, mostUnits.cx);
-  Keep(kHeight, client.cy, mostUnits.cy);
+  Keep(file_, kWidth, client.cx, mostUnits.cx);
+  Keep(file_, kHeight, client.cy, mostUnits.cy);
 }
 
-}  // namespace placepick
+}  // namespace dialogs

@@ -1,11 +1,11 @@
-// What both dialogs of the library do alike.
+// What the dialogs of several libraries do alike.
 #pragma once
 
 #include <windows.h>
 
 #include <string>
 
-namespace candles {
+namespace dialogs {
 
 // Runs a modal dialog of this library; its procedure gets the state with WM_INITDIALOG. -1 when it cannot be made.
 INT_PTR RunDialog(HWND owner, int dialogId, DLGPROC procedure, void* state);
@@ -28,4 +28,4 @@ void ShowFieldError(HWND dialog, int fieldId, const std::wstring& text);
 // A question under the dialog's own title; "No" is the default.
 bool IsConfirmed(HWND dialog, const std::wstring& question);
 
-}  // namespace candles
+}  // namespace dialogs

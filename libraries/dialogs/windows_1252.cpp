@@ -1,9 +1,9 @@
-#include "libraries/candles/windows_1252.h"
+#include "libraries/dialogs/windows_1252.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace candles {
+namespace dialogs {
 namespace {
 
 // Bytes 0x80 to 0x9F; all others stand for the character of their own number (Unicode Consortium, CP1252.TXT).
@@ -45,4 +45,4 @@ std::optional<std::string> Narrow(std::wstring_view text) {
   return narrow;
 }
 
-}  // namespace candles
+}  // namespace dialogs

@@ -2,12 +2,12 @@
 
 #include <set>
 
-#include "libraries/candles/windows_1252.h"
+#include "libraries/dialogs/windows_1252.h"
 
-namespace candles {
+namespace dialogs {
 namespace {
 
-TEST(CandlesWindows1252, EveryByteComesBackFromACharacterOfItsOwn) {
+TEST(Windows1252, EveryByteComesBackFromACharacterOfItsOwn) {
   std::set<wchar_t> characters;
   for (int byte = 0; byte <= 255; ++byte) {
     const std::string text(1, static_cast<char>(byte));
@@ -20,16 +20,16 @@ TEST(CandlesWindows1252, EveryByteComesBackFromACharacterOfItsOwn) {
 }
 
 // The Unicode Consortium's table CP1252.TXT.
-TEST(CandlesWindows1252, LettersAreThoseOfTheTable) {
+TEST(Windows1252, LettersAreThoseOfTheTable) {
   EXPECT_EQ(Wide("Z\xFCrich"), L"Z\u00FCrich");
   EXPECT_EQ(Wide("\x80\x8A\x92\x9F\xA0\xFF"), (std::wstring{0x20AC, 0x0160, 0x2019, 0x0178, 0x00A0, 0x00FF}));
 }
 
-TEST(CandlesWindows1252, TextWithOtherLettersHasNoBytes) {
+TEST(Windows1252, TextWithOtherLettersHasNoBytes) {
   EXPECT_EQ(Narrow(std::wstring{L'a', 0x05D0}), std::nullopt);
   EXPECT_EQ(Narrow(std::wstring{0x0080}), std::nullopt);
   EXPECT_EQ(Narrow(L""), "");
 }
 
 }  // namespace
-}  // namespace candles
+}  // namespace dialogs

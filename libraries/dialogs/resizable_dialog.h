@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-namespace placepick {
+namespace dialogs {
 
 // What a control does when the dialog grows: it moves or grows with it, or stays as it is.
 enum class Follow { No, Move, Grow };
@@ -21,7 +21,8 @@ class ResizableDialog {
  public:
   // For WM_INITDIALOG: takes the template's size for the least one, gives the dialog the size that was kept and a place
   // over its owner (the middle of the screen without one), always within the work area.
-  void Start(HWND dialog, std::span<const Anchor> anchors);
+  // file: the INI file that the size is kept in; a text that lives as long as this.
+  void Start(HWND dialog, std::span<const Anchor> anchors, const char* file);
 
   // WM_SIZE, WM_GETMINMAXINFO and WM_EXITSIZEMOVE. Before Start they do nothing.
   void ArrangeControls() const;
@@ -38,9 +39,10 @@ class ResizableDialog {
   SIZE KeptClientSize() const;
 
   HWND dialog_ = nullptr;
+  const char* file_ = nullptr;
   std::vector<Control> controls_;
   SIZE leastClient_ = {};
   SIZE leastWindow_ = {};
 };
 
-}  // namespace placepick
+}  // namespace dialogs

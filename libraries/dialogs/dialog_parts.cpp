@@ -1,6 +1,6 @@
-#include "libraries/candles/dialog_parts.h"
+#include "libraries/dialogs/dialog_parts.h"
 
-namespace candles {
+namespace dialogs {
 namespace {
 
 HINSTANCE ThisLibrary() {
@@ -50,4 +50,4 @@ bool IsConfirmed(HWND dialog, const std::wstring& question) {
   return MessageBoxW(dialog, question.c_str(), TextOf(dialog).c_str(), buttons) == IDYES;
 }
 
-}  // namespace candles
+}  // namespace dialogs
