@@ -45,6 +45,11 @@ void ShowFieldError(HWND dialog, int fieldId, const std::wstring& text) {
   FocusField(dialog, fieldId);
 }
 
+INT_PTR PassHelpOn(HWND dialog, LPARAM helpInfo) {
+  if (const HWND owner = GetWindow(dialog, GW_OWNER)) SendMessageW(owner, WM_HELP, 0, helpInfo);
+  return TRUE;
+}
+
 bool IsConfirmed(HWND dialog, const std::wstring& question) {
   const UINT buttons = MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2;
   return MessageBoxW(dialog, question.c_str(), TextOf(dialog).c_str(), buttons) == IDYES;

@@ -25,6 +25,9 @@ void FocusField(HWND dialog, int fieldId);
 // An error in a field, which then has the focus.
 void ShowFieldError(HWND dialog, int fieldId, const std::wstring& text);
 
+// WM_HELP for a dialog procedure: F1 in any dialog is answered by the last of its owners.
+INT_PTR PassHelpOn(HWND dialog, LPARAM helpInfo);
+
 // A question under the dialog's own title; "No" is the default.
 bool IsConfirmed(HWND dialog, const std::wstring& question);
 

@@ -4,6 +4,7 @@
 #include "companion/hours.h"
 #include "companion/profile.h"
 #include "libraries/hours/description_text.h"
+#include "libraries/hours/hours_dialog.h"
 #include "libraries/hours/hours_file.h"
 #include "libraries/hours/zman_day.h"
 #include "libraries/sun/place_settings.h"
@@ -112,4 +113,9 @@ int32_t HoursCalculate2(HWND, int32_t latitude, int32_t longitude, int32_t zoneH
   return static_cast<int32_t>((*minute % kMinutesPerDay + kMinutesPerDay) % kMinutesPerDay);
 } catch (...) {
   return HOURS_NONE;
+}
+
+void HoursDoDialogInitLoc(HWND owner, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes) try {
+  hours::RunSelectionDialog(owner, {latitude, longitude, zoneHours, zoneMinutes});
+} catch (...) {
 }
