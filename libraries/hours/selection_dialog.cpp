@@ -217,7 +217,7 @@ void SelectionDialog::Add() {
     MessageBeep(MB_OK);
     return;
   }
-  SelectNextToChoose();  // first, lest the button be disabled under the focus
+  SelectNextToChoose();
   ShowChosen(choice_.chosen.size() - 1);
   if (GetFocus() == Control(IDC_TYPED)) SendDlgItemMessageW(dialog_, IDC_TYPED, EM_SETSEL, 0, -1);
 }

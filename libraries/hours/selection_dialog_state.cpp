@@ -77,7 +77,9 @@ void SelectionDialog::ShowPresetInUse() const {
   SendDlgItemMessageW(dialog_, IDC_PRESET, CB_SETCURSEL, number.value_or(static_cast<size_t>(-1)), 0);
 }
 
+// The buttons are not told: the next thing shown tells them, and they are not to lose the focus in between.
 void SelectionDialog::SelectNextToChoose() {
+  isFilling_ = true;
   const std::optional<size_t> selected = offeredList_.Selected();
   for (size_t row = selected.value_or(0); row < offeredRows_.size(); ++row) {
     if (!offeredRows_[row].isHeading && !IsChosen(choice_, OfferedIdAt(row))) {
@@ -85,6 +87,8 @@ void SelectionDialog::SelectNextToChoose() {
       break;
     }
   }
+  isFilling_ = false;
+  current_ = OfferedIdAt(offeredList_.Selected());
 }
 
 void SelectionDialog::OnSelected(const std::string& id) {
