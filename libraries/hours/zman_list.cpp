@@ -74,7 +74,7 @@ int ZmanList::WidthOf(const wchar_t* text) const {
 }
 
 void ZmanList::FitColumns() const {
-  const int margins = WidthOf(L"mm");
+  const int margins = WidthOf(L"mi");
   RECT list;
   GetWindowRect(list_, &list);
   int rest = list.right - list.left - GetSystemMetrics(SM_CXVSCROLL) - 2 * GetSystemMetrics(SM_CXEDGE);
