@@ -9,10 +9,13 @@
 #include "app/string_table.h"
 #include "companion/stamp.h"
 #include "document/properties.h"
+#include "readings/delimited_export_dialog.h"
+#include "readings/export_readings.h"
 #include "resources/ids.h"
 #include "win/file_sink.h"
 #include "win/save_dialog.h"
 #include "win/scoped.h"
+#include "zmanim/export_zmanim.h"
 
 namespace {
 
@@ -53,37 +56,81 @@ void ExportShabbatTimes(HWND frame, ExportFormat format, Writer write) {
   if (!written) ShowUnwritableFile(frame, *file);
 }
 
-void ExportRtfAs(HWND frame, RtfLayout layout) {
-  if (!CanExport()) return;
+bool IsPaneVisible(HWND document, int pane) {
+  return IsWindowVisible(GetDlgItem(document, pane)) != FALSE;
+}
+
+void ExportShabbatRtf(HWND frame, RtfLayout layout) {
   ExportShabbatTimes(frame, ExportFormat::kRtf,
                      [layout](TextSink& sink, const ShabbatExport& data) { WriteShabbatRtf(sink, data, layout); });
 }
 
-}  // namespace
-
-bool CanExport() {
-  const HWND document = ActiveDocument();
-  return document && IsWindowVisible(GetDlgItem(document, IDC_LIST_PANE));
-}
-
-void ExportText(HWND frame) {
-  if (CanExport()) ExportShabbatTimes(frame, ExportFormat::kText, WriteShabbatText);
-}
-
-void ExportRtf(HWND frame) {
-  if (!CanExport()) return;
+void ChooseShabbatRtf(HWND frame) {
   const auto layout = RunRtfOptionsDialog(frame);
   if (!layout) return;
   switch (*layout) {
-    case RtfLayout::kSameRow: ExportRtfAs(frame, RtfLayout::kSameRow); break;
+    case RtfLayout::kSameRow: ExportShabbatRtf(frame, RtfLayout::kSameRow); break;
     case RtfLayout::kThreeColumns: PostMessageA(frame, WM_COMMAND, IDM_EXPORT_RTF_THREE_COLUMNS, 0); break;
     case RtfLayout::kTwoColumns: PostMessageA(frame, WM_COMMAND, IDM_EXPORT_RTF_TWO_COLUMNS, 0); break;
   }
 }
 
+// The second layout of every view; only that of the Shabbat times has two forms.
+void ExportSecondRtf(HWND frame, RtfLayout shabbatLayout) {
+  const HWND document = ActiveDocument();
+  if (!document) return;
+  if (IsPaneVisible(document, IDC_LIST_PANE)) {
+    ExportShabbatRtf(frame, shabbatLayout);
+  } else if (IsPaneVisible(document, IDC_ZMANIM_PANE)) {
+    ExportZmanimByDay(frame, document);
+  } else {
+    ExportReadingsNarrow(frame, document);
+  }
+}
+
+}  // namespace
+
+void ExportText(HWND frame) {
+  const HWND document = ActiveDocument();
+  if (!document) return;
+  if (IsPaneVisible(document, IDC_LIST_PANE)) {
+    ExportShabbatTimes(frame, ExportFormat::kText, WriteShabbatText);
+  } else if (IsPaneVisible(document, IDC_ZMANIM_PANE)) {
+    ExportZmanim(frame, document, ExportFormat::kText);
+  } else {
+    ExportReadings(frame, document, ExportFormat::kText);
+  }
+}
+
+void ExportRtf(HWND frame) {
+  const HWND document = ActiveDocument();
+  if (!document) return;
+  if (IsPaneVisible(document, IDC_LIST_PANE)) {
+    ChooseShabbatRtf(frame);
+  } else if (IsPaneVisible(document, IDC_ZMANIM_PANE)) {
+    ExportZmanim(frame, document, ExportFormat::kRtf);
+  } else {
+    ExportReadings(frame, document, ExportFormat::kRtf);
+  }
+}
+
 void ExportRtfInThreeColumns(HWND frame) {
-  ExportRtfAs(frame, RtfLayout::kThreeColumns);
+  ExportSecondRtf(frame, RtfLayout::kThreeColumns);
 }
 void ExportRtfInTwoColumns(HWND frame) {
-  ExportRtfAs(frame, RtfLayout::kTwoColumns);
+  ExportSecondRtf(frame, RtfLayout::kTwoColumns);
+}
+
+void ExportZmanimByDayLater(HWND frame) {
+  PostMessageA(frame, WM_COMMAND, IDM_EXPORT_RTF_THREE_COLUMNS, 0);
+}
+void ExportReadingsNarrowLater(HWND frame) {
+  PostMessageA(frame, WM_COMMAND, IDM_EXPORT_RTF_TWO_COLUMNS, 0);
+}
+
+void ExportZmanimDelimited(HWND frame) {
+  if (const HWND document = ActiveDocument()) RunZmanimExportDialog(frame, document);
+}
+void ExportDatesDelimited(HWND frame) {
+  if (const HWND document = ActiveDocument()) RunDatesExportDialog(frame, document);
 }

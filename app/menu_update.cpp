@@ -3,7 +3,6 @@
 #include <initializer_list>
 
 #include "app/active_document.h"
-#include "app/export_commands.h"
 #include "app/frame_commands.h"
 #include "app/program.h"
 #include "document/document_window.h"
@@ -25,13 +24,13 @@ bool IsPaneVisible(HWND document, int pane) {
 }
 
 void UpdateDocumentCommands(HMENU menu, HWND document) {
-  for (const unsigned id :
-       {IDM_SUNSET_OF_A_DAY, IDM_EXPORT_UNUSED, IDM_VIEW_SHABBAT_TIMES, IDM_VIEW_ZMANIM, IDM_VIEW_READINGS,
-        IDM_WINDOW_CASCADE, IDM_WINDOW_TILE_VERTICALLY, IDM_WINDOW_TILE, IDM_WINDOW_CLOSE_ALL}) {
+  for (const unsigned id : {IDM_SUNSET_OF_A_DAY, IDM_EXPORT_TEXT, IDM_EXPORT_UNUSED, IDM_EXPORT_RTF, IDM_EXPORT_ZMANIM,
+                            IDM_EXPORT_DATES, IDM_VIEW_SHABBAT_TIMES, IDM_VIEW_ZMANIM, IDM_VIEW_READINGS,
+                            IDM_WINDOW_CASCADE, IDM_WINDOW_TILE_VERTICALLY, IDM_WINDOW_TILE, IDM_WINDOW_CLOSE_ALL}) {
     Enable(menu, id, document != nullptr);
   }
-  Enable(menu, IDM_EXPORT_TEXT, CanExport());
-  Enable(menu, IDM_EXPORT_RTF, CanExport());
+  Enable(menu, IDM_EXPORT_RTF_BY_DAY, document && IsPaneVisible(document, IDC_ZMANIM_PANE));
+  Enable(menu, IDM_EXPORT_RTF_NARROW, document && IsPaneVisible(document, IDC_READINGS_PANE));
   if (!document) return;
   Enable(menu, IDM_PRINT, !IsPaneVisible(document, IDC_LIST_PANE) && !IsPaneVisible(document, IDC_READINGS_PANE));
 }

@@ -1,75 +1,105 @@
-// A day's zmanim, and the look-up of times set by hand. Dates change from call to call, as in a table over years.
-#include <benchmark/benchmark.h>
+#include "benchmarks/zmanim_bench.h"
 
+#include <windows.h>
+
+#include <cstdio>
 #include <string>
-#include <vector>
 
-#include "benchmarks/strided_days.h"
-#include "libraries/hours/catalogue.h"
-#include "libraries/hours/choice.h"
-#include "libraries/hours/zman_day.h"
-#include "libraries/ownhours/own_times.h"
+#include "app/active_document.h"
+#include "app/bound_entries.h"
+#include "app/frame_window.h"
+#include "app/program.h"
+#include "app/window_classes.h"
+#include "benchmarks/measured.h"
+#include "document/properties.h"
+#include "engine/current.h"
+#include "resources/ids.h"
+#include "win/scoped.h"
+#include "zmanim/calculate_zmanim.h"
+#include "zmanim/core/zmanim_block.h"
+#include "zmanim/zmanim_count.h"
 
 namespace {
 
-constexpr int32_t kFirstUnixDay = -25567;  // 1 January 1900
+constexpr int kCalculations = 3;
+constexpr int kPaintings = 20;
+constexpr int kSteps = 200;
+constexpr int32_t kFirstDay = 726468;  // 1 January 1990
+constexpr int32_t kDays = 32000;
 
-sun::PlaceSettings Aachen() {
-  sun::PlaceSettings place = {sun::SiteFromPacked(5047, 605, 1, 0), 173, {3600, {}}};
-  std::string("Europe/Berlin").copy(place.clock.zoneId.data(), place.clock.zoneId.size() - 1);
-  return place;
-}
-
-// So many zmanim, spread over the catalogue.
-std::vector<hours::Definition> SomeZmanim(size_t count) {
-  const auto catalogue = hours::Catalogue();
-  std::vector<hours::Definition> zmanim;
-  for (size_t i = 0; i < count; ++i) zmanim.push_back(catalogue[i * 7 % catalogue.size()].definition);
-  return zmanim;
-}
-
-void DayOfZmanim(benchmark::State& state) {
-  const std::vector<hours::Definition> zmanim = SomeZmanim(static_cast<size_t>(state.range(0)));
-  const sun::PlaceSettings place = Aachen();
-  StridedDays days(kFirstUnixDay);
-  while (state.KeepRunningBatch(state.range(0))) {
-    hours::ZmanDay day(days.Next(), place, {7 * 60, 18 * 60});
-    for (const hours::Definition& zman : zmanim) benchmark::DoNotOptimize(day.ClockMinute(zman));
+// Chooses so many zmanim, each by a depression of its own, and waits until the library has noticed.
+bool ChooseZmanim(const SettingsHome& home, uint32_t count) {
+  std::string text;
+  for (uint32_t i = 1; i <= count; ++i) {
+    const std::string number = std::to_string(i);
+    const std::string degrees = std::to_string(3 + i / 10) + "." + std::to_string(i % 10);
+    text += "zman own-" + number + "\nown " + number + " degrees-before-sunrise " + degrees + " up Dawn by " + degrees +
+            " degrees|" + number + "\n";
   }
-}
-BENCHMARK(DayOfZmanim)->Name("zman of a day's")->Arg(40)->Arg(100);
-
-void Selection(benchmark::State& state) {
-  const hours::Choice choice = hours::ReadChoice("");
-  for (auto _ : state) benchmark::DoNotOptimize(hours::ChosenZmanim(choice));
-}
-BENCHMARK(Selection)->Name("selection made of a choice");
-
-// Ten thousand times, on as many days or on as few as they fill.
-ownhours::OwnTimes ManyTimes(uint32_t perDay) {
-  ownhours::OwnTimes times;
-  for (uint32_t i = 0; i < 10000; ++i) {
-    const uint32_t day = i / perDay;
-    const auto date = ownhours::PackDate(1 + day % 28, 1 + day / 28 % 12, 1900 + day / 28 / 12);
-    times.Set({{*date, "Zman of the number " + std::to_string(i % perDay), "Aachen"}, {5, 5}});
+  home.Put("hours.txt", text);
+  for (int i = 0; i < 100; ++i) {
+    RefreshZmanimCount();
+    if (GetZmanimCount() == count) return true;
+    Sleep(10);
   }
-  return times;
+  std::fprintf(stderr, "%u zmanim instead of %u\n", GetZmanimCount(), count);
+  return false;
 }
 
-void OwnTime(benchmark::State& state) {
-  const auto perDay = static_cast<uint32_t>(state.range(0));
-  const ownhours::OwnTimes times = ManyTimes(perDay);
-  std::vector<std::string> descriptions;
-  for (int zman = 0; zman < 40; ++zman) descriptions.push_back("Zman of the number " + std::to_string(zman));
-  uint32_t day = 0;
-  while (state.KeepRunningBatch(40)) {
-    day = (day + 1) % 10000;
-    const auto date = ownhours::PackDate(1 + day % 28, 1 + day / 28 % 12, 1900 + day / 28 / 12);
-    for (const std::string& description : descriptions) {
-      benchmark::DoNotOptimize(times.Find(*date, description, "Aachen"));
-    }
-  }
+void MeasureCalculation(HWND document, const char* name) {
+  const CalendarDate start = DateFromAbsolute(kFirstDay);
+  const CalendarDate end = DateFromAbsolute(kFirstDay + kDays - 1);
+  Report(name, BestMilliseconds(kCalculations, [&] {
+           CalculateZmanim(document, start.uDay, start.uMonth, start.uYear, end.uDay, end.uMonth, end.uYear);
+         }));
+  const uint32_t count = ScopedGlobalLock<const ZmanimBlock>(GetBlockProperty(document, property::kZmanimTimes))->count;
+  if (count != kDays) std::fprintf(stderr, "%u days instead of %d\n", count, kDays);
 }
-BENCHMARK(OwnTime)->Name("look-up of a time set by hand")->Arg(1)->Arg(40);
+
+void MeasurePainting(HWND pane, const char* name) {
+  Report(name, BestMilliseconds(kPaintings, [pane] {
+           RedrawWindow(pane, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+           GdiFlush();
+         }));
+}
+
+// Forth and back again.
+void MeasureSteps(HWND table, UINT message, int forth, int back, const char* name) {
+  const double milliseconds = BestMilliseconds(3, [=] {
+    for (int i = 0; i < kSteps; ++i) SendMessageA(table, message, static_cast<WPARAM>(i % 2 ? back : forth), 0);
+    GdiFlush();
+  });
+  Report(name, milliseconds / kSteps);
+}
+
+void MeasureTable(HWND document) {
+  const HWND container = GetDlgItem(document, IDC_ZMANIM_PANE);
+  const HWND table = GetDlgItem(container, IDC_ZMANIM_TABLE);
+  MeasurePainting(table, "a screen of the zmanim table, ms");
+  MeasurePainting(GetDlgItem(container, IDC_ZMANIM_LEGEND), "legend of 100 zmanim, ms");
+  MeasureSteps(table, WM_VSCROLL, SB_LINEDOWN, SB_LINEUP, "zmanim table, a day down or up, ms");
+  MeasureSteps(table, WM_HSCROLL, SB_LINERIGHT, SB_LINELEFT, "zmanim table, a zman right or left, ms");
+  MeasureSteps(table, WM_VSCROLL, SB_PAGEDOWN, SB_PAGEUP, "zmanim table, a page down or up, ms");
+}
 
 }  // namespace
+
+bool MeasureZmanim(const SettingsHome& home) {
+  Program.instance = GetModuleHandleA(nullptr);
+  const HBRUSH tooltipBrush = CreateSolidBrush(RGB(255, 255, 0));
+  if (!RegisterWindowClasses(Program.instance, tooltipBrush)) return false;
+  const HWND frame = CreateFrameWindow(SW_SHOWNORMAL);
+  const HWND document = frame ? ActiveDocument() : nullptr;
+  if (!document) return false;
+  SendMessageA(document, WM_COMMAND, IDB_ZMANIM, 0);
+  bool chosen = ChooseZmanim(home, 40);
+  if (chosen) MeasureCalculation(document, "32,000 days x 40 zmanim, ms");
+  chosen = chosen && ChooseZmanim(home, 100);
+  if (chosen) {
+    MeasureCalculation(document, "32,000 days x 100 zmanim, ms");
+    MeasureTable(document);
+  }
+  DestroyWindow(frame);
+  DeleteObject(tooltipBrush);
+  return chosen;
+}

@@ -3,7 +3,6 @@
 #include "app/string_table.h"
 #include "companion/glyphs.h"
 #include "document/properties.h"
-#include "engine/settings_flags.h"
 #include "resources/ids.h"
 #include "win/display_font.h"
 #include "win/scoped.h"
@@ -49,11 +48,12 @@ LRESULT OnPaint(HWND pane) {
   const ScopedPaint paint(pane);
   RECT client;
   GetClientRect(pane, &client);
-  if (ZmanimInHebrew()) {
-    PaintHebrewLegend(paint.dc(), client, GetZmanimInUse());
+  const ZmanimInUse inUse = GetZmanimInUse();
+  if (LegendIsHebrew(inUse)) {
+    PaintHebrewLegend(paint.dc(), client, inUse);
   } else {
     const HFONT font = GetFontProperty(GetParent(GetParent(pane)), property::kBoldZmanimFont);
-    PaintEnglishLegend(paint.dc(), client, font, GetZmanimInUse());
+    PaintEnglishLegend(paint.dc(), client, font, inUse);
   }
   return 0;
 }

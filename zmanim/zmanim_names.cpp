@@ -2,6 +2,7 @@
 
 #include "app/string_table.h"
 #include "companion/hours.h"
+#include "engine/settings_flags.h"
 #include "resources/ids.h"
 
 std::string LibraryZmanName(uint32_t zman) {
@@ -15,6 +16,10 @@ std::vector<std::string> ZmanNames(const ZmanimInUse& inUse) {
     names.push_back(inUse.fromLibrary ? LibraryZmanName(zman) : TableString(IDS_FIRST_BUILT_IN_ZMAN + zman));
   }
   return names;
+}
+
+bool LegendIsHebrew(const ZmanimInUse& inUse) {
+  return inUse.fromLibrary && ZmanimInHebrew();
 }
 
 std::vector<std::string> HebrewZmanNames(uint32_t count) {

@@ -80,12 +80,13 @@ LRESULT OnVerticalScroll(HWND table, int code, int thumb) {
   return 0;
 }
 
-// The columns of a pane move by so many of them; what is left of them stays.
+// The columns of a pane move by so many of them; the dates stay, and so does what the heading has beyond the table's
+// edge, where it shows no numbers.
 void MoveColumns(HWND pane, const ZmanimGeometry& geometry, int columns) {
   RECT client;
   GetClientRect(pane, &client);
   const PaneRect rect = geometry.ColumnsRect(client.bottom);
-  const RECT moving{rect.x, rect.y, client.right, rect.Bottom()};
+  const RECT moving{rect.x, rect.y, rect.Right(), rect.Bottom()};
   ScrollWindow(pane, columns * geometry.ColumnWidth(), 0, &moving, &moving);
 }
 

@@ -9,7 +9,7 @@ namespace {
 constexpr Topic kTopics[] = {
     {"Start", "index.html"},   {"Shabbat times", "shabbat_times.html"},
     {"Places", "places.html"}, {"Accuracy", "accuracy.html"},
-    {"Zmanim", "zmanim.html"},
+    {"Zmanim", "zmanim.html"}, {"Readings", "readings.html"},
 };
 
 char LowerCase(char c) {

@@ -20,6 +20,7 @@ constexpr CheckBox kCheckBoxes[] = {
     {IDC_NEW_MONTH, [](Settings& settings) -> bool& { return settings.newMonth; }},
     {IDC_MONDAY_THURSDAY, [](Settings& settings) -> bool& { return settings.optional.mondayAndThursday; }},
     {IDC_SHABBAT_AFTERNOON, [](Settings& settings) -> bool& { return settings.optional.shabbatAfternoon; }},
+    {IDC_TRIENNIAL, [](Settings& settings) -> bool& { return settings.optional.triennial; }},
 };
 
 struct CustomButton {

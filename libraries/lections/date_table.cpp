@@ -29,7 +29,7 @@ constexpr char kShavuotOffering[] = "Numbers 28:26-31";
 constexpr char kSinai[] = "Exodus 19:1-20:23";
 constexpr Haftarot kPesachFirst = {"Joshua 3:5-7, 5:2-6:1, 6:27", "Joshua 5:2-6:1, 6:27", kAsSephardi};
 constexpr Haftarot kSimchatTorahHaftarot = {"Joshua 1:1-18", "Joshua 1:1-9", kAsAshkenazi};
-constexpr char kSimchatTorahReading[] = "Deuteronomy 33:1-34:12, Genesis 1:1-2:3";
+constexpr char kSimchatTorahTorah[] = "Deuteronomy 33:1-34:12, Genesis 1:1-2:3";
 
 // A fast, on its date unless that is a Shabbat, else on the other date.
 constexpr DateRow Fast(int32_t month, int32_t day, uint8_t weekdays, Occasion occasion) {
@@ -132,16 +132,20 @@ constexpr DateRow YomKippur(uint8_t weekdays) {
 // Rows of one date stand together, those of a weekday of its own first.
 // clang-format off
 constexpr DateRow kDates[] = {
-    Festival(kTishri, 1, kBothLands, kOnShabbat, kRoshHashana, 1, "Genesis 21:1-34", "Numbers 29:1-6", "I Samuel 1:1-2:10"),
-    Festival(kTishri, 1, kBothLands, kAnyDay, kRoshHashana, 1, "Genesis 21:1-34", "Numbers 29:1-6", "I Samuel 1:1-2:10"),
+    Festival(kTishri, 1, kBothLands, kOnShabbat, kRoshHashana, 1, "Genesis 21:1-34", "Numbers 29:1-6",
+             "I Samuel 1:1-2:10"),
+    Festival(kTishri, 1, kBothLands, kAnyDay, kRoshHashana, 1, "Genesis 21:1-34", "Numbers 29:1-6",
+             "I Samuel 1:1-2:10"),
     Festival(kTishri, 2, kBothLands, kAnyDay, kRoshHashana, 2, "Genesis 22:1-24", "Numbers 29:1-6", "Jeremiah 31:2-20"),
     Fast(kTishri, 3, kOnWeekday, kFastOfGedaliah),
     Fast(kTishri, 4, kOnSunday, kFastOfGedaliah),
     YomKippur(kOnShabbat),
     YomKippur(kAnyDay),
 
-    // Where no Shabbat lies between the first and the eighth day, Ecclesiastes is read on the eighth, in Israel on the first.
-    Festival(kTishri, 15, kIsraelOnly, kOnShabbat, kSukkot, 1, kFestivals, "Numbers 29:12-16", "Zechariah 14:1-21", "Ecclesiastes"),
+    // Where no Shabbat lies between the first and the eighth day, Ecclesiastes is read on the eighth, in Israel on the
+    // first.
+    Festival(kTishri, 15, kIsraelOnly, kOnShabbat, kSukkot, 1, kFestivals, "Numbers 29:12-16", "Zechariah 14:1-21",
+             "Ecclesiastes"),
     Festival(kTishri, 15, kDiasporaOnly, kOnShabbat, kSukkot, 1, kFestivals, "Numbers 29:12-16", "Zechariah 14:1-21"),
     Festival(kTishri, 15, kBothLands, kAnyDay, kSukkot, 1, kFestivals, "Numbers 29:12-16", "Zechariah 14:1-21"),
     Festival(kTishri, 16, kDiasporaOnly, kAnyDay, kSukkot, 2, kFestivals, "Numbers 29:12-16", "I Kings 8:2-21"),
@@ -165,11 +169,15 @@ constexpr DateRow kDates[] = {
     SukkotWeekday(5, kDiasporaOnly, "Numbers 29:23-31"),
     SukkotWeekday(6, kDiasporaOnly, "Numbers 29:26-34"),
     SukkotWeekday(7, kDiasporaOnly, "Numbers 29:26-34"),
-    Festival(kTishri, 22, kDiasporaOnly, kOnShabbat, kSheminiAtzeret, 0, kTithes, kEighthDay, "I Kings 8:54-66", "Ecclesiastes"),
+    Festival(kTishri, 22, kDiasporaOnly, kOnShabbat, kSheminiAtzeret, 0, kTithes, kEighthDay, "I Kings 8:54-66",
+             "Ecclesiastes"),
     Festival(kTishri, 22, kDiasporaOnly, kAnyDay, kSheminiAtzeret, 0, kTithes, kEighthDay, "I Kings 8:54-66"),
-    Festival(kTishri, 22, kIsraelOnly, kOnShabbat, kSimchatTorah, 0, kSimchatTorahReading, kEighthDay, kSimchatTorahHaftarot),
-    Festival(kTishri, 22, kIsraelOnly, kAnyDay, kSimchatTorah, 0, kSimchatTorahReading, kEighthDay, kSimchatTorahHaftarot),
-    Festival(kTishri, 23, kDiasporaOnly, kAnyDay, kSimchatTorah, 0, kSimchatTorahReading, kEighthDay, kSimchatTorahHaftarot),
+    Festival(kTishri, 22, kIsraelOnly, kOnShabbat, kSimchatTorah, 0, kSimchatTorahTorah, kEighthDay,
+             kSimchatTorahHaftarot),
+    Festival(kTishri, 22, kIsraelOnly, kAnyDay, kSimchatTorah, 0, kSimchatTorahTorah, kEighthDay,
+             kSimchatTorahHaftarot),
+    Festival(kTishri, 23, kDiasporaOnly, kAnyDay, kSimchatTorah, 0, kSimchatTorahTorah, kEighthDay,
+             kSimchatTorahHaftarot),
 
     Fast(kTevet, 10, kOnWeekday, kFastOfTevet),
     Fast(kAdarOfPurim, 11, kOnThursday, kFastOfEsther),
@@ -179,7 +187,8 @@ constexpr DateRow kDates[] = {
      .torah = "Exodus 17:8-16", .scroll = "Esther"},
 
     // The Song of Songs likewise: on the last day, in Israel on the first.
-    Festival(kNisan, 15, kIsraelOnly, kOnShabbat, kPesach, 1, "Exodus 12:21-51", kPesachOffering, kPesachFirst, "Song of Songs"),
+    Festival(kNisan, 15, kIsraelOnly, kOnShabbat, kPesach, 1, "Exodus 12:21-51", kPesachOffering, kPesachFirst,
+             "Song of Songs"),
     Festival(kNisan, 15, kDiasporaOnly, kOnShabbat, kPesach, 1, "Exodus 12:21-51", kPesachOffering, kPesachFirst),
     Festival(kNisan, 15, kBothLands, kAnyDay, kPesach, 1, "Exodus 12:21-51", kPesachOffering, kPesachFirst),
     Festival(kNisan, 16, kDiasporaOnly, kAnyDay, kPesach, 2, kFestivals, kPesachOffering, "II Kings 23:1-9, 23:21-25"),
@@ -192,9 +201,12 @@ constexpr DateRow kDates[] = {
     PesachWeekday(5, kBothLands, kOnMonday, "Exodus 22:24-23:19, Numbers 28:19-25"),
     PesachWeekday(5, kBothLands, kOnWeekday, "Exodus 34:1-26, Numbers 28:19-25"),
     PesachWeekday(6, kBothLands, kOnWeekday, "Numbers 9:1-14, 28:19-25"),
-    Festival(kNisan, 21, kBothLands, kOnShabbat, kPesach, 7, "Exodus 13:17-15:26", kPesachOfferingLater, "II Samuel 22:1-51", "Song of Songs"),
-    Festival(kNisan, 21, kBothLands, kAnyDay, kPesach, 7, "Exodus 13:17-15:26", kPesachOfferingLater, "II Samuel 22:1-51"),
-    Festival(kNisan, 22, kDiasporaOnly, kOnShabbat, kPesach, 8, kTithes, kPesachOfferingLater, "Isaiah 10:32-12:6", "Song of Songs"),
+    Festival(kNisan, 21, kBothLands, kOnShabbat, kPesach, 7, "Exodus 13:17-15:26", kPesachOfferingLater,
+             "II Samuel 22:1-51", "Song of Songs"),
+    Festival(kNisan, 21, kBothLands, kAnyDay, kPesach, 7, "Exodus 13:17-15:26", kPesachOfferingLater,
+             "II Samuel 22:1-51"),
+    Festival(kNisan, 22, kDiasporaOnly, kOnShabbat, kPesach, 8, kTithes, kPesachOfferingLater, "Isaiah 10:32-12:6",
+             "Song of Songs"),
     Festival(kNisan, 22, kDiasporaOnly, kAnyDay, kPesach, 8, kFirstborn, kPesachOfferingLater, "Isaiah 10:32-12:6"),
 
     Festival(kSivan, 6, kIsraelOnly, kAnyDay, kShavuot, 0, kSinai, kShavuotOffering, "Ezekiel 1:1-28, 3:12", "Ruth"),

@@ -1,6 +1,7 @@
 #include "libraries/lections/day_readings.h"
 
 #include "libraries/calendar/jewish.h"
+#include "libraries/lections/triennial.h"
 
 namespace lections {
 namespace {
@@ -124,10 +125,11 @@ bool IsPurimOfWalledCities(const Day& day) {
   return day.land == Land::kIsrael && day.date.month == adarOfPurim && day.date.day == 15;
 }
 
-void ReadShabbat(const Day& day, const WeeklyPortion& read, DayReadings& readings) {
+void ReadShabbat(const Day& day, const WeeklyPortion& read, bool triennial, DayReadings& readings) {
   readings.portion = read;
   NameShabbat(day, read, readings);
-  readings.torah.Add({Part::kMain, TorahOf(read), {}});
+  const Passage torah = triennial ? TriennialOf(read, day.date.year, day.land) : TorahOf(read);
+  readings.torah.Add({Part::kMain, torah, {}});
   AddMaftir(day, readings);
   readings.haftarot.Add({Part::kMain, HaftarahOfShabbat(day, read), {}});
   if (!IsPurimOfWalledCities(day)) return;
@@ -202,7 +204,7 @@ DayReadings ReadingsOn(const Date& date, Land land, Custom custom, const Optiona
     ReadDate(day, *row, readings);
   } else if (day.isShabbat()) {
     if (const std::optional<WeeklyPortion> read = PortionOnShabbat(day.absolute, land)) {
-      ReadShabbat(day, *read, readings);
+      ReadShabbat(day, *read, optional.triennial, readings);
     }
   } else {
     ReadWeekday(day, readings);

@@ -57,10 +57,11 @@ struct DayReadings {
   ShortList<Line, 3> haftarot;
 };
 
-// Readings that are listed only when asked for.
+// What is listed only when asked for.
 struct Optional {
   bool mondayAndThursday = false;
   bool shabbatAfternoon = false;
+  bool triennial = false;  // of the weekly portion a third, instead of all of it
 
   friend bool operator==(const Optional&, const Optional&) = default;
 };

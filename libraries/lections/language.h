@@ -25,7 +25,8 @@ struct Words {
   const char* morning;
   const char* afternoon;
   const char* scroll;
-  const char* walledCities;                       // that keep Purim on 15 Adar
+  const char* walledCities;  // that keep Purim on 15 Adar
+  const char* maftirOfWalledCities;
   std::array<const char*, kCustomCount> customs;  // in the order of Custom
 };
 

@@ -36,7 +36,7 @@ constexpr Language kEnglish = {
      "Shabbat HaGadol", "Pesach", "Shavuot", "Fast of 17 Tammuz", "Shabbat Chazon", "Tisha beAv", "Shabbat Nachamu",
      "Rosh Chodesh", "Machar Chodesh", "Chol haMoed", "Shabbat Chol haMoed", "Shabbat"},
     kPlain.months,
-    {"@, day #", "@ #", "Maftir", "Morning", "Afternoon", "Scroll", "Walled cities",
+    {"@, day #", "@ #", "Maftir", "Morning", "Afternoon", "Scroll", "Walled cities", "Maftir in walled cities",
      {"Ashkenazi", "Sephardi", "Chabad"}},
     kPlain,
 };
@@ -59,7 +59,7 @@ constexpr Language kAshkenaziEnglish = {
      "Rosh Chodesh", "Machar Chodesh", "Chol HaMoed", "Shabbos Chol HaMoed", "Shabbos"},
     {"Adar I", "Nisan", "Iyar", "Sivan", "Tammuz", "Av", "Elul", "Tishrei", "Cheshvan", "Kislev", "Teves", "Shevat",
      "Adar", "Adar II"},
-    {"@, day #", "@ #", "Maftir", "Morning", "Afternoon", "Scroll", "Walled cities",
+    {"@, day #", "@ #", "Maftir", "Morning", "Afternoon", "Scroll", "Walled cities", "Maftir in walled cities",
      {"Ashkenazi", "Sephardi", "Chabad"}},
     {"Yizkor", "New month announced: ",
      {"Adar I", "Nisan", "Iyar", "Sivan", "Tammuz", "Av", "Elul", "Tishrei", "Cheshvan", "Kislev", "Teves", "Shevat",

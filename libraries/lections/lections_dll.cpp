@@ -42,9 +42,9 @@ void LectionsGetReadings(uint32_t day, uint32_t month, uint32_t year, LectionsRe
   if (!readings) return;
   *readings = {};
   const lections::ReadingTexts texts = lections::TextsOn(DateOf(day, month, year), lections::StoredSettings());
-  Copy(texts.torah[0], readings->torah1, sizeof readings->haftarah1);
-  Copy(texts.torah[1], readings->torah2, sizeof readings->haftarah1);
-  Copy(texts.torah[2], readings->torah3, sizeof readings->haftarah1);
+  Copy(texts.torah[0], readings->torah1, sizeof readings->torah1);
+  Copy(texts.torah[1], readings->torah2, sizeof readings->torah2);
+  Copy(texts.torah[2], readings->torah3, sizeof readings->torah3);
   Copy(texts.haftarot[0], readings->haftarah1, sizeof readings->haftarah1);
   Copy(texts.haftarot[1], readings->haftarah2, sizeof readings->haftarah2);
   Copy(texts.haftarot[2], readings->haftarah3, sizeof readings->haftarah3);

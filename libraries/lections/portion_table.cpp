@@ -11,7 +11,7 @@ namespace {
 using enum Haftarot::ChabadAs;
 using namespace calendar;
 
-// In the order of the Torah. Where Ashkenazim and Sephardim differ, the third column says which Chabad follows.
+// In the order of the Torah. Where customs differ, the third column is Chabad's, as the readings on chabad.org give it.
 // clang-format off
 constexpr PortionRow kPortions[kPortionCount] = {
     {"Genesis 1:1-6:8", "Genesis 1:1-13", {"Isaiah 42:5-43:10", "Isaiah 42:5-21", kAsSephardi}},
@@ -20,7 +20,7 @@ constexpr PortionRow kPortions[kPortionCount] = {
     {"Genesis 18:1-22:24", "Genesis 18:1-14", {"II Kings 4:1-37", "II Kings 4:1-23", kAsAshkenazi}},
     {"Genesis 23:1-25:18", "Genesis 23:1-16", "I Kings 1:1-31"},
     {"Genesis 25:19-28:9", "Genesis 25:19-26:5", "Malachi 1:1-2:7"},
-    {"Genesis 28:10-32:3", "Genesis 28:10-22", {"Hosea 12:13-14:10", "Hosea 11:7-12:12", kAsSephardi}},
+    {"Genesis 28:10-32:3", "Genesis 28:10-22", {"Hosea 12:13-14:10", "Hosea 11:7-12:12", "Hosea 11:7-12:14"}},
     {"Genesis 32:4-36:43", "Genesis 32:4-13", "Obadiah 1:1-21"},
     {"Genesis 37:1-40:23", "Genesis 37:1-11", "Amos 2:6-3:8"},
     {"Genesis 41:1-44:17", "Genesis 41:1-14", "I Kings 3:15-4:1"},
@@ -60,7 +60,7 @@ constexpr PortionRow kPortions[kPortionCount] = {
     {"Numbers 22:2-25:9", "Numbers 22:2-12", "Micah 5:6-6:8"},
     {"Numbers 25:10-30:1", "Numbers 25:10-26:4", "I Kings 18:46-19:21"},
     {"Numbers 30:2-32:42", "Numbers 30:2-17", "Jeremiah 1:1-2:3"},
-    {"Numbers 33:1-36:13", "Numbers 33:1-10", {"Jeremiah 2:4-28, 3:4", "Jeremiah 2:4-28, 4:1-2", kAsAshkenazi}},
+    {"Numbers 33:1-36:13", "Numbers 33:1-10", {"Jeremiah 2:4-28, 3:4", "Jeremiah 2:4-28, 4:1-2", kAsSephardi}},
 
     {"Deuteronomy 1:1-3:22", "Deuteronomy 1:1-11", "Isaiah 1:1-27"},
     {"Deuteronomy 3:23-7:11", "Deuteronomy 3:23-4:8", "Isaiah 40:1-26"},
@@ -96,7 +96,7 @@ constexpr int32_t kFourteenthOfElul = kThirtiethOfAv + 14;
 constexpr WeekRow kWeeks[] = {
     {kPinchas, kFirstOfAv + 8 - 20, kFirstOfAv + 8 - 14, "Jeremiah 1:1-2:3"},
     {kMasei, kFirstOfAv, kFirstOfAv,
-     {"Jeremiah 2:4-28, 3:4", "Jeremiah 2:4-28, 4:1-2, Isaiah 66:1, 66:23", kAsAshkenazi}},
+     {"Jeremiah 2:4-28, 3:4", "Jeremiah 2:4-28, 4:1-2, Isaiah 66:1, 66:23", kAsSephardi}},
     {kReeh, kThirtiethOfAv, kThirtiethOfAv,
      {"Isaiah 66:1-24", "Isaiah 54:11-55:5, 66:1, 66:23, I Samuel 20:18, 20:42", kAsAshkenazi}},
     {kKiTeitzei, kFourteenthOfElul, kFourteenthOfElul, {"Isaiah 54:1-55:5", "Isaiah 54:1-10", kAsAshkenazi}},
@@ -105,11 +105,13 @@ constexpr WeekRow kWeeks[] = {
 // On or before 1 Adar, before Purim, the Shabbat before HaChodesh, on or before 1 Nisan, before Pesach; Adar of a leap
 // year is Adar II.
 constexpr SpecialShabbat kSpecialShabbatot[] = {
-    {Occasion::kShabbatShekalim, -35, -29, "Exodus 30:11-16", {"II Kings 12:1-17", "II Kings 11:17-12:17", kAsSephardi}},
-    {Occasion::kShabbatZachor, -23, -17, "Deuteronomy 25:17-19", {"I Samuel 15:2-34", "I Samuel 15:1-34", kAsAshkenazi}},
+    {Occasion::kShabbatShekalim, -35, -29, "Exodus 30:11-16",
+     {"II Kings 12:1-17", "II Kings 11:17-12:17", kAsSephardi}},
+    {Occasion::kShabbatZachor, -23, -17, "Deuteronomy 25:17-19",
+     {"I Samuel 15:2-34", "I Samuel 15:1-34", kAsAshkenazi}},
     {Occasion::kShabbatParah, -13, -7, "Numbers 19:1-22", {"Ezekiel 36:16-38", "Ezekiel 36:16-36", kAsSephardi}},
     {Occasion::kShabbatHaChodesh, -6, 0, "Exodus 12:1-20",
-     {"Ezekiel 45:16-46:18", "Ezekiel 45:18-46:15", "Ezekiel 45:18-46:16"}},
+     {"Ezekiel 45:16-46:18", "Ezekiel 45:18-46:15", kAsSephardi}},
     {Occasion::kShabbatHaGadol, 7, 13, "", "Malachi 3:4-24"},
 };
 

@@ -113,7 +113,7 @@ class DayWriter {
       case Part::kMain: return nameOfMain;
       case Part::kRoshChodesh: return language_.occasions[static_cast<size_t>(Occasion::kRoshChodesh)];
       case Part::kMaftir: return words.maftir;
-      case Part::kMaftirOfWalledCities: return std::string(words.maftir) + ", " + words.walledCities;
+      case Part::kMaftirOfWalledCities: return words.maftirOfWalledCities;
       case Part::kWalledCities: return words.walledCities;
       case Part::kAfternoon:
         return line.portion ? std::string(words.afternoon) + ", " + PortionName(*line.portion) : words.afternoon;

@@ -36,6 +36,7 @@ constexpr Switch kSwitchKeys[] = {
     {"NewMonth", [](Settings& settings) -> bool& { return settings.newMonth; }},
     {"MondayThursday", [](Settings& settings) -> bool& { return settings.optional.mondayAndThursday; }},
     {"ShabbatAfternoon", [](Settings& settings) -> bool& { return settings.optional.shabbatAfternoon; }},
+    {"Triennial", [](Settings& settings) -> bool& { return settings.optional.triennial; }},
 };
 
 template <typename T, size_t kCount>

@@ -2,7 +2,9 @@
 
 #include <windows.h>
 
+#include <chrono>
 #include <mutex>
+#include <optional>
 
 #include "companion/profile.h"
 #include "libraries/settings_folder/settings_folder_win.h"
@@ -10,14 +12,15 @@
 namespace lections {
 namespace {
 
-constexpr ULONGLONG kTrustedMs = 50;
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kTrusted{50};
 constexpr GEOID kIsrael = 117;  // of the table of geographical locations
 
 struct Kept {
   std::mutex mutex;
   Settings settings;
-  ULONGLONG readAtMs = 0;
-  bool isRead = false;
+  std::optional<Clock::time_point> readAt;
 };
 
 Kept kept;
@@ -34,15 +37,14 @@ std::string ValueInFile(const char* key) {
 
 void Read() {
   kept.settings = SettingsFrom(ValueInFile, LandOfRegion());
-  kept.readAtMs = GetTickCount64();
-  kept.isRead = true;
+  kept.readAt = Clock::now();
 }
 
 }  // namespace
 
 Settings StoredSettings() {
   const std::lock_guard lock(kept.mutex);
-  if (!kept.isRead || GetTickCount64() - kept.readAtMs >= kTrustedMs) Read();
+  if (!kept.readAt || Clock::now() - *kept.readAt >= kTrusted) Read();
   return kept.settings;
 }
 

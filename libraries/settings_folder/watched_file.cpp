@@ -39,6 +39,10 @@ ReadResult WatchedFile::ReadNow(const std::wstring& path, Patience patience, Fil
 }
 
 bool WatchedFile::Refresh(std::string* text) {
+  // Settings are read by the million, and to ask for an environment variable takes a microsecond or more.
+  const uint32_t tick = GetTickCount();
+  if (isBare_ && !distrusted_ && tick == tick_) return false;
+  tick_ = tick;
   const auto now = std::chrono::steady_clock::now();
   std::wstring place = Place();
   if (!distrusted_ && place == place_ && now - asked_ < kAskInterval) return false;

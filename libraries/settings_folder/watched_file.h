@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -17,7 +18,8 @@ class WatchedFile {
   explicit WatchedFile(const char* name);
 
   // Whether the owner must take up the file anew; text then holds its bytes (none when there is no file). The file
-  // itself is asked at most every 50 ms, unless TIMES_READINGS_HOME or the current folder makes the name another file.
+  // itself is asked at most every 50 ms, unless TIMES_READINGS_HOME or the current folder makes the name another file;
+  // TIMES_READINGS_HOME counts as it stood at the last tick of the system's clock, 10 to 16 ms ago at most.
   // A file that cannot be read, because another process holds it, counts as unchanged; seen for the first time, as
   // empty.
   bool Refresh(std::string* text);
@@ -44,6 +46,7 @@ class WatchedFile {
   std::wstring place_;  // what decided the path when it was last made: TIMES_READINGS_HOME, or the full path itself
   std::wstring path_;
   FileStamp seen_;
+  uint32_t tick_ = 0;  // when it was last looked at
   bool distrusted_ = true;
   bool unreadable_ = false;
   std::chrono::steady_clock::time_point asked_;

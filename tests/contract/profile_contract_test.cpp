@@ -92,7 +92,7 @@ TEST_F(ProfileContract, WriteKeepsWhatAnotherProgramWroteJustBefore) {
   EXPECT_EQ(home_.Bytes("a.ini"), "[A]\r\nx=3\r\ny=2\r\n");
 }
 
-TEST_F(ProfileContract, HomeIsAskedAtEveryCall) {
+TEST_F(ProfileContract, AChangedHomeIsSeen) {
   home_.Put("a.ini", "[A]\r\nx=1\r\n");
   EXPECT_EQ(ProfileGetInt("A", "x", 0, "a.ini"), 1);
   {
@@ -100,7 +100,7 @@ TEST_F(ProfileContract, HomeIsAskedAtEveryCall) {
     other.Put("a.ini", "[A]\r\nx=2\r\n");
     EXPECT_EQ(ProfileGetInt("A", "x", 0, "a.ini"), 2);
   }
-  SetEnvironmentVariableW(L"TIMES_READINGS_HOME", home_.Folder().c_str());
+  SetHome(home_.Folder().c_str());
   EXPECT_EQ(ProfileGetInt("A", "x", 0, "a.ini"), 1);
 }
 
@@ -110,7 +110,7 @@ TEST_F(ProfileContract, WithoutAHomeFilesLiveInTheApplicationData) {
   wchar_t before[MAX_PATH] = L"";
   GetEnvironmentVariableW(L"APPDATA", before, MAX_PATH);
   SetEnvironmentVariableW(L"APPDATA", appData.c_str());
-  SetEnvironmentVariableW(L"TIMES_READINGS_HOME", nullptr);
+  SetHome(nullptr);
   EXPECT_NE(ProfileWriteString("A", "x", "1", "contract-test.ini"), 0);
   EXPECT_EQ(ProfileGetInt("A", "x", 0, "contract-test.ini"), 1);
   SetEnvironmentVariableW(L"APPDATA", before);
@@ -124,7 +124,7 @@ TEST_F(ProfileContract, WithoutAHomeAndApplicationDataFilesLiveBesideTheExe) {
   wchar_t before[MAX_PATH] = L"";
   GetEnvironmentVariableW(L"APPDATA", before, MAX_PATH);
   SetEnvironmentVariableW(L"APPDATA", nullptr);
-  SetEnvironmentVariableW(L"TIMES_READINGS_HOME", L" \"\" ");
+  SetHome(L" \"\" ");
   EXPECT_EQ(ProfileGetInt("A", "x", 7, "nowhere-else.ini"), 7);
   EXPECT_NE(ProfileWriteString("A", "x", "1", "nowhere-else.ini"), 0);
   EXPECT_EQ(ProfileGetInt("A", "x", 0, "nowhere-else.ini"), 1);
@@ -140,7 +140,7 @@ TEST_F(ProfileContract, HomeMayBeWrittenInManyWays) {
   int value = 0;
   for (const std::wstring& home : {folder, folder + L"\\", folder + L"/", slashes, L"\"" + folder + L"\"",
                                    L"\"" + folder + L"\\\" ", folder + L"\\x\\.."}) {
-    SetEnvironmentVariableW(L"TIMES_READINGS_HOME", home.c_str());
+    SetHome(home.c_str());
     EXPECT_EQ(ProfileGetInt("A", "x", 0, "a.ini"), value);
     EXPECT_NE(ProfileWriteString("A", "x", std::to_string(++value).c_str(), "a.ini"), 0) << value;
     EXPECT_EQ(ProfileGetInt("A", "x", 0, "a.ini"), value);
@@ -152,7 +152,7 @@ TEST_F(ProfileContract, HomeMayBeWrittenInManyWays) {
 TEST_F(ProfileContract, PathsMayBeLongerThanTheSystemsUsualLimit) {
   std::filesystem::path folder = home_.Folder();
   for (int depth = 0; depth < 4; ++depth) folder /= std::wstring(100, L'f');
-  SetEnvironmentVariableW(L"TIMES_READINGS_HOME", folder.c_str());
+  SetHome(folder.c_str());
   EXPECT_NE(ProfileWriteString("A", "x", "1", "a.ini"), 0);
   EXPECT_NE(ProfileWriteString("A", "x", "2", "a.ini"), 0);
   EXPECT_EQ(ProfileGetInt("A", "x", 0, "a.ini"), 2);
@@ -161,7 +161,7 @@ TEST_F(ProfileContract, PathsMayBeLongerThanTheSystemsUsualLimit) {
 
 TEST_F(ProfileContract, HomeThatCannotBeMadeTakesNoWrite) {
   home_.Put("file", "not a folder");
-  SetEnvironmentVariableW(L"TIMES_READINGS_HOME", (home_.Path("file") / "sub").c_str());
+  SetHome((home_.Path("file") / "sub").c_str());
   EXPECT_EQ(ProfileGetInt("A", "x", 7, "a.ini"), 7);
   EXPECT_EQ(ProfileWriteString("A", "x", "1", "a.ini"), 0);
   EXPECT_EQ(home_.Bytes("file"), "not a folder");
@@ -172,7 +172,7 @@ TEST_F(ProfileContract, SettingsBesideTheExeTakeTheApplicationDatasPlace) {
   GetModuleFileNameW(nullptr, exe, MAX_PATH);
   const std::filesystem::path settings = std::filesystem::path(exe).parent_path() / "settings";
   std::filesystem::create_directories(settings);
-  SetEnvironmentVariableW(L"TIMES_READINGS_HOME", nullptr);
+  SetHome(nullptr);
   EXPECT_NE(ProfileWriteString("A", "x", "1", "beside.ini"), 0);
   EXPECT_EQ(ProfileGetInt("A", "x", 0, "beside.ini"), 1);
   EXPECT_TRUE(std::filesystem::exists(settings / "beside.ini"));

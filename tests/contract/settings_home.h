@@ -9,12 +9,20 @@
 #include <iterator>
 #include <string>
 
+// Sets TIMES_READINGS_HOME, or removes it (null), and waits until the libraries see it: they look at it once in a tick
+// of the system's clock.
+inline void SetHome(const wchar_t* folder) {
+  SetEnvironmentVariableW(L"TIMES_READINGS_HOME", folder);
+  const DWORD tick = GetTickCount();
+  while (GetTickCount() == tick) Sleep(1);
+}
+
 // While it lives, TIMES_READINGS_HOME names a folder that nobody has used before and that does not exist yet.
 class SettingsHome {
  public:
-  SettingsHome() : folder_(NewFolder()) { SetEnvironmentVariableW(L"TIMES_READINGS_HOME", folder_.c_str()); }
+  SettingsHome() : folder_(NewFolder()) { SetHome(folder_.c_str()); }
   ~SettingsHome() {
-    SetEnvironmentVariableW(L"TIMES_READINGS_HOME", nullptr);
+    SetHome(nullptr);
     std::error_code ignored;
     std::filesystem::remove_all(folder_, ignored);
   }

@@ -45,6 +45,7 @@ std::vector<std::string> Values(const std::string& text, const std::string& attr
 TEST(HelpTopics, AreFoundWhateverTheirCase) {
   EXPECT_EQ(guide::TopicNamed("Shabbat times").page, "shabbat_times.html");
   EXPECT_EQ(guide::TopicNamed("ZMANIM").page, "zmanim.html");
+  EXPECT_EQ(guide::TopicNamed("readings").page, "readings.html");
   EXPECT_EQ(guide::TopicNamed("accuracy").page, "accuracy.html");
   EXPECT_EQ(guide::TopicNamed("Places").page, "places.html");
   EXPECT_EQ(guide::TopicNamed("start").page, "index.html");

@@ -6,7 +6,9 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "app/bound_entries.h"
 #include "companion/candles.h"
+#include "companion/datecore.h"
 #include "companion/glyphs.h"
 #include "companion/guide.h"
 #include "companion/hours.h"
@@ -298,6 +300,21 @@ void OwnHoursDone(OwnHoursHandle* handle) {
   handle->store = nullptr;
 }
 
+// The dates are those of the doubled calendars.
+int32_t CivilAbsoluteFromDate(const CalendarDate* date) {
+  return AbsoluteFromDate(*date);
+}
+
+void LunarDateFromAbsolute(int32_t absoluteDay, CalendarDate* date) {
+  *date = JewishFromAbsolute(absoluteDay);
+}
+
+void LunarGetMonthNameEx(uint32_t month, uint32_t reserved, char* name, uint32_t size, uint32_t year,
+                         uint32_t language) {
+  EXPECT_EQ(reserved, 0u);
+  std::snprintf(name, size, "Month %u of %u in %u", month, year, language);
+}
+
 int32_t PlacePickSelectLocation(HWND owner, char* name) {
   LogCall("pick a place, current '%s', owner %s", name, owner ? "yes" : "none");
   if (Libraries().pickedLocation.empty()) return 0;
@@ -325,6 +342,7 @@ BOOL GlyphsExtTextOut(HDC dc, int x, int y, UINT options, const RECT* rectangle,
                       const INT*) {
   EXPECT_EQ(options, UINT{ETO_CLIPPED});
   Libraries().lastClip = *rectangle;
+  GetClipBox(dc, &Libraries().lastPaintedArea);
   return GlyphsTextOut(dc, x, y, text, static_cast<int>(count));
 }
 

@@ -101,7 +101,8 @@ struct LibraryScript {
   // glyphs
   std::vector<Draw> draws;
   std::vector<BrokenText> brokenTexts;
-  RECT lastClip{};  // of the last clipped draw
+  RECT lastClip{};         // of the last clipped draw
+  RECT lastPaintedArea{};  // what could be painted at it
 };
 
 LibraryScript& Libraries();

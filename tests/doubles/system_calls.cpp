@@ -32,6 +32,7 @@ BOOL WINAPI FakeGetSaveFileNameA(LPOPENFILENAMEA dialog) {
   const char* pattern = dialog->lpstrFilter + std::strlen(dialog->lpstrFilter) + 1;
   LogCall("save dialog '%s' '%s' extension %s size %lu", dialog->lpstrFilter, pattern, dialog->lpstrDefExt,
           dialog->nMaxFile);
+  System().offeredFile = dialog->lpstrFile;
   if (System().savedFile.empty()) return FALSE;
   std::strcpy(dialog->lpstrFile, System().savedFile.c_str());
   return TRUE;
@@ -222,6 +223,7 @@ void ResetSystem() {
               .beeps = 0,
               .answer = IDYES,
               .savedFile = {},
+              .offeredFile = {},
               .missingLibrary = {},
               .missingLibraryHandle = 0,
               .blocks = {},

@@ -15,6 +15,7 @@ struct SystemScript {
   int beeps;
   int answer;                     // of message boxes with a question
   std::string savedFile;          // chosen in a save dialog; empty: cancelled
+  std::string offeredFile;        // by the last save dialog
   std::string missingLibrary;     // what LoadLibrary does not find ...
   UINT_PTR missingLibraryHandle;  // ... and answers for it
 

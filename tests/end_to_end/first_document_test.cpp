@@ -5,10 +5,10 @@
 #include <chrono>
 #include <cstdio>
 #include <optional>
-#include <sstream>
 
 #include "companion/solar.h"
 #include "tests/end_to_end/program_driver.h"
+#include "tests/end_to_end/recorded_drawing.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -38,20 +38,10 @@ Title ReadTitle(const std::string& text) {
           sys_days(year(endYear) / endMonth / endDay)};
 }
 
-// A line of what the program drew: "x y text".
 std::vector<std::string> DrawnTexts(const fs::path& settings) {
   std::vector<std::string> texts;
-  std::istringstream lines(ReadFileText(settings / "drawn.txt"));
-  for (std::string line; std::getline(lines, line);)
-    texts.push_back(line.substr(line.find(' ', line.find(' ') + 1) + 1));
+  for (const RecordedDraw& draw : ReadDraws(settings)) texts.push_back(draw.text);
   return texts;
-}
-
-// A copy of the program folder whose text library writes down what it draws.
-void MakeRecordingProgram(const fs::path& folder) {
-  fs::copy(ProgramFolder(), folder, fs::copy_options::recursive);
-  fs::copy_file(FakeLibrariesFolder() / "recording_glyphs" / "glyphs.dll", folder / "glyphs.dll",
-                fs::copy_options::overwrite_existing);
 }
 
 class FirstDocumentTest : public testing::Test {

@@ -1,5 +1,5 @@
-// The text library as the program sees it, writing down every text it draws: a line "x y text" in drawn.txt of the
-// program's settings folder. Tests from outside the process read there what the program shows.
+// The text library as the program sees it, writing down every text it draws: a line "window-class x y text" in
+// drawn.txt of the program's settings folder. Tests from outside the process read there what the program shows.
 #include <windows.h>
 
 #include <cstring>
@@ -10,23 +10,25 @@
 
 namespace {
 
-void WriteDown(int x, int y, const char* text, int count) {
+void Record(HDC dc, int x, int y, const std::string& text) {
   char folder[MAX_PATH] = "";
   GetEnvironmentVariableA("TIMES_READINGS_HOME", folder, sizeof folder);
+  char className[64] = "-";
+  GetClassNameA(WindowFromDC(dc), className, sizeof className);
   std::ofstream drawn(std::string(folder) + "\\drawn.txt", std::ios::app | std::ios::binary);
-  drawn << x << ' ' << y << ' ' << std::string(text, static_cast<std::size_t>(count)) << '\n';
+  drawn << className << ' ' << x << ' ' << y << ' ' << text << '\n';
 }
 
 }  // namespace
 
 BOOL GlyphsTextOut(HDC dc, int x, int y, const char* text, int count) {
-  WriteDown(x, y, text, count);
+  Record(dc, x, y, std::string(text, static_cast<std::size_t>(count)));
   return TextOutA(dc, x, y, text, count);
 }
 
 BOOL GlyphsExtTextOut(HDC dc, int x, int y, UINT options, const RECT* rectangle, const char* text, UINT count,
                       const INT* spacing) {
-  WriteDown(x, y, text, static_cast<int>(count));
+  Record(dc, x, y, std::string(text, count));
   return ExtTextOutA(dc, x, y, options, rectangle, text, count, spacing);
 }
 
@@ -35,7 +37,8 @@ BOOL GlyphsGetTextExtentPoint(HDC dc, const char* text, int count, SIZE* size) {
 }
 
 int GlyphsDrawText(HDC dc, const char* text, int count, RECT* rectangle, UINT format) {
-  WriteDown(rectangle->left, rectangle->top, text, count == -1 ? static_cast<int>(std::strlen(text)) : count);
+  const std::string whole = count == -1 ? text : std::string(text, static_cast<std::size_t>(count));
+  Record(dc, rectangle->left, rectangle->top, whole);
   return DrawTextA(dc, text, count, rectangle, format);
 }
 

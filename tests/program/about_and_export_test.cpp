@@ -173,12 +173,6 @@ TEST_F(AboutAndExportTest, WithoutADocumentExportsDoNothing) {
   EXPECT_THAT(CallLog(), IsEmpty());
 }
 
-TEST_F(AboutAndExportTest, OtherViewsHaveNoShabbatTimesToExport) {
-  Command(IDM_VIEW_ZMANIM);
-  for (const unsigned id : {1005u, 1007u, 1022u, 1023u}) Command(id);
-  EXPECT_THAT(CallsWith("save"), IsEmpty());
-}
-
 TEST_F(AboutAndExportTest, AnEmptyListIsExportedWithItsHead) {
   CurrentRange = {{6, 1, 2007}, {7, 1, 2007}};
   CalculateShabbatTimes(ActiveDocument(), 6, 1, 2007, 7, 1, 2007);

@@ -36,4 +36,4 @@ TEST_P(DialogLeakTest, OpenedAndClosedTwoHundredTimes) {
 
 INSTANTIATE_TEST_SUITE_P(Commands, DialogLeakTest,
                          testing::Values(IDM_SELECT_RANGE, IDM_PREFERENCES, IDM_SUNSET_OF_A_DAY, IDM_ABOUT,
-                                         IDM_EXPORT_RTF, IDM_LOCATION_MANAGER));
+                                         IDM_EXPORT_RTF, IDM_EXPORT_ZMANIM, IDM_EXPORT_DATES, IDM_LOCATION_MANAGER));

@@ -1,0 +1,174 @@
+#include "companion/lections.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+#include "companion/profile.h"
+#include "tests/contract/dialog_driver.h"
+#include "tests/contract/region.h"
+#include "tests/contract/settings_home.h"
+
+namespace {
+
+constexpr uint32_t kTishri = 7;
+constexpr uint32_t kCheshvan = 8;
+constexpr uint32_t kNisan = 1;
+
+LectionsReadings Read(uint32_t day, uint32_t month, uint32_t year) {
+  LectionsReadings readings;
+  std::memset(&readings, 'x', sizeof readings);
+  LectionsGetReadings(day, month, year, &readings);
+  return readings;
+}
+
+void Write(const char* key, const char* value) {
+  ProfileWriteString("Readings", key, value, "lections.ini");
+}
+
+bool IsEmpty(const LectionsReadings& readings) {
+  const auto* bytes = reinterpret_cast<const char*>(&readings);
+  return std::all_of(bytes, bytes + sizeof readings, [](char c) { return c == '\0'; });
+}
+
+// What the last test left is forgotten after 50 ms.
+class LectionsContract : public testing::Test {
+ protected:
+  void SetUp() override {
+    home_.Put("lections.ini", "[Readings]\r\nLanguage=4\r\n");
+    ASSERT_TRUE(Eventually([] { return LectionsGetLanguage() == 4; }));
+    home_.Put("lections.ini", "");
+    ASSERT_TRUE(Eventually([] { return LectionsGetLanguage() == 1; }));
+  }
+
+  const Region region_{Region::kGermany};
+  SettingsHome home_;
+};
+
+TEST_F(LectionsContract, RecordHasItsFieldsWhereTheProgramLooks) {
+  EXPECT_EQ(sizeof(LectionsReadings), 1804u);
+  EXPECT_EQ(offsetof(LectionsReadings, torah2), 260u);
+  EXPECT_EQ(offsetof(LectionsReadings, torah3), 520u);
+  EXPECT_EQ(offsetof(LectionsReadings, haftarah1), 780u);
+  EXPECT_EQ(offsetof(LectionsReadings, haftarah2), 1036u);
+  EXPECT_EQ(offsetof(LectionsReadings, haftarah3), 1292u);
+  EXPECT_EQ(offsetof(LectionsReadings, extraText), 1548u);
+  EXPECT_EQ(sizeof(LectionsFont), 268u);
+}
+
+TEST_F(LectionsContract, FillsEverySlotOfAShabbat) {
+  const LectionsReadings readings = Read(1, 12, 5785);  // 1 March 2025
+  EXPECT_STREQ(readings.torah1, "Terumah (Shabbat Shekalim, Rosh Chodesh Adar): Exodus 25:1-27:19");
+  EXPECT_STREQ(readings.torah2, "Rosh Chodesh: Numbers 28:9-15");
+  EXPECT_STREQ(readings.torah3, "Maftir: Exodus 30:11-16");
+  EXPECT_STREQ(readings.haftarah1, "Ashkenazi: II Kings 12:1-17");
+  EXPECT_STREQ(readings.haftarah2, "Sephardi: II Kings 11:17-12:17");
+  EXPECT_STREQ(readings.haftarah3, "");
+  EXPECT_STREQ(readings.extraText, "");
+  EXPECT_STREQ(Read(24, kTishri, 5785).extraText, "New month announced: Cheshvan");
+}
+
+TEST_F(LectionsContract, DayWithoutReadingsIsEmptyThroughout) {
+  EXPECT_TRUE(IsEmpty(Read(2, kCheshvan, 5785)));  // a Sunday
+}
+
+TEST_F(LectionsContract, DateThatDoesNotExistHasNoReadings) {
+  for (const uint32_t number : {0u, 31u, 0x80000000u, 0xFFFFFFFFu}) {
+    EXPECT_TRUE(IsEmpty(Read(number, kTishri, 5785))) << number;
+    EXPECT_TRUE(IsEmpty(Read(1, number, 5785))) << number;
+    EXPECT_EQ(LectionsIsYizkor(number, kTishri, 5785), 0) << number;
+  }
+  for (const uint32_t year : {0u, 10000u, 0xFFFFFFFFu}) {
+    EXPECT_TRUE(IsEmpty(Read(1, kTishri, year))) << year;
+    EXPECT_EQ(LectionsIsYizkor(10, kTishri, year), 0) << year;
+  }
+  EXPECT_TRUE(IsEmpty(Read(14, 13, 5785)));  // no leap year
+}
+
+TEST_F(LectionsContract, NullPointersAreIgnored) {
+  LectionsGetReadings(1, kTishri, 5785, nullptr);
+  LectionsGetYizkor(nullptr);
+  LectionsGetFont2(nullptr);
+}
+
+TEST_F(LectionsContract, LandIsFirstThatOfTheRegion) {
+  EXPECT_STREQ(Read(25, kTishri, 5785).torah1, "");  // 27 October 2024
+  EXPECT_STRNE(Read(23, kTishri, 5785).torah1, "");
+  EXPECT_NE(LectionsIsYizkor(22, kNisan, 5785), 0);
+  {
+    const Region israel(Region::kIsrael);
+    EXPECT_TRUE(Eventually([] { return LectionsIsYizkor(22, kNisan, 5785) == 0; }));
+    EXPECT_NE(LectionsIsYizkor(21, kNisan, 5785), 0);
+    EXPECT_STREQ(Read(23, kTishri, 5785).torah1, "");
+    Write("Land", "Diaspora");
+    EXPECT_TRUE(Eventually([] { return LectionsIsYizkor(22, kNisan, 5785) != 0; }));
+  }
+  Write("Land", "Israel");
+  EXPECT_TRUE(Eventually([] { return LectionsIsYizkor(22, kNisan, 5785) == 0; }));
+}
+
+TEST_F(LectionsContract, YizkorIsSaidOnFourDays) {
+  EXPECT_NE(LectionsIsYizkor(10, kTishri, 5785), 0);
+  EXPECT_NE(LectionsIsYizkor(22, kTishri, 5785), 0);
+  EXPECT_NE(LectionsIsYizkor(7, 3, 5785), 0);
+  EXPECT_EQ(LectionsIsYizkor(6, 3, 5785), 0);
+  EXPECT_EQ(LectionsIsYizkor(23, kTishri, 5785), 0);
+}
+
+TEST_F(LectionsContract, WordForYizkorIsShort) {
+  for (const char* language : {"1", "2", "4"}) {
+    Write("Language", language);
+    const uint32_t code = static_cast<uint32_t>(language[0] - '0');
+    ASSERT_TRUE(Eventually([code] { return LectionsGetLanguage() == code; }));
+    char text[256];
+    LectionsGetYizkor(text);
+    EXPECT_STREQ(text, "Yizkor");
+  }
+}
+
+TEST_F(LectionsContract, EnglishIsInTheProgramsOwnFont) {
+  LectionsFont font;
+  LectionsGetFont2(&font);
+  EXPECT_NE(font.UseDefaultFont, 0u);
+}
+
+TEST_F(LectionsContract, HebrewIsInAFontWithHebrewLetters) {
+  Write("Language", "4");
+  ASSERT_TRUE(Eventually([] { return LectionsGetLanguage() == 4; }));
+  LectionsFont font;
+  LectionsGetFont2(&font);
+  EXPECT_EQ(font.UseDefaultFont, 0u);
+  EXPECT_STREQ(font.FaceName, "Times New Roman");
+  EXPECT_EQ(font.PointSize, 12u);
+  EXPECT_EQ(font.CharSet, static_cast<uint32_t>(HEBREW_CHARSET));
+  // Noach, in windows-1255.
+  EXPECT_EQ(std::string(Read(1, kCheshvan, 5785).torah1).substr(0, 3), "\xF0\xE7 ");
+}
+
+TEST_F(LectionsContract, UnknownLanguageIsEnglish) {
+  Write("Custom", "Ashkenazi");
+  Write("Language", "99");
+  EXPECT_TRUE(Eventually([] { return std::strcmp(Read(15, kCheshvan, 5785).haftarah1, "II Kings 4:1-37") == 0; }));
+  EXPECT_EQ(LectionsGetLanguage(), 1u);
+}
+
+TEST_F(LectionsContract, ChangedSettingsCountSoon) {
+  EXPECT_STREQ(Read(15, kCheshvan, 5785).haftarah1, "Ashkenazi: II Kings 4:1-37");
+  EXPECT_STREQ(Read(15, kCheshvan, 5785).haftarah2, "Sephardi: II Kings 4:1-23");
+  Write("Custom", "Sephardi");
+  EXPECT_TRUE(Eventually([] { return std::strcmp(Read(15, kCheshvan, 5785).haftarah1, "II Kings 4:1-23") == 0; }));
+  Write("Verses", "0");
+  EXPECT_TRUE(Eventually([] { return std::strcmp(Read(15, kCheshvan, 5785).haftarah1, "II Kings") == 0; }));
+  EXPECT_STREQ(Read(15, kCheshvan, 5785).torah1, "Vayera");
+}
+
+TEST_F(LectionsContract, ReadingWritesNothing) {
+  std::filesystem::remove_all(home_.Folder());
+  Read(1, kTishri, 5785);
+  LectionsGetLanguage();
+  EXPECT_FALSE(std::filesystem::exists(home_.Folder()));
+}
+
+}  // namespace

@@ -1,0 +1,80 @@
+#include "zmanim/export_zmanim.h"
+
+#include "app/string_table.h"
+#include "companion/glyphs.h"
+#include "companion/stamp.h"
+#include "document/properties.h"
+#include "resources/ids.h"
+#include "win/file_sink.h"
+#include "win/scoped.h"
+#include "zmanim/core/zmanim_export.h"
+#include "zmanim/zmanim_names.h"
+
+namespace {
+
+constexpr std::size_t kTextWidth = 70;
+
+// Offered again in the next export of the same format, until the program ends.
+std::string lastTextFile;
+std::string lastRtfFile;
+
+std::string HebrewFontName() {
+  char name[LF_FACESIZE] = "";
+  GlyphsGetHebrewFontName(name);
+  return name;
+}
+
+// Has a file written from the document's block, which nothing replaces meanwhile. write is called with a sink and the
+// data.
+template <typename Writer>
+void WriteFile(HWND document, const std::string& file, Writer write) {
+  const ScopedWaitCursor wait;
+  const ZmanimInUse inUse = GetZmanimInUse();
+  const ScopedGlobalLock<const ZmanimBlock> block(GetBlockProperty(document, property::kZmanimTimes));
+  const ScopedGlobalLock<const char> city(GetBlockProperty(document, property::kCity));
+  const ZmanimExport data{.location = city ? city.get() : "",
+                          .dateTitle = TableString(IDS_DATE),
+                          .names = ZmanNames(inUse),
+                          .hebrew = LegendIsHebrew(inUse),
+                          .hebrewNames = HebrewZmanNames(inUse.count),
+                          .hebrewFont = HebrewFontName(),
+                          .vilnaGaon = TableString(IDS_VILNA_GAON),
+                          .magenAvraham = TableString(IDS_MAGEN_AVRAHAM),
+                          .days = block ? std::span(block->days, block->count) : std::span<const ZmanimDay>(),
+                          .formatTime = StampConvert,
+                          .amPm = StampIsAmPm() != 0};
+  FileSink sink(file.c_str());
+  write(sink, data);
+}
+
+void ExportRtf(HWND frame, HWND document, ZmanimRtfLayout layout) {
+  const auto file = AskForExportFile(frame, ExportFormat::kRtf, &lastRtfFile);
+  if (!file) return;
+  WriteFile(document, *file,
+            [layout](TextSink& sink, const ZmanimExport& data) { WriteZmanimRtf(sink, data, layout); });
+}
+
+void ExportText(HWND frame, HWND document) {
+  const auto file = AskForExportFile(frame, ExportFormat::kText, &lastTextFile);
+  if (!file) return;
+  WriteFile(document, *file, [](TextSink& sink, const ZmanimExport& data) { WriteZmanimText(sink, data, kTextWidth); });
+}
+
+}  // namespace
+
+void ExportZmanim(HWND frame, HWND document, ExportFormat format) {
+  if (format == ExportFormat::kText) {
+    ExportText(frame, document);
+  } else {
+    ExportRtf(frame, document, ZmanimRtfLayout::kRowPerColumn);
+  }
+}
+
+void ExportZmanimByDay(HWND frame, HWND document) {
+  ExportRtf(frame, document, ZmanimRtfLayout::kRowPerDay);
+}
+
+void WriteZmanimExport(HWND document, const std::string& file, const std::string& separator, bool header) {
+  WriteFile(document, file,
+            [&](TextSink& sink, const ZmanimExport& data) { WriteZmanimDelimited(sink, data, separator, header); });
+}
