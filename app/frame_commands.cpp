@@ -9,6 +9,7 @@
 #include "app/program.h"
 #include "companion/candles.h"
 #include "companion/guide.h"
+#include "companion/hours.h"
 #include "companion/lections.h"
 #include "companion/placepick.h"
 #include "companion/stamp.h"
@@ -90,6 +91,13 @@ void RenewZmanim(HWND frame) {
   OpenAndCompute(frame);
 }
 
+// Deliberate: a document is opened whatever the dialog's outcome.
+void SelectZmanim(HWND frame) {
+  HoursDoDialogInitLoc(frame, CurrentLocation.latitude, CurrentLocation.longitude, CurrentLocation.zoneHours,
+                       CurrentLocation.zoneMinutes);
+  RenewZmanim(frame);
+}
+
 void ToggleBuiltInZmanim(HWND frame) {
   if (SetZmanimEnabled(!ZmanimEnabled())) {
     RenewZmanim(frame);
@@ -155,6 +163,7 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_EXPORT_TEXT, ExportText},
     {IDM_EXPORT_RTF, ExportRtf},
     {IDM_EXIT, Exit},
+    {IDM_ZMANIM_SELECTION, SelectZmanim},
     {IDM_READINGS_CONFIGURE, ChangeReadings<LectionsDoConfigureDialog>},
     {IDM_READINGS_LANGUAGE, ChangeReadings<LectionsDoLanguageDialog>},
     {IDM_CUSTOM_CANDLES, ChangeCustomTimes},

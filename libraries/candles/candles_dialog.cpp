@@ -9,13 +9,19 @@
 
 #include "libraries/candles/candles_file.h"
 #include "libraries/candles/candles_ids.h"
-#include "libraries/candles/dialog_parts.h"
+#include "libraries/dialogs/dialog_parts.h"
 #include "libraries/candles/entry_dialog.h"
 #include "libraries/candles/field_texts.h"
-#include "libraries/candles/windows_1252.h"
+#include "libraries/dialogs/windows_1252.h"
 
 namespace candles {
 namespace {
+
+using dialogs::IsConfirmed;
+using dialogs::OnException;
+using dialogs::RunDialog;
+using dialogs::ShowError;
+using dialogs::Wide;
 
 struct ListState {
   Entries stored;  // as they were when the dialog opened

@@ -4,13 +4,22 @@
 #include <vector>
 
 #include "libraries/candles/candles_ids.h"
-#include "libraries/candles/dialog_parts.h"
+#include "libraries/dialogs/dialog_parts.h"
 #include "libraries/candles/field_texts.h"
 #include "libraries/candles/offered_places.h"
-#include "libraries/candles/windows_1252.h"
+#include "libraries/dialogs/windows_1252.h"
 
 namespace candles {
 namespace {
+
+using dialogs::FocusField;
+using dialogs::IsConfirmed;
+using dialogs::Narrow;
+using dialogs::OnException;
+using dialogs::RunDialog;
+using dialogs::ShowFieldError;
+using dialogs::TextOf;
+using dialogs::Wide;
 
 constexpr WPARAM kMostPlaceLetters = 255;  // the program's places are shorter than 256 bytes
 constexpr WPARAM kMostFieldLetters = 40;

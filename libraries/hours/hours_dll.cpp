@@ -4,6 +4,7 @@
 #include "companion/hours.h"
 #include "companion/profile.h"
 #include "libraries/hours/description_text.h"
+#include "libraries/hours/hours_dialog.h"
 #include "libraries/hours/hours_file.h"
 #include "libraries/hours/zman_day.h"
 #include "libraries/sun/place_settings.h"
@@ -17,31 +18,52 @@ struct DayQuestion {
   hours::ShownSun shown;
 };
 
+bool AreEqual(const sun::PackedPlace& left, const sun::PackedPlace& right) {
+  return left.latitude == right.latitude && left.longitude == right.longitude && left.zoneHours == right.zoneHours &&
+         left.zoneMinutes == right.zoneMinutes;
+}
+
 bool AreEqual(const DayQuestion& left, const DayQuestion& right) {
-  return left.place.latitude == right.place.latitude && left.place.longitude == right.place.longitude &&
-         left.place.zoneHours == right.place.zoneHours && left.place.zoneMinutes == right.place.zoneMinutes &&
-         left.day == right.day && left.month == right.month && left.year == right.year &&
-         left.shown.sunriseMinutes == right.shown.sunriseMinutes &&
+  return AreEqual(left.place, right.place) && left.day == right.day && left.month == right.month &&
+         left.year == right.year && left.shown.sunriseMinutes == right.shown.sunriseMinutes &&
          left.shown.sunsetMinutes == right.shown.sunsetMinutes;
 }
 
-// The last day that was asked for: programs ask for all its zmanim before they go on to the next. Guarded by the
-// selection's lock.
+// The settings of the last place and the last day that were asked for: programs ask for all zmanim of a day before they
+// go on to the next. Both are old when the tick has advanced. Guarded by the selection's lock.
+struct KnownPlace {
+  sun::PackedPlace place;
+  DWORD tick;
+  sun::PlaceSettings settings;
+};
 struct KnownDay {
   DayQuestion question;
-  DWORD tick;  // when the settings were read
+  DWORD tick;
   hours::ZmanDay zmanim;
 };
 
+std::optional<KnownPlace> knownPlace;
 std::optional<KnownDay> knownDay;
+
+hours::ZmanDay ComputeDay(const DayQuestion& question) {
+  const int32_t unixDay = sun::UnixDayOfDate(question.day, question.month, question.year);
+  return hours::ZmanDay(unixDay, knownPlace->settings, question.shown);
+}
+
+void ReadSettings(const sun::PackedPlace& place, DWORD tick) {
+  knownPlace = {place, tick, sun::ReadPlaceSettings({ProfileGetInt, ProfileGetString}, place)};
+}
 
 hours::ZmanDay& DayFor(const DayQuestion& question) {
   const DWORD tick = GetTickCount();
-  const bool isKnown = knownDay && tick == knownDay->tick && AreEqual(question, knownDay->question);
-  if (!isKnown) {
-    const sun::PlaceSettings place = sun::ReadPlaceSettings({ProfileGetInt, ProfileGetString}, question.place);
-    const int32_t unixDay = sun::UnixDayOfDate(question.day, question.month, question.year);
-    knownDay.emplace(KnownDay{question, tick, hours::ZmanDay(unixDay, place, question.shown)});
+  if (knownDay && tick == knownDay->tick && AreEqual(question, knownDay->question)) return knownDay->zmanim;
+
+  const bool isPlaceKnown = knownPlace && tick == knownPlace->tick && AreEqual(question.place, knownPlace->place);
+  if (!isPlaceKnown) ReadSettings(question.place, tick);
+  knownDay.emplace(KnownDay{question, tick, ComputeDay(question)});
+  if (isPlaceKnown && !knownDay->zmanim.AgreesWithShown()) {
+    ReadSettings(question.place, tick);
+    knownDay.emplace(KnownDay{question, tick, ComputeDay(question)});
   }
   return knownDay->zmanim;
 }
@@ -91,4 +113,9 @@ int32_t HoursCalculate2(HWND, int32_t latitude, int32_t longitude, int32_t zoneH
   return static_cast<int32_t>((*minute % kMinutesPerDay + kMinutesPerDay) % kMinutesPerDay);
 } catch (...) {
   return HOURS_NONE;
+}
+
+void HoursDoDialogInitLoc(HWND owner, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes) try {
+  hours::RunSelectionDialog(owner, {latitude, longitude, zoneHours, zoneMinutes});
+} catch (...) {
 }

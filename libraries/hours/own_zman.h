@@ -18,8 +18,8 @@ struct OwnForm {
   const char* word;   // ASCII; kept in users' files, never changed
   const char* label;  // UTF-8, all of windows-1252: "degrees before sunrise"
   Unit unit;
-  Day day;         // of kHours; of the others, the bound at the end that counts is the form with an amount of 1
-  bool isEvening;  // of the others: it is the day's end that counts
+  Day day;         // kHours: whose hours are counted; else both bounds are the form's, for a thousandth of the unit
+  bool isEvening;  // the bound at the day's end counts, not the one at its start; of no meaning for kHours
 };
 
 // Degrees first, then minutes, proportional minutes, and hours of each day that has a name.

@@ -9,7 +9,7 @@
 
 namespace hours {
 
-// What a day begins or ends with. In the morning all of them lie before or at midday, in the evening after or at it.
+// What a day begins or ends with: its start is the one of the morning, its end the one of the evening.
 enum class BoundKind : uint8_t {
   kSun,                  // sunrise or sunset as the solar library has them, elevation included
   kSeaLevelSun,          // the same as seen from the sea

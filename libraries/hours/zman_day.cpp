@@ -44,7 +44,10 @@ ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSu
 
   const auto momentShown = [this](double exact, int64_t shownMinutes) {
     const int32_t offset = OffsetSeconds(exact);
-    return 60.0 * static_cast<double>(MinuteShown(sun::NearestMinute(exact, offset), shownMinutes)) - offset;
+    const int64_t computed = sun::NearestMinute(exact, offset);
+    const int64_t minute = MinuteShown(computed, shownMinutes);
+    agreesWithShown_ = agreesWithShown_ && minute == computed;
+    return 60.0 * static_cast<double>(minute) - offset;
   };
   shownSunrise_ = momentShown(sunrise_, shown.sunriseMinutes);
   shownSunset_ = momentShown(sunset_, shown.sunsetMinutes);

@@ -24,6 +24,9 @@ class ZmanDay {
   // unixDay: days since 1970-01-01 of the years 1 to 9999 (sun::UnixDayOfDate).
   ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSun& shown);
 
+  // Whether sunrise and sunset are shown as the place's settings have them. If not, the settings have changed since.
+  bool AgreesWithShown() const { return agreesWithShown_; }
+
   // The exact moment, in seconds of UTC since 1970-01-01; nothing when it depends on a depression that the sun does not
   // pass on the date, or on another date. Sunrise and sunset always occur: where the sun stays up or down, they are its
   // lowest or highest point.
@@ -58,6 +61,7 @@ class ZmanDay {
   double sunset_;
   double shownSunrise_;  // the moments of the shown minutes
   double shownSunset_;
+  bool agreesWithShown_ = true;
   int32_t offsetSeconds_;  // of the clock from a day before noon to a day after it
   bool hasOneOffset_;
   std::optional<bool> isPesachEve_;

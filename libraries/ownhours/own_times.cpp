@@ -46,6 +46,10 @@ std::string Coded(std::string_view text) {
   return settings_folder::PercentCoded(text, std::string_view(&kSeparator, 1));
 }
 
+uint64_t BitOf(std::string_view description) {
+  return uint64_t{1} << (std::hash<std::string_view>()(description) % 64);
+}
+
 // The lines that stay, the last first, with the changes made in them. placed collects the occasions that have their
 // line: of several lines the last is the one that counts.
 std::vector<std::string> RemainingBackwards(const Changes& changes, std::string_view text, std::set<Occasion>& placed) {
@@ -129,14 +133,15 @@ OwnTimes::OwnTimes(std::string_view text) {
 }
 
 std::optional<Time> OwnTimes::Find(PackedDate date, std::string_view description, std::string_view place) const {
-  if (!dates_.contains(date)) return std::nullopt;
+  const auto zmanim = zmanimOfDate_.find(date);
+  if (zmanim == zmanimOfDate_.end() || (zmanim->second & BitOf(description)) == 0) return std::nullopt;
   const auto found = times_.find(Key{date, description, place});
   if (found == times_.end()) return std::nullopt;
   return found->second;
 }
 
 void OwnTimes::Set(Entry entry) {
-  dates_.insert(entry.occasion.date);
+  zmanimOfDate_[entry.occasion.date] |= BitOf(entry.occasion.description);
   times_.insert_or_assign(std::move(entry.occasion), entry.time);
 }
 

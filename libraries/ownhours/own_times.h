@@ -20,7 +20,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 
 namespace ownhours {
 
@@ -68,7 +67,7 @@ std::string LineOf(const Entry& entry);
 // go too. Everything else keeps its bytes.
 std::string Applied(const Changes& changes, std::string_view text);
 
-// All times at hand. A look-up takes less than 0.1 microseconds, and a hundredth of one on a date that has no times.
+// All times at hand. A look-up takes less than 0.1 microseconds, and a fifth of that on a date that has no times.
 class OwnTimes {
  public:
   OwnTimes() = default;
@@ -96,7 +95,9 @@ class OwnTimes {
     bool operator()(const Occasion& left, const Key& right) const { return operator()(right, left); }
   };
 
-  std::unordered_set<PackedDate> dates_;  // that have times
+  // The dates that have times, each with a bit for every zman that has one, by its description's hash: so almost every
+  // look-up that finds nothing ends here.
+  std::unordered_map<PackedDate, uint64_t> zmanimOfDate_;
   std::unordered_map<Occasion, Time, Hash, Equal> times_;
 };
 

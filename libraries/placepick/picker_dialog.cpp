@@ -9,11 +9,17 @@
 
 #include "companion/profile.h"
 #include "libraries/placepick/picker_ids.h"
-#include "libraries/placepick/resizable_dialog.h"
+#include "libraries/dialogs/resizable_dialog.h"
 #include "libraries/settings_folder/settings_folder_win.h"
 
 namespace placepick {
 namespace {
+
+using dialogs::Anchor;
+using dialogs::Follow;
+using dialogs::ResizableDialog;
+
+constexpr char kSizeFile[] = "placepick.ini";
 
 constexpr char kStartFile[] = "almanac13.ini";
 constexpr char kStartSection[] = "Preferences";
@@ -171,7 +177,7 @@ INT_PTR PickerDialog::OnInitDialog() {
   constexpr DWORD kListStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
   SendList(LVM_SETEXTENDEDLISTVIEWSTYLE, kListStyle, kListStyle);
   AddColumns();
-  size_.Start(dialog_, kAnchors);
+  size_.Start(dialog_, kAnchors, kSizeFile);
   OnSize();
   SendDlgItemMessageW(dialog_, IDC_TYPED, EM_LIMITTEXT, kNameSize - 1, 0);
   SetWindowSubclass(Control(IDC_TYPED), TypedProc, IDC_TYPED, reinterpret_cast<DWORD_PTR>(Control(IDC_PLACES)));

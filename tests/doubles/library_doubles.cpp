@@ -175,6 +175,12 @@ void CandlesDoDialog(HWND owner) {
   LogCall("custom times, owner %s", owner ? "yes" : "none");
 }
 
+void HoursDoDialogInitLoc(HWND owner, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes) {
+  LogCall("choose zmanim at %d %d, zone %d:%d, owner %s", latitude, longitude, zoneHours, zoneMinutes,
+          owner ? "yes" : "none");
+  if (Libraries().zmanimCountAfterDialog) Libraries().zmanimCount = *Libraries().zmanimCountAfterDialog;
+}
+
 uint32_t HoursGetCount(void) {
   LogCall("HoursGetCount");
   return Libraries().zmanimCount;

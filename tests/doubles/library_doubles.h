@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -74,6 +75,7 @@ struct LibraryScript {
   // hours: the size of the selection. Names are "Zman <index>" and "namZ<index>" but for those set here; an empty one
   // is none.
   uint32_t zmanimCount = 25;
+  std::optional<uint32_t> zmanimCountAfterDialog;  // when the user chooses others in the dialog
   std::map<uint32_t, std::string> zmanNames;
   std::map<uint32_t, std::string> hebrewZmanNames;
   // The minutes after midnight of a zman on a day: six o'clock and ten minutes more for every index, unless set.

@@ -9,6 +9,7 @@
 #include "engine/current.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
+#include "zmanim/zmanim_count.h"
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -97,7 +98,7 @@ TEST_F(MenuTest, MenuTextsOfTheCommandsStand) {
 TEST_F(MenuTest, CommandsWithoutActionAreGreyedAndIgnored) {
   ListNoUserPlace("Aachen");
   const HWND frame = OpenFrame();
-  for (const unsigned id : {1008u, 1012u, 1013u, 1014u}) {
+  for (const unsigned id : {1008u, 1012u, 1013u}) {
     EXPECT_FALSE(IsEnabled(frame, id)) << id;
     CallLog().clear();
     Command(frame, id);
@@ -183,6 +184,36 @@ TEST_F(MenuTest, CustomTimesOpenADocumentWhateverTheOutcome) {
   Command(frame, 1016);
   EXPECT_THAT(CallsWith("custom"), ElementsAre("custom times, owner yes"));
   EXPECT_EQ(CountDocuments(), 2);
+}
+
+// Whether the selection has changed or not.
+TEST_F(MenuTest, ZmanimSelectionIsAtTheCurrentPlaceAndOpensADocument) {
+  ListNoUserPlace("Aachen");
+  const HWND frame = OpenFrame();
+  const HWND before = ActiveDocument();
+  EXPECT_TRUE(IsEnabled(frame, 1014));
+  CallLog().clear();
+  Command(frame, 1014);
+  EXPECT_THAT(CallsWith("choose"), ElementsAre("choose zmanim at 5046 606, zone 1:0, owner yes"));
+  EXPECT_THAT(CallsWith("Hours"), ElementsAre("HoursGetCount"));
+  EXPECT_EQ(CountDocuments(), 2);
+  EXPECT_NE(ActiveDocument(), before);
+
+  Libraries().zmanimCountAfterDialog = 7;
+  Command(frame, 1014);
+  EXPECT_EQ(GetZmanimCount(), 7u);
+  EXPECT_EQ(CountDocuments(), 3);
+}
+
+TEST_F(MenuTest, ZmanimSelectionAppliesTheCandleRuleOfThePlace) {
+  ListNoUserPlace("Aachen");
+  const HWND frame = OpenFrame();
+  CandleOverride = {true, 0};
+  std::strcpy(CurrentLocation.name, "Jerusalem");
+  ListNoUserPlace("Jerusalem");
+  Command(frame, 1014);
+  EXPECT_FALSE(CandleOverride.readSetting);
+  EXPECT_EQ(CandleOverride.fixedMinutes, 40);
 }
 
 TEST_F(MenuTest, AnotherFormOfTimesRedrawsEverythingAndOpensNothing) {

@@ -1,0 +1,34 @@
+// What the dialogs of several libraries do alike.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace dialogs {
+
+// Runs a modal dialog of this library; its procedure gets the state with WM_INITDIALOG. -1 when it cannot be made.
+INT_PTR RunDialog(HWND owner, int dialogId, DLGPROC procedure, void* state);
+
+// For a dialog procedure that caught an exception, which can only be want of memory: a dialog that is being opened
+// closes, an open one stays and sounds.
+INT_PTR OnException(HWND dialog, UINT message);
+
+std::wstring TextOf(HWND window);
+
+// An error of the user's or the system's, in words that say how to go on.
+void ShowError(HWND dialog, const std::wstring& text);
+
+// Gives a field with text the focus, all the text selected.
+void FocusField(HWND dialog, int fieldId);
+
+// An error in a field, which then has the focus.
+void ShowFieldError(HWND dialog, int fieldId, const std::wstring& text);
+
+// WM_HELP for a dialog procedure: F1 in any dialog is answered by the last of its owners.
+INT_PTR PassHelpOn(HWND dialog, LPARAM helpInfo);
+
+// A question under the dialog's own title; "No" is the default.
+bool IsConfirmed(HWND dialog, const std::wstring& question);
+
+}  // namespace dialogs
