@@ -18,8 +18,16 @@ HWND OpenRange(const ProgramRun& program, const std::string& start, const std::s
   SetText(dialog, kRangeStart, start);
   SetText(dialog, kRangeEnd, end);
   Click(dialog, IDOK);
-  const auto documents = program.WaitForDocuments(2);
-  return documents.size() == 2 ? documents.front() : nullptr;
+  // The new one shows up before it comes to the top.
+  const std::string range = " (" + start + " - " + end + ")";
+  HWND document = nullptr;
+  EXPECT_TRUE(program.Eventually([&] {
+    const auto documents = program.WaitForDocuments(2);
+    document = documents.empty() ? nullptr : documents.front();
+    return TextOf(document).ends_with(range);
+  })) << "no document"
+      << range;
+  return document;
 }
 
 void SaveAs(const ProgramRun& program, const std::filesystem::path& file) {
