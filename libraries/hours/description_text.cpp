@@ -29,7 +29,7 @@ char32_t TakeCodePoint(std::string_view& utf8) {
       rest.size() == length - 1 && std::ranges::all_of(rest, [](char c) { return (c & 0xC0) == 0x80; });
   utf8.remove_prefix(isWhole ? length : 1);
   if (!isWhole) return kReplacement;
-  for (const char c : rest) codePoint = codePoint << 6 | (c & 0x3Fu);
+  for (const char c : rest) codePoint = codePoint << 6 | (static_cast<unsigned char>(c) & 0x3Fu);
   return codePoint;
 }
 
