@@ -8,6 +8,7 @@
 #include "app/bound_entries.h"
 #include "app/library_binding.h"
 #include "app/string_table.h"
+#include "benchmarks/exports_bench.h"
 #include "benchmarks/measured.h"
 #include "benchmarks/start_up_bench.h"
 #include "benchmarks/zmanim_bench.h"
@@ -154,6 +155,7 @@ int main() {
     ProfileWriteString("Shabbat", "DoMinutes", "0", "shabbat2.ini");
     MeasureShabbatTimes("32,000 Shabbatot by degrees, ms");
     if (!MeasureZmanim(home)) return 1;
+    MeasureExports(home);
   }
   return MeasureStartUp() ? 0 : 1;
 }

@@ -27,25 +27,6 @@ constexpr int kSteps = 200;
 constexpr int32_t kFirstDay = 726468;  // 1 January 1990
 constexpr int32_t kDays = 32000;
 
-// Chooses so many zmanim, each by a depression of its own, and waits until the library has noticed.
-bool ChooseZmanim(const SettingsHome& home, uint32_t count) {
-  std::string text;
-  for (uint32_t i = 1; i <= count; ++i) {
-    const std::string number = std::to_string(i);
-    const std::string degrees = std::to_string(3 + i / 10) + "." + std::to_string(i % 10);
-    text += "zman own-" + number + "\nown " + number + " degrees-before-sunrise " + degrees + " up Dawn by " + degrees +
-            " degrees|" + number + "\n";
-  }
-  home.Put("hours.txt", text);
-  for (int i = 0; i < 100; ++i) {
-    RefreshZmanimCount();
-    if (GetZmanimCount() == count) return true;
-    Sleep(10);
-  }
-  std::fprintf(stderr, "%u zmanim instead of %u\n", GetZmanimCount(), count);
-  return false;
-}
-
 void MeasureCalculation(HWND document, const char* name) {
   const CalendarDate start = DateFromAbsolute(kFirstDay);
   const CalendarDate end = DateFromAbsolute(kFirstDay + kDays - 1);
@@ -83,6 +64,24 @@ void MeasureTable(HWND document) {
 }
 
 }  // namespace
+
+bool ChooseZmanim(const SettingsHome& home, uint32_t count) {
+  std::string text;
+  for (uint32_t i = 1; i <= count; ++i) {
+    const std::string number = std::to_string(i);
+    const std::string degrees = std::to_string(3 + i / 10) + "." + std::to_string(i % 10);
+    text += "zman own-" + number + "\nown " + number + " degrees-before-sunrise " + degrees + " up Dawn by " + degrees +
+            " degrees|" + number + "\n";
+  }
+  home.Put("hours.txt", text);
+  for (int i = 0; i < 100; ++i) {
+    RefreshZmanimCount();
+    if (GetZmanimCount() == count) return true;
+    Sleep(10);
+  }
+  std::fprintf(stderr, "%u zmanim instead of %u\n", GetZmanimCount(), count);
+  return false;
+}
 
 bool MeasureZmanim(const SettingsHome& home) {
   Program.instance = GetModuleHandleA(nullptr);

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/end_to_end/command_steps.h"
 #include "tests/end_to_end/program_driver.h"
 
 using testing::HasSubstr;
@@ -11,30 +12,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kSaveDialogFileName = 0x47C;  // cmb13 of the system's dialog
-
 class CommandsTest : public testing::Test {
  protected:
   void SetUp() override { WriteFileText(settings_.path() / "stamp.ini", "[Times]\r\nForm=24\r\n"); }
 
   std::string Setting(const char* file) const { return ReadFileText(settings_.path() / file); }
 
-  // Opens one day in January 2007, so that what is exported does not depend on the day of the test.
-  static void OpenFixedRange(const ProgramRun& program) {
-    program.PostCommand(1002);
-    const HWND dialog = program.WaitForDialog("Select Range");
-    SetText(dialog, 101, "5.1.2007");
-    SetText(dialog, 102, "13.1.2007");
-    Click(dialog, IDOK);
-    program.WaitForDocuments(2);
-  }
-
-  static void SaveAs(const ProgramRun& program, const fs::path& file) {
-    const HWND dialog = program.WaitForDialog("Save As");
-    ASSERT_NE(dialog, nullptr);
-    SetText(dialog, kSaveDialogFileName, file.string());
-    Click(dialog, IDOK);
-  }
+  // The same days always, so that what is exported does not depend on the day of the test.
+  static void OpenFixedRange(const ProgramRun& program) { OpenRange(program, "5.1.2007", "13.1.2007"); }
 
   TemporaryFolder settings_;
   TemporaryFolder exports_;
@@ -163,9 +148,7 @@ TEST_F(CommandsTest, ACancelledExportWritesNothingAndAnImpossibleNameIsReported)
   ProgramRun program(ProgramFolder(), settings_.path());
   program.WaitForDocuments(1);
   program.PostCommand(1005);
-  const HWND cancelled = program.WaitForDialog("Save As");
-  PostMessageA(cancelled, WM_COMMAND, IDCANCEL, 0);
-  EXPECT_TRUE(program.Eventually([&] { return !IsWindow(cancelled); }));
+  CancelSaving(program);
   EXPECT_TRUE(fs::is_empty(exports_.path()));
 
   // A file that another program holds open.

@@ -116,6 +116,10 @@ HWND ProgramRun::WaitForQuestion() const {
   return WaitForDialogThat([](HWND window) { return GetDlgItem(window, IDYES) != nullptr; }, "question");
 }
 
+bool ProgramRun::HasDialog(const std::string& title) const {
+  return FindTopLevel("#32770", [&](HWND window) { return TextOf(window) == title; }) != nullptr;
+}
+
 void ProgramRun::PostCommand(unsigned id) const {
   PostMessageA(FindTopLevel("ShabbatMain"), WM_COMMAND, id, 0);
 }

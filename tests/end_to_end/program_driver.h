@@ -53,6 +53,9 @@ class ProgramRun {
   // A box that asks for Yes or No, whatever its title.
   HWND WaitForQuestion() const;
 
+  // Whether a dialog or box of a title is open now.
+  bool HasDialog(const std::string& title) const;
+
   // Sends a menu command to the frame without waiting for what it does.
   void PostCommand(unsigned id) const;
 

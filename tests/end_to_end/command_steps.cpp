@@ -1,0 +1,44 @@
+#include "tests/end_to_end/command_steps.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr unsigned kSelectRange = 1002;
+constexpr int kRangeStart = 101;
+constexpr int kRangeEnd = 102;
+constexpr int kSaveDialogFileName = 0x47C;  // cmb13 of the system's dialog
+
+}  // namespace
+
+HWND OpenRange(const ProgramRun& program, const std::string& start, const std::string& end) {
+  program.WaitForDocuments(1);
+  program.PostCommand(kSelectRange);
+  const HWND dialog = program.WaitForDialog("Select Range");
+  SetText(dialog, kRangeStart, start);
+  SetText(dialog, kRangeEnd, end);
+  Click(dialog, IDOK);
+  // The new one shows up before it comes to the top.
+  const std::string range = " (" + start + " - " + end + ")";
+  HWND document = nullptr;
+  EXPECT_TRUE(program.Eventually([&] {
+    const auto documents = program.WaitForDocuments(2);
+    document = documents.empty() ? nullptr : documents.front();
+    return TextOf(document).ends_with(range);
+  })) << "no document"
+      << range;
+  return document;
+}
+
+void SaveAs(const ProgramRun& program, const std::filesystem::path& file) {
+  const HWND dialog = program.WaitForDialog("Save As");
+  ASSERT_NE(dialog, nullptr);
+  SetText(dialog, kSaveDialogFileName, file.string());
+  Click(dialog, IDOK);
+}
+
+void CancelSaving(const ProgramRun& program) {
+  const HWND dialog = program.WaitForDialog("Save As");
+  PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+  EXPECT_TRUE(program.Eventually([&] { return !IsWindow(dialog); }));
+}

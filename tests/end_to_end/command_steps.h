@@ -1,0 +1,17 @@
+// What a user does in the program's and the system's dialogs, in the tests of several commands.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "tests/end_to_end/program_driver.h"
+
+// Opens a document for a range of dates ("5.1.2007"), the second one of a fresh run; its window.
+HWND OpenRange(const ProgramRun& program, const std::string& start, const std::string& end);
+
+// Saves under a name in the save dialog that is open or about to open. The dialog closes, or asks whether to overwrite
+// a file that exists.
+void SaveAs(const ProgramRun& program, const std::filesystem::path& file);
+
+// Cancels that dialog, and waits until it is gone.
+void CancelSaving(const ProgramRun& program);

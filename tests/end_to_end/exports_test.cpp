@@ -1,0 +1,251 @@
+// The exports of the finished program, from the menu command to the file.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+
+#include "tests/end_to_end/command_steps.h"
+#include "tests/end_to_end/program_driver.h"
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr unsigned kViewShabbatTimes = 1111;
+constexpr unsigned kViewZmanim = 1112;
+constexpr unsigned kViewReadings = 1113;
+constexpr unsigned kExportText = 1005;
+constexpr unsigned kExportRtf = 1007;
+constexpr unsigned kExportZmanim = 1020;
+constexpr unsigned kExportDates = 1021;
+
+constexpr int kFile = 101;
+constexpr int kSeparator = 102;
+constexpr int kHeader = 103;
+constexpr int kReadingsSeparator = 104;
+constexpr int kLanguage = 105;
+constexpr int kBrowse = 200;
+
+struct Export {
+  unsigned view;
+  unsigned command;
+  const char* file;
+  std::string start;  // of the file's text
+  std::string part;
+  std::string end;
+};
+
+// Sunset in Aachen on 5 January 2007: 16:45 by PyEphem (50:47 N, 6:05 E, centre at -50'); the built-in table has it in
+// its 15th place.
+const Export kExports[] = {
+    {kViewZmanim, kExportText, "zmanim.txt",
+     std::string(32, ' ') + "Zmanim of Aachen\r\n" + std::string(32, ' ') +
+         "----------------\r\n\r\n1 = Alot HaShachar",
+     "\r\nDate       11    12    13    14    15    16    17    18    19   \r\n"
+     "---------- ----- ----- ----- ----- ----- ----- ----- ----- -----\r\n05.01.2007 ",
+     "\r\n\r\n"},
+    {kViewZmanim, kExportRtf, "zmanim.rtf",
+     "{\\rtf1\\ansi\r\n\\b Zmanim of Aachen\\plain\\par\r\n\\par\r\n1 = Alot HaShachar",
+     "\\b 19\\plain\\cell\r\n\\row\r\n\\intbl\r\n05.01.2007\\par\r\n06.01.2007\\par\r\n\\cell\r\n", "\\par\r\n}\r\n"},
+    {kViewZmanim, 1022, "days.rtf", "{\\rtf1\\ansi\r\n\\b Zmanim of Aachen\\plain\\par\r\n\\par\r\n1 = Alot HaShachar",
+     "\\cell\r\n16:45\\cell\r\n", "\\par\r\n}\r\n"},
+    {kViewReadings, kExportText, "readings.txt", "Date        Parashioth ",
+     "\r\n06.01.2007  Vayechi: Genesis 47:28-50:26" + std::string(67, ' ') + "  I Kings 2:1-12", "\r\n\r\n"},
+    {kViewReadings, kExportRtf, "wide.rtf", "{\\rtf1\\ansi\r\n{\\fonttbl {\\f0\\froman Times New Roman;}}\r\n",
+     "\\intbl\r\n06.01.2007\\par\r\n\\plain\r\n\\cell\r\nVayechi: Genesis 47:28-50:26\\par\r\n", "\\intbl\r\n}\r\n"},
+    {kViewReadings, 1023, "narrow.rtf", "{\\rtf1\\ansi\r\n{\\fonttbl {\\f0\\froman Times New Roman;}}\r\n",
+     "\\intbl\r\n\\fs12\r\n06.01.2007\\par\r\n\r\n\\cell\r\nVayechi: Genesis 47:28-50:26\\par\r\n", "\\pard\r\n}\r\n"},
+};
+
+class ExportsEndToEndTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    WriteFileText(settings_.path() / "stamp.ini", "[Times]\r\nForm=24\r\n");
+    WriteFileText(settings_.path() / "shab30.ini", "[Settings]\r\nEnableZmanim=0\r\n");
+    WriteFileText(settings_.path() / "lections.ini", "[Readings]\r\nLand=Diaspora\r\nCustom=Ashkenazi\r\n");
+    program_.emplace(ProgramFolder(), settings_.path());
+    // A Friday and the Shabbat of Vayechi.
+    ASSERT_NE(OpenRange(*program_, "5.1.2007", "6.1.2007"), nullptr);
+  }
+
+  void Show(unsigned view) { SendMessageA(program_->WaitForTopLevel("ShabbatMain"), WM_COMMAND, view, 0); }
+  fs::path File(const char* name) const { return folder_.path() / name; }
+  std::string Written(const char* name) const { return ReadFileText(File(name)); }
+
+  void ExpectWritten(const Export& row) {
+    const auto whole = [&] {
+      const std::string text = Written(row.file);
+      return text.starts_with(row.start) && text.find(row.part) != text.npos && text.ends_with(row.end);
+    };
+    if (program_->Eventually(whole)) return;
+    EXPECT_THAT(Written(row.file), StartsWith(row.start)) << row.file;
+    EXPECT_THAT(Written(row.file), HasSubstr(row.part)) << row.file;
+    EXPECT_THAT(Written(row.file), EndsWith(row.end)) << row.file;
+  }
+
+  // Clicks OK in the dialog of a delimited export and closes the word that follows.
+  void ExpectInformation(HWND dialog, const std::string& file) {
+    Click(dialog, IDOK);
+    const HWND box = program_->WaitForDialog("Information");
+    EXPECT_EQ(TextOf(GetDlgItem(box, 0xFFFF)), "Information was written to file " + file);
+    Click(box, IDOK);
+    EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(dialog); }));
+  }
+
+  TemporaryFolder settings_;
+  TemporaryFolder folder_;
+  std::optional<ProgramRun> program_;
+};
+
+}  // namespace
+
+TEST_F(ExportsEndToEndTest, EveryViewIsWrittenInItsFormats) {
+  for (const Export& row : kExports) {
+    Show(row.view);
+    program_->PostCommand(row.command);
+    SaveAs(*program_, File(row.file));
+    ExpectWritten(row);
+  }
+}
+
+TEST_F(ExportsEndToEndTest, AnExistingFileIsReplacedOnlyAfterTheUserAgreed) {
+  for (const Export& row : kExports) {
+    WriteFileText(File(row.file), "an older file");
+    Show(row.view);
+    program_->PostCommand(row.command);
+    SaveAs(*program_, File(row.file));
+    const HWND question = program_->WaitForQuestion();
+    Click(question, IDNO);
+    EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(question); }));
+    EXPECT_EQ(Written(row.file), "an older file");
+    SaveAs(*program_, File(row.file));
+    Click(program_->WaitForQuestion(), IDYES);
+    ExpectWritten(row);
+  }
+}
+
+TEST_F(ExportsEndToEndTest, ACancelledExportWritesNothing) {
+  for (const Export& row : kExports) {
+    Show(row.view);
+    program_->PostCommand(row.command);
+    CancelSaving(*program_);
+  }
+  EXPECT_TRUE(fs::is_empty(folder_.path()));
+}
+
+// Commands are carried out in turn: when the next one asks for its file, the one before has said what it had to say.
+TEST_F(ExportsEndToEndTest, AFileOfZmanimOrReadingsThatCannotBeWrittenLeavesNoWord) {
+  for (const Export& row : kExports) {
+    const fs::path file = File(row.file);
+    const HANDLE held = CreateFileA(file.string().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    Show(row.view);
+    program_->PostCommand(row.command);
+    SaveAs(*program_, file);
+    Click(program_->WaitForQuestion(), IDYES);
+    EXPECT_TRUE(program_->Eventually([&] { return !program_->HasDialog("Save As"); })) << row.file;
+    program_->PostCommand(row.command);
+    CancelSaving(*program_);
+    EXPECT_FALSE(program_->HasDialog("Error")) << row.file;
+    EXPECT_FALSE(program_->HasDialog("Times / Readings")) << row.file;
+    CloseHandle(held);
+    EXPECT_EQ(Written(row.file), "") << row.file;
+  }
+}
+
+TEST_F(ExportsEndToEndTest, TheLastNameIsOfferedAgain) {
+  Show(kViewZmanim);
+  program_->PostCommand(kExportText);
+  SaveAs(*program_, File("zmanim.txt"));
+  ExpectWritten(kExports[0]);
+  program_->PostCommand(kExportText);
+  const HWND dialog = program_->WaitForDialog("Save As");
+  EXPECT_THAT(TextOf(GetDlgItem(dialog, 0x47C)), HasSubstr("zmanim"));
+  CancelSaving(*program_);
+}
+
+TEST_F(ExportsEndToEndTest, ZmanimForDatabases) {
+  program_->PostCommand(kExportZmanim);
+  const HWND dialog = program_->WaitForDialog("Export Zmanim");
+  EXPECT_EQ(TextOf(GetDlgItem(dialog, kSeparator)), ";");
+  Click(dialog, kBrowse);
+  SaveAs(*program_, File("zmanim"));
+  const std::string file = File("zmanim.txt").string();
+  EXPECT_TRUE(program_->Eventually([&] { return TextOf(GetDlgItem(dialog, kFile)) == file; }))
+      << TextOf(GetDlgItem(dialog, kFile));
+  ExpectInformation(dialog, file);
+  const std::string text = Written("zmanim.txt");
+  EXPECT_THAT(text, StartsWith("Gregorian date;Alot HaShachar (Rabbi Moshe Feinstein);"));
+  EXPECT_THAT(text, HasSubstr("\r\n05.01.2007;"));
+  EXPECT_EQ(std::count(text.begin(), text.end(), ';'), 3 * 19);
+  EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 3);
+}
+
+// 6 January 2007 is 16 Tevet 5767 (Hebcal).
+TEST_F(ExportsEndToEndTest, DatesAndReadingsForDatabases) {
+  const struct {
+    const char* language;
+    const char* date;
+  } languages[] = {{"English", "06.01.2007|16 Tevet 5767|"}, {"German", "06.01.2007|16. Tevet 5767|"}};
+  for (const auto& row : languages) {
+    program_->PostCommand(kExportDates);
+    const HWND dialog = program_->WaitForDialog("Export Gregorian/Jewish dates, torah/haphtarah readings, holidays");
+    const fs::path file = File((std::string(row.language) + ".csv").c_str());
+    SetText(dialog, kFile, file.string());
+    SetText(dialog, kSeparator, "|");
+    SendDlgItemMessageA(dialog, kHeader, BM_SETCHECK, BST_UNCHECKED, 0);
+    SendDlgItemMessageA(dialog, kLanguage, CB_SELECTSTRING, static_cast<WPARAM>(-1),
+                        reinterpret_cast<LPARAM>(row.language));
+    ExpectInformation(dialog, file.string());
+    EXPECT_EQ(ReadFileText(file), std::string(row.date) + "Vayechi: Genesis 47:28-50:26|I Kings 2:1-12\r\n");
+  }
+}
+
+// Deliberate: the dialogs speak of success without asking whether there was any.
+TEST_F(ExportsEndToEndTest, AFolderForAFileLeavesNoOtherWordThanSuccess) {
+  program_->PostCommand(kExportZmanim);
+  const HWND dialog = program_->WaitForDialog("Export Zmanim");
+  SetText(dialog, kFile, folder_.path().string());
+  ExpectInformation(dialog, folder_.path().string());
+  EXPECT_TRUE(fs::is_empty(folder_.path()));
+}
+
+TEST_F(ExportsEndToEndTest, ADialogThatLacksSomethingStaysOpen) {
+  program_->PostCommand(kExportDates);
+  const HWND dialog = program_->WaitForDialog("Export Gregorian/Jewish dates, torah/haphtarah readings, holidays");
+  const struct {
+    int field;
+    const char* text;
+    const char* complaint;
+  } steps[] = {{kFile, "dates.csv", "Filename must not be blank"},
+               {kSeparator, ";", "Separator must not be blank"},
+               {kReadingsSeparator, ",", "Separator for multiple readings must not be blank"}};
+  for (const auto& step : steps) SetText(dialog, step.field, "  ");
+  for (const auto& step : steps) {
+    Click(dialog, IDOK);
+    const HWND box = program_->WaitForDialog("Error");
+    EXPECT_EQ(TextOf(GetDlgItem(box, 0xFFFF)), step.complaint);
+    Click(box, IDOK);
+    EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(box) && IsWindowEnabled(dialog); }));
+    SetText(dialog, step.field, step.text);
+  }
+  PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+  EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(dialog); }));
+}
+
+TEST_F(ExportsEndToEndTest, ShabbatTimesInOneRow) {
+  Show(kViewShabbatTimes);
+  program_->PostCommand(kExportRtf);
+  Click(program_->WaitForDialog("Export to RTF Options"), IDOK);
+  SaveAs(*program_, File("times.rtf"));
+  const std::string expected =
+      "{\\rtf1\\ansi\r\n\\b Times / Readings of Aachen\\plain\\par\r\n\\par\r\n\\cellx2880\\cellx5760\\cellx8640\r\n"
+      "\\intbl\r\n\\b Date\\plain\r\n\\cell\r\n\\b Candle Lighting\\plain\r\n\\cell\r\n\\b End of Shabbat\\plain\r\n"
+      "\\cell\r\n\\row\r\n\\intbl\r\n05.01.2007\\par\r\n\\cell\r\n16:27\\par\r\n\\cell\r\n17:31\\par\r\n\\cell\r\n"
+      "\\row\r\n\\pard\r\n}\r\n";
+  EXPECT_TRUE(program_->Eventually([&] { return Written("times.rtf") == expected; })) << Written("times.rtf");
+}

@@ -1,0 +1,165 @@
+// Writes one RTF file of every layout into a folder: make_samples FOLDER. The readings are those of a whole year in
+// both languages, the zmanim have both marks and a Hebrew legend as the zmanim library describes them.
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "app/core/shabbat_export.h"
+#include "libraries/calendar/gregorian.h"
+#include "libraries/calendar/jewish.h"
+#include "libraries/hours/description_text.h"
+#include "libraries/lections/reading_texts.h"
+#include "output/text_sink.h"
+#include "readings/core/readings_export.h"
+#include "readings/core/split_rules.h"
+#include "zmanim/core/zmanim_export.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr uint32_t kEnglish = 1;
+constexpr uint32_t kHebrew = 4;
+constexpr int kDays = 31;
+
+void Format24(int32_t hour, int32_t minute, char* text) {
+  std::snprintf(text, 32, "%02d:%02d", hour, minute);
+}
+void Format12(int32_t hour, int32_t minute, char* text) {
+  std::snprintf(text, 32, "%02d:%02d %s", (hour + 11) % 12 + 1, minute, hour < 12 ? "a.m." : "p.m.");
+}
+
+void Save(const fs::path& file, const StringSink& sink) {
+  std::ofstream(file, std::ios::binary) << sink.text();
+}
+
+void SaveShabbatTimes(const fs::path& folder) {
+  std::vector<ShabbatTimeEntry> entries;
+  for (uint32_t week = 0; week < 4; ++week) entries.push_back({5 + 7 * week, 1, 2007, 16, 27 + week, 16, 45, 17, 31});
+  const ShabbatExport data{.title = "Times / Readings of {Aachen}",
+                           .dateTitle = "Date",
+                           .candleTitle = "Candle Lighting",
+                           .endTitle = "End of Shabbat",
+                           .entries = entries,
+                           .formatTime = Format24,
+                           .amPm = false};
+  const std::pair<const char*, RtfLayout> layouts[] = {{"shabbat_same_row.rtf", RtfLayout::kSameRow},
+                                                       {"shabbat_three_columns.rtf", RtfLayout::kThreeColumns},
+                                                       {"shabbat_two_columns.rtf", RtfLayout::kTwoColumns}};
+  for (const auto& [name, layout] : layouts) {
+    StringSink sink;
+    WriteShabbatRtf(sink, data, layout);
+    Save(folder / name, sink);
+  }
+}
+
+// Twelve zmanim of January 2007; the third does not occur on the first day, the fourth is not known.
+std::vector<ZmanimDay> ZmanimDays() {
+  std::vector<ZmanimDay> days;
+  for (uint32_t day = 1; day <= kDays; ++day) {
+    ZmanimDay record{{day, 1, 2007}, {}};
+    for (int32_t zman = 0; zman < static_cast<int32_t>(kMostZmanim); ++zman) {
+      record.times[zman] = {6 + zman % 12, static_cast<int32_t>(day)};
+    }
+    days.push_back(record);
+  }
+  days[0].times[2] = kNoTime;
+  days[0].times[3] = {kUnknownTimeHour, 0};
+  return days;
+}
+
+void SaveZmanim(const fs::path& folder) {
+  const std::vector<ZmanimDay> days = ZmanimDays();
+  ZmanimExport data{.location = "Aachen",
+                    .dateTitle = "Date",
+                    .names = {},
+                    .hebrew = false,
+                    .hebrewNames = {},
+                    .hebrewFont = "DisplayHebrew1",
+                    .vilnaGaon = "GR\"O = Vilna Gaon",
+                    .magenAvraham = "M\"A = Magen Avraham",
+                    .days = days,
+                    .formatTime = Format24,
+                    .amPm = false};
+  for (int zman = 1; zman <= 12; ++zman) {
+    data.names.push_back("Zman " + std::to_string(zman));
+    data.hebrewNames.emplace_back();
+  }
+  data.hebrewNames[0] = hours::DisplayHebrew(hours::EightBitFromUtf8("עלות השחר (72 דקות)"));
+  data.hebrewNames[1] = hours::DisplayHebrew(hours::EightBitFromUtf8("סוף זמן קריאת שמע {מג\"א}"));
+  const auto save = [&](const char* name, ZmanimRtfLayout layout) {
+    StringSink sink;
+    WriteZmanimRtf(sink, data, layout);
+    Save(folder / name, sink);
+  };
+  save("zmanim_columns.rtf", ZmanimRtfLayout::kRowPerColumn);
+  save("zmanim_days.rtf", ZmanimRtfLayout::kRowPerDay);
+  data.hebrew = true;
+  save("zmanim_columns_hebrew.rtf", ZmanimRtfLayout::kRowPerColumn);
+  save("zmanim_days_hebrew.rtf", ZmanimRtfLayout::kRowPerDay);
+  data.formatTime = Format12;
+  data.amPm = true;
+  data.names.resize(7);
+  data.hebrewNames.resize(7);
+  save("zmanim_days_12_hours.rtf", ZmanimRtfLayout::kRowPerDay);
+}
+
+void Put(const std::string& text, char (&slot)[kTextSize]) {
+  slot[text.copy(slot, kTextSize - 1)] = '\0';
+}
+
+// From 5 January 2007 on, as the program's own list has them.
+std::vector<ReadingsEntry> ReadingsOfAYear(const lections::Settings& settings) {
+  std::vector<ReadingsEntry> entries;
+  const int32_t first = calendar::AbsoluteFromGregorian({5, 1, 2007});
+  for (int32_t day = first; day < first + 365; ++day) {
+    const calendar::Date jewish = calendar::JewishFromAbsolute(day);
+    const lections::ReadingTexts texts = lections::TextsOn(jewish, settings);
+    if (texts.torah[0].empty()) continue;
+    const calendar::Date date = calendar::GregorianFromAbsolute(day);
+    ReadingsEntry entry{};
+    entry.date = {static_cast<uint32_t>(date.day), static_cast<uint32_t>(date.month), static_cast<uint32_t>(date.year)};
+    Put(texts.torah[0], entry.torah1);
+    Put(texts.torah[1], entry.torah2);
+    Put(texts.torah[2], entry.torah3);
+    Put(texts.haftarot[0], entry.haftarah1);
+    Put(texts.haftarot[1], entry.haftarah2);
+    Put(texts.haftarot[2], entry.haftarah3);
+    Put(texts.additional, entry.extraText);
+    SplitReadings(entry, settings.language);
+    entry.isYizkor = lections::IsYizkor(jewish, settings.land) ? 1 : 0;
+    entries.push_back(entry);
+  }
+  return entries;
+}
+
+void SaveReadings(const fs::path& folder, uint32_t language, const ExportFont& font, const std::string& suffix) {
+  lections::Settings settings;
+  settings.language = language;
+  const std::vector<ReadingsEntry> entries = ReadingsOfAYear(settings);
+  const ReadingsExport data{.dateTitle = "Date",
+                            .torahTitle = "Parashioth",
+                            .haftarahTitle = "Haphtaroth",
+                            .yizkor = "Yizkor",
+                            .font = font,
+                            .entries = entries};
+  StringSink wide;
+  WriteReadingsRtfWide(wide, data);
+  Save(folder / ("readings_wide" + suffix + ".rtf"), wide);
+  StringSink narrow;
+  WriteReadingsRtfNarrow(narrow, data);
+  Save(folder / ("readings_narrow" + suffix + ".rtf"), narrow);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (count != 2) return 2;
+  const fs::path folder = arguments[1];
+  SaveShabbatTimes(folder);
+  SaveZmanim(folder);
+  SaveReadings(folder, kEnglish, {}, "");
+  SaveReadings(folder, kHebrew, {.ownFont = true, .face = "Times New Roman", .points = 12, .charset = 177}, "_hebrew");
+}
