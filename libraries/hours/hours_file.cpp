@@ -10,8 +10,6 @@ namespace {
 struct ChoiceFile {
   std::mutex mutex;
   settings_folder::WatchedFile watched{"hours.txt"};
-  bool isAsked = false;
-  DWORD askedTick = 0;
   Choice choice;
   std::vector<AnsweredZman> zmanim;
 };
@@ -34,13 +32,7 @@ void Refresh() {
 }  // namespace
 
 SelectionLock::SelectionLock() : lock_(choiceFile.mutex) {
-  // Calls come by the million, and even to ask which file it is takes a microsecond. The tick advances every 10 to 16
-  // ms.
-  const DWORD tick = GetTickCount();
-  if (choiceFile.isAsked && tick == choiceFile.askedTick) return;
   Refresh();
-  choiceFile.isAsked = true;
-  choiceFile.askedTick = tick;
 }
 
 const std::vector<AnsweredZman>& SelectionLock::Zmanim() const {
