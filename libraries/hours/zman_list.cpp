@@ -8,7 +8,7 @@ namespace hours {
 namespace {
 
 constexpr UINT kSelection = LVIS_SELECTED | LVIS_FOCUSED;
-constexpr wchar_t kIndent[] = L"   ";  // of what stands under a heading
+constexpr wchar_t kIndent[] = L"  ";  // of what stands under a heading
 
 bool MovesSelection(WPARAM key) {
   constexpr WPARAM kKeys[] = {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END};

@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <sstream>
+#include <string>
+#include <vector>
 
 #include "tests/end_to_end/program_driver.h"
+#include "tests/end_to_end/recorded_drawing.h"
 
 namespace fs = std::filesystem;
 
@@ -17,79 +19,56 @@ constexpr int kPreset = 111;
 constexpr int kUsePreset = 112;
 constexpr int kNineteen = 5;  // of the presets, from 0
 
-struct Drawn {
-  int x;
-  int y;
-  std::string text;
-};
-
 class ZmanimSelectionTest : public testing::Test {
  protected:
   void SetUp() override {
     WriteFileText(settings_.path() / "stamp.ini", "[Times]\r\nForm=24\r\n");
-    fs::copy(ProgramFolder(), program_.path(), fs::copy_options::recursive);
-    fs::copy_file(FakeLibrariesFolder() / "recording_glyphs" / "glyphs.dll", program_.path() / "glyphs.dll",
-                  fs::copy_options::overwrite_existing);
+    MakeRecordingProgram(program_.path());
   }
 
   // What a document's zmanim view draws, scrolled to either end.
-  std::vector<Drawn> ViewOf(const ProgramRun& program, HWND document, int request = SB_LEFT) const {
+  std::vector<RecordedDraw> ViewOf(const ProgramRun& program, HWND document, int request = SB_LEFT) const {
     const HWND frame = program.WaitForTopLevel("ShabbatMain");
     SendMessageA(GetParent(document), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(document), 0);
     SendMessageA(GetParent(document), WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(document), 0);
     SendMessageA(frame, WM_COMMAND, kZmanimView, 0);
     const HWND table = GetDlgItem(GetDlgItem(document, 4), 2);
     SendMessageA(table, WM_HSCROLL, MAKEWPARAM(request, 0), 0);
-    const size_t before = Lines().size();
+    const size_t before = ReadDraws(settings_.path()).size();
     RedrawWindow(document, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
-    SendMessageA(document, WM_NULL, 0, 0);
-    std::vector<std::string> lines;
+    std::vector<RecordedDraw> drawn;
     size_t quiet = 0;  // looks in a row that found nothing new
     EXPECT_TRUE(program.Eventually([&] {
-      const size_t seen = lines.size();
-      lines = Lines();
-      quiet = lines.size() > before && lines.size() == seen ? quiet + 1 : 0;
+      const size_t seen = drawn.size();
+      drawn = ReadDraws(settings_.path());
+      quiet = drawn.size() > before && drawn.size() == seen ? quiet + 1 : 0;
       return quiet > 20;
     }));
-    std::vector<Drawn> drawn;
-    for (size_t i = before; i < lines.size(); ++i) {
-      Drawn draw{};
-      std::istringstream line(lines[i]);
-      line >> draw.x >> draw.y;
-      std::getline(line.ignore(), draw.text);
-      drawn.push_back(draw);
-    }
+    drawn.erase(drawn.begin(), drawn.begin() + static_cast<std::ptrdiff_t>(std::min(before, drawn.size())));
     return drawn;
   }
 
   // The number above the last column.
   int ColumnsOf(const ProgramRun& program, HWND document) const {
     int columns = 0;
-    for (const Drawn& draw : ViewOf(program, document, SB_RIGHT)) {
+    for (const RecordedDraw& draw : ViewOf(program, document, SB_RIGHT)) {
       if (draw.text.size() <= 2) columns = std::max(columns, std::atoi(draw.text.c_str()));
     }
     return columns;
   }
 
   // The times of the first day, as far as they are in sight, from the left.
-  static std::vector<std::string> FirstRow(std::vector<Drawn> drawn) {
-    std::erase_if(drawn, [](const Drawn& draw) { return draw.text.size() != 5 || draw.text[2] != ':'; });
+  static std::vector<std::string> FirstRow(std::vector<RecordedDraw> drawn) {
+    std::erase_if(drawn, [](const RecordedDraw& draw) { return draw.text.size() != 5 || draw.text[2] != ':'; });
     if (drawn.empty()) return {};
-    const int top = std::ranges::min_element(drawn, {}, &Drawn::y)->y;
-    std::erase_if(drawn, [top](const Drawn& draw) { return draw.y != top; });
-    std::ranges::sort(drawn, {}, &Drawn::x);
-    const auto same = std::ranges::unique(drawn, {}, &Drawn::x);
+    const int top = std::ranges::min_element(drawn, {}, &RecordedDraw::y)->y;
+    std::erase_if(drawn, [top](const RecordedDraw& draw) { return draw.y != top; });
+    std::ranges::sort(drawn, {}, &RecordedDraw::x);
+    const auto same = std::ranges::unique(drawn, {}, &RecordedDraw::x);
     drawn.erase(same.begin(), same.end());
     std::vector<std::string> texts;
-    for (const Drawn& draw : drawn) texts.push_back(draw.text);
+    for (const RecordedDraw& draw : drawn) texts.push_back(draw.text);
     return texts;
-  }
-
-  std::vector<std::string> Lines() const {
-    std::vector<std::string> lines;
-    std::istringstream text(ReadFileText(settings_.path() / "drawn.txt"));
-    for (std::string line; std::getline(text, line);) lines.push_back(line);
-    return lines;
   }
 
   TemporaryFolder settings_;
@@ -103,7 +82,7 @@ TEST_F(ZmanimSelectionTest, PresetCountsForNewDocumentsAndAfterARestart) {
   {
     ProgramRun program(program_.path(), settings_.path());
     const HWND older = program.WaitForDocuments(1).at(0);
-    const std::vector<Drawn> olderBefore = ViewOf(program, older);
+    const std::vector<RecordedDraw> olderBefore = ViewOf(program, older);
     EXPECT_EQ(ColumnsOf(program, older), 25);
     ASSERT_GE(FirstRow(olderBefore).size(), 3u);
 
@@ -116,7 +95,7 @@ TEST_F(ZmanimSelectionTest, PresetCountsForNewDocumentsAndAfterARestart) {
     const HWND newer = program.WaitForDocuments(2).at(0);
     ASSERT_NE(newer, older);
 
-    const std::vector<Drawn> drawn = ViewOf(program, newer);
+    const std::vector<RecordedDraw> drawn = ViewOf(program, newer);
     EXPECT_EQ(ColumnsOf(program, newer), 19);
     newRow = FirstRow(drawn);
     std::vector<std::string> olderRow = FirstRow(olderBefore);
@@ -129,7 +108,7 @@ TEST_F(ZmanimSelectionTest, PresetCountsForNewDocumentsAndAfterARestart) {
   }
   ProgramRun program(program_.path(), settings_.path());
   const HWND document = program.WaitForDocuments(1).at(0);
-  const std::vector<Drawn> drawn = ViewOf(program, document);
+  const std::vector<RecordedDraw> drawn = ViewOf(program, document);
   EXPECT_EQ(FirstRow(drawn), newRow);
   EXPECT_EQ(ColumnsOf(program, document), 19);
 }
