@@ -6,8 +6,9 @@ constexpr std::size_t kBufferSize = 64 * 1024;
 
 }  // namespace
 
+// Shared with readers: one that happens to look into the older file must not keep it from being replaced.
 FileSink::FileSink(const char* path)
-    : file_(CreateFileA(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)),
+    : file_(CreateFileA(path, GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)),
       failed_(file_ == INVALID_HANDLE_VALUE) {}
 
 FileSink::~FileSink() {

@@ -17,7 +17,7 @@ HWND OpenRange(const ProgramRun& program, const std::string& start, const std::s
   const HWND dialog = program.WaitForDialog("Select Range");
   SetText(dialog, kRangeStart, start);
   SetText(dialog, kRangeEnd, end);
-  Click(dialog, IDOK);
+  Answer(dialog, IDOK);
   // The new one shows up before it comes to the top.
   const std::string range = " (" + start + " - " + end + ")";
   HWND document = nullptr;
@@ -30,15 +30,19 @@ HWND OpenRange(const ProgramRun& program, const std::string& start, const std::s
   return document;
 }
 
+void Answer(HWND box, int button) {
+  PostMessageA(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
+}
+
 void SaveAs(const ProgramRun& program, const std::filesystem::path& file) {
   const HWND dialog = program.WaitForDialog("Save As");
   ASSERT_NE(dialog, nullptr);
   SetText(dialog, kSaveDialogFileName, file.string());
-  Click(dialog, IDOK);
+  Answer(dialog, IDOK);
 }
 
 void CancelSaving(const ProgramRun& program) {
   const HWND dialog = program.WaitForDialog("Save As");
-  PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+  Answer(dialog, IDCANCEL);
   EXPECT_TRUE(program.Eventually([&] { return !IsWindow(dialog); }));
 }

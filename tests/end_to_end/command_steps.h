@@ -9,6 +9,10 @@
 // Opens a document for a range of dates ("5.1.2007"), the second one of a fresh run; its window.
 HWND OpenRange(const ProgramRun& program, const std::string& start, const std::string& end);
 
+// Answers a box or dialog with one of its buttons. A click on the button itself is lost where the box is not yet
+// active.
+void Answer(HWND box, int button);
+
 // Saves under a name in the save dialog that is open or about to open. The dialog closes, or asks whether to overwrite
 // a file that exists.
 void SaveAs(const ProgramRun& program, const std::filesystem::path& file);

@@ -115,7 +115,7 @@ TEST_F(CommandsTest, TimesAreExportedAsTextOverAnExistingFileToo) {
   WriteFileText(file, "an older file");
   program.PostCommand(1005);
   SaveAs(program, file);
-  Click(program.WaitForQuestion(), IDYES);
+  Answer(program.WaitForQuestion(), IDYES);
   EXPECT_TRUE(program.Eventually([&] { return ReadFileText(file) == kAachenText; }))
       << ReadFileText(file).substr(0, 500);
 }
@@ -157,7 +157,7 @@ TEST_F(CommandsTest, ACancelledExportWritesNothingAndAnImpossibleNameIsReported)
   ASSERT_NE(held, INVALID_HANDLE_VALUE);
   program.PostCommand(1005);
   SaveAs(program, file);
-  Click(program.WaitForQuestion(), IDYES);
+  Answer(program.WaitForQuestion(), IDYES);
   const HWND error = program.WaitForDialog("Error");
   EXPECT_THAT(TextOf(GetDlgItem(error, 0xFFFF)), HasSubstr("held.txt could not be written"));
   PostMessageA(error, WM_COMMAND, IDOK, 0);
@@ -320,7 +320,7 @@ TEST_F(CommandsTest, RenamingAndRemovingAPlaceLeaveNoTraceOfItInTheFiles) {
                       reinterpret_cast<LPARAM>(cottage.c_str()));
   SendMessageA(manager, WM_COMMAND, MAKEWPARAM(101, LBN_SELCHANGE), 0);
   Click(manager, 103);
-  Click(program.WaitForQuestion(), IDYES);
+  Answer(program.WaitForQuestion(), IDYES);
   for (const char* file : {"shabloc2.ini", "shabbat2.ini", "almanachlp2.ini", "almanachlpl2.ini"}) {
     EXPECT_TRUE(program.Eventually([&] { return Setting(file).find("Cottage") == std::string::npos; }))
         << file << " holds " << Setting(file);

@@ -89,10 +89,10 @@ class ExportsEndToEndTest : public testing::Test {
 
   // Clicks OK in the dialog of a delimited export and closes the word that follows.
   void ExpectInformation(HWND dialog, const std::string& file) {
-    Click(dialog, IDOK);
+    Answer(dialog, IDOK);
     const HWND box = program_->WaitForDialog("Information");
     EXPECT_EQ(TextOf(GetDlgItem(box, 0xFFFF)), "Information was written to file " + file);
-    Click(box, IDOK);
+    Answer(box, IDOK);
     EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(dialog); }));
   }
 
@@ -119,11 +119,11 @@ TEST_F(ExportsEndToEndTest, AnExistingFileIsReplacedOnlyAfterTheUserAgreed) {
     program_->PostCommand(row.command);
     SaveAs(*program_, File(row.file));
     const HWND question = program_->WaitForQuestion();
-    Click(question, IDNO);
+    Answer(question, IDNO);
     EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(question); }));
     EXPECT_EQ(Written(row.file), "an older file");
     SaveAs(*program_, File(row.file));
-    Click(program_->WaitForQuestion(), IDYES);
+    Answer(program_->WaitForQuestion(), IDYES);
     ExpectWritten(row);
   }
 }
@@ -146,7 +146,7 @@ TEST_F(ExportsEndToEndTest, AFileOfZmanimOrReadingsThatCannotBeWrittenLeavesNoWo
     Show(row.view);
     program_->PostCommand(row.command);
     SaveAs(*program_, file);
-    Click(program_->WaitForQuestion(), IDYES);
+    Answer(program_->WaitForQuestion(), IDYES);
     EXPECT_TRUE(program_->Eventually([&] { return !program_->HasDialog("Save As"); })) << row.file;
     program_->PostCommand(row.command);
     CancelSaving(*program_);
@@ -172,7 +172,7 @@ TEST_F(ExportsEndToEndTest, ZmanimForDatabases) {
   program_->PostCommand(kExportZmanim);
   const HWND dialog = program_->WaitForDialog("Export Zmanim");
   EXPECT_EQ(TextOf(GetDlgItem(dialog, kSeparator)), ";");
-  Click(dialog, kBrowse);
+  Answer(dialog, kBrowse);
   SaveAs(*program_, File("zmanim"));
   const std::string file = File("zmanim.txt").string();
   EXPECT_TRUE(program_->Eventually([&] { return TextOf(GetDlgItem(dialog, kFile)) == file; }))
@@ -226,21 +226,21 @@ TEST_F(ExportsEndToEndTest, ADialogThatLacksSomethingStaysOpen) {
                {kReadingsSeparator, ",", "Separator for multiple readings must not be blank"}};
   for (const auto& step : steps) SetText(dialog, step.field, "  ");
   for (const auto& step : steps) {
-    Click(dialog, IDOK);
+    Answer(dialog, IDOK);
     const HWND box = program_->WaitForDialog("Error");
     EXPECT_EQ(TextOf(GetDlgItem(box, 0xFFFF)), step.complaint);
-    Click(box, IDOK);
+    Answer(box, IDOK);
     EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(box) && IsWindowEnabled(dialog); }));
     SetText(dialog, step.field, step.text);
   }
-  PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+  Answer(dialog, IDCANCEL);
   EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(dialog); }));
 }
 
 TEST_F(ExportsEndToEndTest, ShabbatTimesInOneRow) {
   Show(kViewShabbatTimes);
   program_->PostCommand(kExportRtf);
-  Click(program_->WaitForDialog("Export to RTF Options"), IDOK);
+  Answer(program_->WaitForDialog("Export to RTF Options"), IDOK);
   SaveAs(*program_, File("times.rtf"));
   const std::string expected =
       "{\\rtf1\\ansi\r\n\\b Times / Readings of Aachen\\plain\\par\r\n\\par\r\n\\cellx2880\\cellx5760\\cellx8640\r\n"

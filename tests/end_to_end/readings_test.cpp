@@ -100,7 +100,7 @@ TEST_F(ReadingsEndToEndTest, AnotherLanguageOpensAnotherDocument) {
   run_->PostCommand(kReadingsLanguage);
   const HWND dialog = run_->WaitForDialog("Language of Readings");
   SendDlgItemMessageA(dialog, kLanguages, LB_SETCURSEL, 2, 0);  // English, English in Ashkenazi spelling, Hebrew
-  Click(dialog, IDOK);
+  Answer(dialog, IDOK);
   ASSERT_EQ(run_->WaitForDocuments(3).size(), 3u);
   EXPECT_THAT(ReadFileText(settings_.path() / "lections.ini"), HasSubstr("Language=4"));
   Send(kViewReadings);

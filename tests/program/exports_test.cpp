@@ -156,6 +156,17 @@ TEST_F(ExportsTest, AFileThatCannotBeWrittenLeavesNoWord) {
   EXPECT_EQ(System().locks, 0);
 }
 
+TEST_F(ExportsTest, AFileThatAnotherProgramReadsIsReplaced) {
+  Command(IDM_VIEW_READINGS);
+  const fs::path file = folder_ / "readings.txt";
+  std::ofstream(file) << "an older file";
+  const HANDLE reader = CreateFileA(file.string().c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(reader, INVALID_HANDLE_VALUE);
+  EXPECT_THAT(Exported(IDM_EXPORT_TEXT, "readings.txt"), StartsWith("Date        Parashioth"));
+  CloseHandle(reader);
+}
+
 TEST_F(ExportsTest, WithoutADocumentNothingIsExported) {
   Command(IDM_WINDOW_CLOSE_ALL);
   CallLog().clear();
