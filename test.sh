@@ -14,7 +14,7 @@ cd "$(dirname "$0")"
 . tools/packages.sh
 
 # shellcheck disable=SC2086
-tools/install_packages $build_packages $test_packages $wine_packages
+tools/install_packages $build_packages $test_packages $printing_packages $wine_packages
 
 echo "Building and testing natively ..."
 cmake --preset native >/dev/null

@@ -5,3 +5,7 @@
 HWND ActiveDocument() {
   return reinterpret_cast<HWND>(SendMessageA(Program.mdiClient, WM_MDIGETACTIVE, 0, 0));
 }
+
+bool IsPaneVisible(HWND document, int pane) {
+  return IsWindowVisible(GetDlgItem(document, pane)) != FALSE;
+}

@@ -4,3 +4,6 @@
 
 // The active document window, or null.
 HWND ActiveDocument();
+
+// Whether one of the document's panes (IDC_..._PANE) is shown.
+bool IsPaneVisible(HWND document, int pane);

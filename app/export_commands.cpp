@@ -56,10 +56,6 @@ void ExportShabbatTimes(HWND frame, ExportFormat format, Writer write) {
   if (!written) ShowUnwritableFile(frame, *file);
 }
 
-bool IsPaneVisible(HWND document, int pane) {
-  return IsWindowVisible(GetDlgItem(document, pane)) != FALSE;
-}
-
 void ExportShabbatRtf(HWND frame, RtfLayout layout) {
   ExportShabbatTimes(frame, ExportFormat::kRtf,
                      [layout](TextSink& sink, const ShabbatExport& data) { WriteShabbatRtf(sink, data, layout); });

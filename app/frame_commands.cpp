@@ -22,6 +22,7 @@
 #include "locations/location_manager.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
+#include "zmanim/print_zmanim.h"
 #include "zmanim/zmanim_count.h"
 #include "zmanim/zmanim_panes.h"
 
@@ -124,6 +125,12 @@ void ChangeFormOfTimes(HWND frame) {
   if (StampConfigure(frame)) RedrawEverything(frame);
 }
 
+// Of the three views, only the zmanim are printed.
+void Print(HWND frame) {
+  const HWND document = ActiveDocument();
+  if (document && IsPaneVisible(document, IDC_ZMANIM_PANE)) PrintZmanim(frame, document);
+}
+
 void ShowHelp(HWND frame) {
   GuideGo(frame, "Start");
 }
@@ -162,6 +169,8 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_SUNSET_OF_A_DAY, ShowSunsetOfADay},
     {IDM_EXPORT_TEXT, ExportText},
     {IDM_EXPORT_RTF, ExportRtf},
+    {IDM_PRINT, Print},
+    {IDM_PRINTER_SETUP, PrinterSetup},
     {IDM_EXIT, Exit},
     {IDM_ZMANIM_SELECTION, SelectZmanim},
     {IDM_READINGS_CONFIGURE, ChangeReadings<LectionsDoConfigureDialog>},

@@ -19,10 +19,6 @@ void Check(HMENU menu, unsigned id, bool checked) {
   CheckMenuItem(menu, id, MF_BYCOMMAND | (checked ? MF_CHECKED : MF_UNCHECKED));
 }
 
-bool IsPaneVisible(HWND document, int pane) {
-  return IsWindowVisible(GetDlgItem(document, pane)) != FALSE;
-}
-
 void UpdateDocumentCommands(HMENU menu, HWND document) {
   for (const unsigned id : {IDM_SUNSET_OF_A_DAY, IDM_EXPORT_TEXT, IDM_EXPORT_UNUSED, IDM_EXPORT_RTF, IDM_EXPORT_ZMANIM,
                             IDM_EXPORT_DATES, IDM_VIEW_SHABBAT_TIMES, IDM_VIEW_ZMANIM, IDM_VIEW_READINGS,
@@ -31,8 +27,7 @@ void UpdateDocumentCommands(HMENU menu, HWND document) {
   }
   Enable(menu, IDM_EXPORT_RTF_BY_DAY, document && IsPaneVisible(document, IDC_ZMANIM_PANE));
   Enable(menu, IDM_EXPORT_RTF_NARROW, document && IsPaneVisible(document, IDC_READINGS_PANE));
-  if (!document) return;
-  Enable(menu, IDM_PRINT, !IsPaneVisible(document, IDC_LIST_PANE) && !IsPaneVisible(document, IDC_READINGS_PANE));
+  Enable(menu, IDM_PRINT, document && IsPaneVisible(document, IDC_ZMANIM_PANE));
 }
 
 void UpdateViewMarks(HMENU menu, HWND document) {

@@ -5,7 +5,7 @@
 #include <windows.h>
 
 struct PrintAbortState {
-  HWND owner;    // the window whose input it holds: a document, which the system does not count as a dialog's parent
+  HWND owner;    // the window whose input it holds; the system counts only a top-level one as a dialog's parent
   HWND dialog;   // while it exists
   bool aborted;  // the user cancelled, or the job failed to start
 };

@@ -12,8 +12,12 @@ constexpr int kPointsPerInch = 72;
 
 HFONT MakeFont(const char* face, int points, int weight) {
   const ScopedWindowDc display(nullptr);
+  return MakeFontAt(GetDeviceCaps(display.dc(), LOGPIXELSY), face, points, weight);
+}
+
+HFONT MakeFontAt(int dotsPerInch, const char* face, int points, int weight) {
   LOGFONTA font{};
-  font.lfHeight = -(points * GetDeviceCaps(display.dc(), LOGPIXELSY) / kPointsPerInch);
+  font.lfHeight = -(points * dotsPerInch / kPointsPerInch);
   font.lfWeight = weight;
   std::strncpy(font.lfFaceName, face, LF_FACESIZE - 1);
   return CreateFontIndirectA(&font);

@@ -1,14 +1,10 @@
 #include "zmanim/export_zmanim.h"
 
-#include "app/string_table.h"
-#include "companion/glyphs.h"
-#include "companion/stamp.h"
 #include "document/properties.h"
-#include "resources/ids.h"
 #include "win/file_sink.h"
 #include "win/scoped.h"
 #include "zmanim/core/zmanim_export.h"
-#include "zmanim/zmanim_names.h"
+#include "zmanim/zmanim_export_data.h"
 
 namespace {
 
@@ -18,31 +14,14 @@ constexpr std::size_t kTextWidth = 70;
 std::string lastTextFile;
 std::string lastRtfFile;
 
-std::string HebrewFontName() {
-  char name[LF_FACESIZE] = "";
-  GlyphsGetHebrewFontName(name);
-  return name;
-}
-
 // Has a file written from the document's block, which nothing replaces meanwhile. write is called with a sink and the
 // data.
 template <typename Writer>
 void WriteFile(HWND document, const std::string& file, Writer write) {
   const ScopedWaitCursor wait;
-  const ZmanimInUse inUse = GetZmanimInUse();
+  ZmanimExport data = DescribeZmanim(document);
   const ScopedGlobalLock<const ZmanimBlock> block(GetBlockProperty(document, property::kZmanimTimes));
-  const ScopedGlobalLock<const char> city(GetBlockProperty(document, property::kCity));
-  const ZmanimExport data{.location = city ? city.get() : "",
-                          .dateTitle = TableString(IDS_DATE),
-                          .names = ZmanNames(inUse),
-                          .hebrew = LegendIsHebrew(inUse),
-                          .hebrewNames = HebrewZmanNames(inUse.count),
-                          .hebrewFont = HebrewFontName(),
-                          .vilnaGaon = TableString(IDS_VILNA_GAON),
-                          .magenAvraham = TableString(IDS_MAGEN_AVRAHAM),
-                          .days = block ? std::span(block->days, block->count) : std::span<const ZmanimDay>(),
-                          .formatTime = StampConvert,
-                          .amPm = StampIsAmPm() != 0};
+  if (block) data.days = std::span(block->days, block->count);
   FileSink sink(file.c_str());
   write(sink, data);
 }

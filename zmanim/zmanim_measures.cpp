@@ -9,9 +9,6 @@
 
 namespace {
 
-// As wide as any date of ten characters.
-constexpr char kWidestDate[] = "XX.XX.XXXX";
-
 int DateWidth(HDC dc, HFONT font) {
   const ScopedSelect selected(dc, font);
   SIZE size{};

@@ -7,10 +7,13 @@ namespace guide {
 namespace {
 
 constexpr Topic kTopics[] = {
-    {"Start", "index.html"},     {"Shabbat times", "shabbat_times.html"},
-    {"Places", "places.html"},   {"Accuracy", "accuracy.html"},
-    {"Zmanim", "zmanim.html"},   {"Readings", "readings.html"},
-    {"Exports", "exports.html"},
+    {"Start", "index.html"},
+    {"Shabbat times", "shabbat_times.html"},
+    {"Places", "places.html"},
+    {"Accuracy", "accuracy.html"},
+    {"Zmanim", "zmanim.html"},
+    {"Readings", "readings.html"},
+    {"Exports and printing", "exports.html"},
 };
 
 char LowerCase(char c) {

@@ -106,8 +106,8 @@ TEST_F(GuideContract, OpensTheTopicsPageBesideTheLibrary) {
   for (const auto& [topic, page] :
        {Expected{"Start", "index.html"}, Expected{"", "index.html"}, Expected{"Shabbat times", "shabbat_times.html"},
         Expected{"PLACES", "places.html"}, Expected{"accuracy", "accuracy.html"}, Expected{"Zmanim", "zmanim.html"},
-        Expected{"Readings", "readings.html"}, Expected{"no such topic", "index.html"},
-        Expected{nullptr, "index.html"}}) {
+        Expected{"Readings", "readings.html"}, Expected{"Exports and printing", "exports.html"},
+        Expected{"no such topic", "index.html"}, Expected{nullptr, "index.html"}}) {
     opened.count = 0;
     GuideGo(nullptr, topic);
     EXPECT_EQ(opened.count, 1);

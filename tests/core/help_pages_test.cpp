@@ -46,7 +46,7 @@ TEST(HelpTopics, AreFoundWhateverTheirCase) {
   EXPECT_EQ(guide::TopicNamed("Shabbat times").page, "shabbat_times.html");
   EXPECT_EQ(guide::TopicNamed("ZMANIM").page, "zmanim.html");
   EXPECT_EQ(guide::TopicNamed("readings").page, "readings.html");
-  EXPECT_EQ(guide::TopicNamed("exports").page, "exports.html");
+  EXPECT_EQ(guide::TopicNamed("exports and Printing").page, "exports.html");
   EXPECT_EQ(guide::TopicNamed("accuracy").page, "accuracy.html");
   EXPECT_EQ(guide::TopicNamed("Places").page, "places.html");
   EXPECT_EQ(guide::TopicNamed("start").page, "index.html");

@@ -334,7 +334,8 @@ void KinshipDone(void) {
 }
 
 BOOL GlyphsTextOut(HDC dc, int x, int y, const char* text, int count) {
-  Libraries().draws.push_back({x, y, std::string(text, static_cast<std::size_t>(count)), FontOf(dc)});
+  auto& draws = GetObjectType(dc) == OBJ_MEMDC ? Libraries().printedDraws : Libraries().draws;
+  draws.push_back({x, y, std::string(text, static_cast<std::size_t>(count)), FontOf(dc)});
   return TRUE;
 }
 

@@ -99,7 +99,8 @@ struct LibraryScript {
   std::string pickedLocation;
 
   // glyphs
-  std::vector<Draw> draws;
+  std::vector<Draw> draws;         // on windows
+  std::vector<Draw> printedDraws;  // on the doubled printer, a device context of memory
   std::vector<BrokenText> brokenTexts;
   RECT lastClip{};         // of the last clipped draw
   RECT lastPaintedArea{};  // what could be painted at it

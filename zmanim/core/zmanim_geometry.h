@@ -21,6 +21,9 @@ struct IndexRange {
   bool operator==(const IndexRange&) const = default;
 };
 
+// As wide as any date of ten characters.
+inline constexpr char kWidestDate[] = "XX.XX.XXXX";
+
 // Columns beside the dates, by the form of times.
 inline constexpr int kColumnsOf24HourTimes = 16;
 inline constexpr int kColumnsOf12HourTimes = 10;
