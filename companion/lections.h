@@ -28,8 +28,8 @@ typedef struct LectionsFont {
   uint32_t CharSet; /* Windows charset number; 0: none given */
 } LectionsFont;
 
-/* The readings of a Jewish date (months from Nisan = 1, Adar (I) = 12, Adar II = 13). The record is filled whole; a date
- * that does not exist has no readings. */
+/* The readings of a Jewish date (months from Nisan = 1, Adar (I) = 12, Adar II = 13). The record is filled whole; a
+ * date that does not exist has no readings. */
 void LectionsGetReadings(uint32_t day, uint32_t month, uint32_t year, LectionsReadings* readings);
 
 /* The code of the language of the texts (1 English, 2 English in Ashkenazi spelling, 4 Hebrew). */

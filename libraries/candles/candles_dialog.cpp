@@ -9,9 +9,9 @@
 
 #include "libraries/candles/candles_file.h"
 #include "libraries/candles/candles_ids.h"
-#include "libraries/dialogs/dialog_parts.h"
 #include "libraries/candles/entry_dialog.h"
 #include "libraries/candles/field_texts.h"
+#include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/windows_1252.h"
 
 namespace candles {

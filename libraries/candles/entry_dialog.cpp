@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "libraries/candles/candles_ids.h"
-#include "libraries/dialogs/dialog_parts.h"
 #include "libraries/candles/field_texts.h"
 #include "libraries/candles/offered_places.h"
+#include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/windows_1252.h"
 
 namespace candles {

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "companion/profile.h"
-#include "libraries/placepick/picker_ids.h"
 #include "libraries/dialogs/resizable_dialog.h"
+#include "libraries/placepick/picker_ids.h"
 #include "libraries/settings_folder/settings_folder_win.h"
 
 namespace placepick {
