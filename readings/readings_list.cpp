@@ -66,6 +66,7 @@ void BuildReadingsList(HWND document, uint32_t startDay, uint32_t startMonth, ui
   const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, ReadingsBlockSize(count));
   {
     const ScopedGlobalLock<ReadingsList> list(block);
+    if (!list) return;
     const uint32_t language = LectionsGetLanguage();
     list->count = count;
     uint32_t filled = 0;

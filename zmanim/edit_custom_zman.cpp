@@ -20,6 +20,16 @@ namespace {
 constexpr char kOnlyOwnSelection[] =
     "Times of your own can be set for the zmanim of your selection only, not for the built-in zmanim.";
 
+constexpr char kNoTimeOfDay[] =
+    "The time could not be stored, because it is no time of the day.\nPlease type an hour from 0 to 23 and a minute "
+    "from "
+    "0 to 59.";
+
+// The dialog lets numbers through that are negative when their sign counts.
+bool IsTimeOfDay(ClockTime time) {
+  return time.hour >= 0 && time.hour < kHoursPerDay && time.minute >= 0 && time.minute < kMinutesPerHour;
+}
+
 void ShowUnstored(HWND document, const CalendarDate& date, const std::string& description, const std::string& place,
                   ClockTime time) {
   const std::string day =
@@ -54,6 +64,10 @@ bool EditCustomZman(HWND document, const ZmanimCell& cell) {
   const std::string description = LibraryZmanName(cell.zman);
   const std::optional<ClockTime> typed = EditZmanDialog(document, date, description, current);
   if (!typed) return false;
+  if (!IsTimeOfDay(*typed)) {
+    ShowStop(document, kNoTimeOfDay, "Error");
+    return false;
+  }
   const std::string place = DocumentPlace(document);
   if (!SetCustomZman(date, cell.zman, place.c_str(), *typed)) {
     ShowUnstored(document, date, description, place, *typed);

@@ -241,6 +241,7 @@ INT_PTR CALLBACK CandlesDialogProc(HWND dialog, UINT message, WPARAM wParam, LPA
   switch (message) {
     case WM_INITDIALOG: return OnOpen(dialog, *reinterpret_cast<ListState*>(lParam));
     case WM_COMMAND: return OnCommand(dialog, LOWORD(wParam));
+    case WM_HELP: return dialogs::PassHelpOn(dialog, lParam);
     case WM_NOTIFY: return OnNotify(dialog, reinterpret_cast<const NMHDR*>(lParam));
   }
   return FALSE;

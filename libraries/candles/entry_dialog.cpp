@@ -146,6 +146,7 @@ INT_PTR OnCommand(HWND dialog, int commandId) {
 INT_PTR CALLBACK EntryDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) try {
   switch (message) {
     case WM_INITDIALOG: return OnOpen(dialog, *reinterpret_cast<EntryForm*>(lParam));
+    case WM_HELP: return dialogs::PassHelpOn(dialog, lParam);
     case WM_COMMAND: return OnCommand(dialog, LOWORD(wParam));
   }
   return FALSE;

@@ -81,6 +81,21 @@ class UniqueTexts {
   std::unordered_set<std::string> taken_;
 };
 
+// A name in Latin letters as the Hebrew display font can show it: in windows-1252 the accented letters have the codes
+// of Hebrew ones.
+std::string WithoutAccents(std::string text) {
+  constexpr char kBaseLetters[] =
+      "AAAAAAACEEEEIIIIDNOOOOOxOUUUUYPs"
+      "aaaaaaaceeeeiiiidnooooo/ouuuuypy";
+  constexpr unsigned kFirstLetter = 0xC0;
+  static_assert(sizeof kBaseLetters == 0x100 - kFirstLetter + 1);
+  for (char& c : text) {
+    const unsigned code = static_cast<unsigned char>(c);
+    if (code >= kFirstLetter) c = kBaseLetters[code - kFirstLetter];
+  }
+  return text;
+}
+
 }  // namespace
 
 Choice ReadChoice(std::string_view text) {
@@ -137,9 +152,10 @@ std::vector<OfferedZman> OfferedZmanim(const Choice& choice) {
                         hebrew.Take(EightBitFromUtf8(zman.hebrew)), zman.definition}});
   }
   for (const OwnZman& own : choice.own) {
-    offered.push_back({OwnId(own.number),
-                       {descriptions.Take(own.description),
-                        hebrew.Take(own.hebrew.empty() ? own.description : own.hebrew), DefinitionOf(own)}});
+    offered.push_back(
+        {OwnId(own.number),
+         {descriptions.Take(own.description),
+          hebrew.Take(own.hebrew.empty() ? WithoutAccents(own.description) : own.hebrew), DefinitionOf(own)}});
   }
   return offered;
 }

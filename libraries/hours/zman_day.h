@@ -41,11 +41,6 @@ class ZmanDay {
   // The morning's bound or the evening's.
   enum class End : uint8_t { kStart, kEnd };
 
-  struct Crossing {
-    int32_t thousandthDegrees;
-    End end;
-  };
-
   std::optional<double> At(const Bound& bound, End end);
   std::optional<double> At(const Reckoning& reckoning);
   std::optional<double> AtDepression(int32_t thousandthDegrees, End end);

@@ -1,6 +1,7 @@
 #include "libraries/lections/configure_dialog.h"
 
-#include "libraries/lections/dialog_parts.h"
+#include "libraries/dialogs/dialog_parts.h"
+#include "libraries/lections/accept_settings.h"
 #include "libraries/lections/lections_ids.h"
 #include "libraries/lections/settings_store.h"
 
@@ -68,20 +69,21 @@ INT_PTR OnCommand(HWND dialog, int commandId) {
   return FALSE;
 }
 
-INT_PTR CALLBACK ConfigureDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) try {
+INT_PTR CALLBACK ConfigureDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) try {
   switch (message) {
     case WM_INITDIALOG: return OnOpen(dialog);
+    case WM_HELP: return dialogs::PassHelpOn(dialog, lParam);
     case WM_COMMAND: return OnCommand(dialog, LOWORD(wParam));
   }
   return FALSE;
 } catch (...) {
-  return OnException(dialog, message);
+  return dialogs::OnException(dialog, message);
 }
 
 }  // namespace
 
 bool DoConfigureDialog(HWND owner) {
-  return RunDialog(owner, IDD_CONFIGURE, ConfigureDialogProc);
+  return dialogs::RunDialog(owner, IDD_CONFIGURE, ConfigureDialogProc, nullptr) == IDOK;
 }
 
 }  // namespace lections

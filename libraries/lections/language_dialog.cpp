@@ -1,6 +1,7 @@
 #include "libraries/lections/language_dialog.h"
 
-#include "libraries/lections/dialog_parts.h"
+#include "libraries/dialogs/dialog_parts.h"
+#include "libraries/lections/accept_settings.h"
 #include "libraries/lections/language.h"
 #include "libraries/lections/lections_ids.h"
 #include "libraries/lections/settings_store.h"
@@ -36,20 +37,21 @@ INT_PTR OnCommand(HWND dialog, int commandId, int notification) {
   return FALSE;
 }
 
-INT_PTR CALLBACK LanguageDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) try {
+INT_PTR CALLBACK LanguageDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) try {
   switch (message) {
     case WM_INITDIALOG: return OnOpen(dialog);
+    case WM_HELP: return dialogs::PassHelpOn(dialog, lParam);
     case WM_COMMAND: return OnCommand(dialog, LOWORD(wParam), HIWORD(wParam));
   }
   return FALSE;
 } catch (...) {
-  return OnException(dialog, message);
+  return dialogs::OnException(dialog, message);
 }
 
 }  // namespace
 
 bool DoLanguageDialog(HWND owner) {
-  return RunDialog(owner, IDD_LANGUAGE, LanguageDialogProc);
+  return dialogs::RunDialog(owner, IDD_LANGUAGE, LanguageDialogProc, nullptr) == IDOK;
 }
 
 }  // namespace lections

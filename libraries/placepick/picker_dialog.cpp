@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "companion/profile.h"
+#include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/resizable_dialog.h"
 #include "libraries/placepick/picker_ids.h"
 #include "libraries/settings_folder/settings_folder_win.h"
@@ -168,6 +169,7 @@ INT_PTR PickerDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETMINMAXINFO: size_.LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam)); return TRUE;
     case WM_EXITSIZEMOVE: size_.KeepSize(); return TRUE;
     case WM_COMMAND: return OnCommand(LOWORD(wParam), HIWORD(wParam));
+    case WM_HELP: return dialogs::PassHelpOn(dialog_, lParam);
     case WM_NOTIFY: return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
   }
   return FALSE;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "libraries/dialogs/dialog_parts.h"
 #include "libraries/stamp/form_setting.h"
 #include "libraries/stamp/stamp_core.h"
 #include "libraries/stamp/stamp_ids.h"
@@ -16,13 +17,6 @@ struct ChoiceButton {
 
 // The first is also checked for a choice that is none of these. Their ids follow each other.
 constexpr ChoiceButton kButtons[] = {{IDC_AS_IN_WINDOWS, nullptr}, {IDC_24_HOURS, "24"}, {IDC_12_HOURS, "12"}};
-
-HINSTANCE ThisLibrary() {
-  HMODULE library = nullptr;
-  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                     reinterpret_cast<LPCWSTR>(&ThisLibrary), &library);
-  return library;
-}
 
 const ChoiceButton& Checked(HWND dialog) {
   for (const ChoiceButton& button : kButtons) {
@@ -57,7 +51,7 @@ INT_PTR OnAccept(HWND dialog) {
   const std::wstring text = L"The form of times could not be saved in the file\n" + SettingPath() +
                             L"\n\nSee to it that it can be written (no other program holds it, it is not read-only, "
                             L"the disk is not full), then choose OK again.";
-  MessageBoxW(dialog, text.c_str(), L"Error", MB_OK | MB_ICONSTOP);
+  dialogs::ShowError(dialog, text);
   return TRUE;
 }
 
@@ -72,27 +66,21 @@ INT_PTR OnCommand(HWND dialog, int commandId) {
   return FALSE;
 }
 
-// An exception can only be want of memory: a dialog that is being opened closes, an open one stays and sounds.
-INT_PTR OnException(HWND dialog, UINT message) {
-  if (message == WM_INITDIALOG) return EndDialog(dialog, IDCANCEL);
-  MessageBeep(MB_ICONSTOP);
-  return TRUE;
-}
-
-INT_PTR CALLBACK FormDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) try {
+INT_PTR CALLBACK FormDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) try {
   switch (message) {
     case WM_INITDIALOG: return OnOpen(dialog);
     case WM_COMMAND: return OnCommand(dialog, LOWORD(wParam));
+    case WM_HELP: return dialogs::PassHelpOn(dialog, lParam);
   }
   return FALSE;
 } catch (...) {
-  return OnException(dialog, message);
+  return dialogs::OnException(dialog, message);
 }
 
 }  // namespace
 
 bool DoFormDialog(HWND owner) {
-  return DialogBoxParamW(ThisLibrary(), MAKEINTRESOURCEW(IDD_FORM), owner, FormDialogProc, 0) == IDOK;
+  return dialogs::RunDialog(owner, IDD_FORM, FormDialogProc, nullptr) == IDOK;
 }
 
 }  // namespace stamp

@@ -49,10 +49,10 @@ TEST_F(CandlesContract, ChangedStoreIsSeen) {
   home_.Put("candles.txt", "2024-03-08 17:25 18:31 a\n");
   EXPECT_EQ(Ask("a", 8, 3, 2024), (Answer{1, 17, 25, 18, 31}));
   home_.Put("candles.txt", "2024-03-08 07:25 08:31 a\n\n");
-  Sleep(50);
+  WaitUntilSeen();
   EXPECT_EQ(Ask("a", 8, 3, 2024), (Answer{1, 7, 25, 8, 31}));
   std::filesystem::remove(home_.Path("candles.txt"));
-  Sleep(50);
+  WaitUntilSeen();
   EXPECT_EQ(Ask("a", 8, 3, 2024), kNone);
 }
 

@@ -72,10 +72,10 @@ std::string Hebrew(uint32_t index) {
 class HoursContract : public testing::Test {
  protected:
   // The library may be 50 ms behind another settings folder or file.
-  HoursContract() { Sleep(50); }
+  HoursContract() { WaitUntilSeen(); }
   void Choose(const std::string& text) {
     home_.Put("hours.txt", text);
-    Sleep(50);
+    WaitUntilSeen();
   }
 
   SettingsHome home_;
@@ -141,7 +141,7 @@ TEST_F(HoursContract, AChangeOfTheChoiceIsSeen) {
   Choose("zman sunset\nzman sunrise\n");
   EXPECT_EQ(HoursGetCount(), 2u);
   std::filesystem::remove(home_.Path("hours.txt"));
-  Sleep(50);
+  WaitUntilSeen();
   EXPECT_EQ(HoursGetCount(), 25u);
 }
 

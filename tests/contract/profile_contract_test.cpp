@@ -9,7 +9,7 @@ namespace {
 using std::string_literals::operator""s;
 
 // The header's promise: how long another program's write may go unseen.
-constexpr DWORD kOthersSeenAfterMilliseconds = 50;
+constexpr DWORD kOthersSeenAfterMilliseconds = 50 + 16;
 
 std::string Text(const char* section, const char* key, const char* file, const char* defaultValue = "(default)") {
   char buffer[256];

@@ -17,6 +17,12 @@ inline void SetHome(const wchar_t* folder) {
   while (GetTickCount() == tick) Sleep(1);
 }
 
+// Waits until the libraries look at the settings files again: 50 ms and a tick of the clock after they last did.
+inline void WaitUntilSeen() {
+  const ULONGLONG end = GetTickCount64() + 50 + 16;
+  while (GetTickCount64() <= end) Sleep(1);
+}
+
 // While it lives, TIMES_READINGS_HOME names a folder that nobody has used before and that does not exist yet.
 class SettingsHome {
  public:

@@ -179,6 +179,15 @@ TEST(HoursChoice, DescriptionsStayUniqueWhateverUsersCallTheirs) {
   EXPECT_EQ(offered[first + 2].zman.hebrew, "Shkia (2)");  // no Hebrew given: the description serves
 }
 
+// In windows-1252, e with an acute accent has the code of yod and u with a diaeresis lies behind tav.
+TEST(HoursChoice, AccentsAreLeftOutWhereADescriptionServesForTheHebrewName) {
+  Choice choice;
+  AddOwn(choice, Own("hours-gra", 3000, "Caf\xE9 M\xFCnchen"));
+  const auto offered = OfferedZmanim(choice);
+  EXPECT_EQ(offered.back().zman.description, "Caf\xE9 M\xFCnchen");
+  EXPECT_EQ(offered.back().zman.hebrew, "Cafe Munchen");
+}
+
 TEST(HoursOwnForms, HaveUniqueWordsAndTakeTheirLimits) {
   std::set<std::string> words;
   for (const OwnForm& form : OwnForms()) {

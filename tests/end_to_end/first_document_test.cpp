@@ -112,8 +112,8 @@ TEST_F(FirstDocumentTest, ListsEveryFridayWithTheTimesOfTheSolarLibrary) {
   const auto clock = [&](sys_days date, int minutes) {
     const year_month_day day(date);
     int32_t hour = 0, minute = 0;
-    sunsetOf(unsigned(day.day()), unsigned(day.month()), static_cast<uint32_t>(int(day.year())), SOLAR_SUNSET, 5046,
-             606, 1, 0, &hour, &minute);
+    sunsetOf(unsigned(day.day()), unsigned(day.month()), static_cast<uint32_t>(int(day.year())), SOLAR_SUNSET, 5047,
+             605, 1, 0, &hour, &minute);
     char text[16];
     const int total = hour * 60 + minute + minutes;
     std::snprintf(text, sizeof text, "%02d:%02d", total / 60, total % 60);

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "tests/end_to_end/program_driver.h"
 
 using testing::HasSubstr;
@@ -44,8 +46,21 @@ TEST_F(KeyboardTest, TheHelpKeyAsksForHelpInTheFrameAndInADialog) {
     EXPECT_TRUE(program.Eventually([&] { return !IsWindow(box); }));
   };
   expectHelp(program.WaitForTopLevel("ShabbatMain"));
-  program.PostCommand(1003);
-  expectHelp(program.WaitForDialog("Shabbat Time Preferences"));
+  // A dialog of the program's own, and one of each library that has any.
+  const std::pair<unsigned, const char*> dialogs[] = {{1003, "Shabbat Time Preferences"},
+                                                      {1001, "Select Location"},
+                                                      {1011, "Readings"},
+                                                      {1015, "Language of Readings"},
+                                                      {1014, "Zmanim Selection"},
+                                                      {1016, "Custom Candle-Lighting Times"},
+                                                      {1017, "Form of Times"}};
+  for (const auto& [command, title] : dialogs) {
+    program.PostCommand(command);
+    const HWND dialog = program.WaitForDialog(title);
+    expectHelp(dialog);
+    PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_TRUE(program.Eventually([&] { return !IsWindow(dialog); })) << title;
+  }
 }
 
 TEST_F(KeyboardTest, AMenuCommandIsReachedByItsLettersAndEscapeLeavesItsDialog) {

@@ -206,13 +206,19 @@ TEST_F(ZmanimTest, ATimeSetByHandHoldsForItsPlaceOnly) {
   SetText(dialog, 103, "3");
   SetText(dialog, 104, "33");
   Click(dialog, IDOK);
-  EXPECT_TRUE(run_->Eventually([&] { return Table()[date].times.at(0) == "03:33"; }));
+  EXPECT_TRUE(run_->Eventually([&] {
+    const auto table = Table();
+    return table.count(date) && !table.at(date).times.empty() && table.at(date).times[0] == "03:33";
+  }));
 
   Set("almanac13.ini", "[Preferences]\r\nDefaultLocation=Jerusalem\r\n");
   document = Start();
   ASSERT_NE(document, nullptr);
   const Libraries libraries(document);
-  EXPECT_EQ(Table()[date].times.at(0), libraries.Zman(date, 0));
+  EXPECT_TRUE(run_->Eventually([&] {
+    const auto table = Table();
+    return table.count(date) && !table.at(date).times.empty() && table.at(date).times[0] == libraries.Zman(date, 0);
+  }));
 }
 
 TEST_F(ZmanimTest, ATimeThatCannotBeStoredIsReportedAndNotShown) {

@@ -117,7 +117,7 @@ TEST_F(CustomZmanTest, AStoreThatCannotBeWrittenIsReportedAndTheTableKeepsTheCom
 
 TEST_F(CustomZmanTest, ATimeThatTheStoreRefusesIsReportedToo) {
   EditCell({1, 3}, "4294967295", "0");  // passes the dialog as -1
-  EXPECT_THAT(CallsWith("message box"), ElementsAre(HasSubstr("could not be stored")));
+  EXPECT_THAT(CallsWith("message box"), ElementsAre(HasSubstr("it is no time of the day")));
   EXPECT_EQ(TimeInBlock({1, 3}), (ClockTime{6, 30}));
 }
 
