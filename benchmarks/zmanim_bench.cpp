@@ -6,18 +6,18 @@
 #include <string>
 
 #include "app/active_document.h"
-#include "app/bound_entries.h"
 #include "app/frame_window.h"
 #include "app/program.h"
 #include "app/window_classes.h"
 #include "benchmarks/measured.h"
-#include "document/properties.h"
+#include "engine/bound_entries.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "win/scoped.h"
 #include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/zmanim_block.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 namespace {
 
@@ -75,7 +75,6 @@ bool ChooseZmanim(const SettingsHome& home, uint32_t count) {
   }
   home.Put("hours.txt", text);
   for (int i = 0; i < 100; ++i) {
-    RefreshZmanimCount();
     if (GetZmanimCount() == count) return true;
     Sleep(10);
   }

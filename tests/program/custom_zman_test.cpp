@@ -1,7 +1,7 @@
 // A click on a time of the table, the dialog that it opens, and what becomes of the time typed there.
 #include "app/active_document.h"
-#include "document/properties.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/program_fixture.h"
@@ -9,7 +9,7 @@
 #include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/zmanim_block.h"
 #include "zmanim/edit_zman_dialog.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 #include "zmanim/zmanim_measures.h"
 
 using testing::ElementsAre;
@@ -25,7 +25,6 @@ class CustomZmanTest : public ProgramTest {
     ProgramTest::SetUp();
     Libraries().settings["shabbat2.ini|Locations|Aachen"] = "";
     Libraries().zmanimCount = 40;
-    RefreshZmanimCount();
     OpenFrame();
     document_ = ActiveDocument();
     ASSERT_NE(document_, nullptr);
@@ -40,7 +39,8 @@ class CustomZmanTest : public ProgramTest {
   ZmanimGeometry Geometry() {
     const ScopedWindowDc dc(table_);
     return MeasureZmanimTable(table_, dc.dc(), GetFontProperty(document_, property::kZmanimFont),
-                              GetBlockProperty(document_, property::kZmanimTimes));
+                              GetBlockProperty(document_, property::kZmanimTimes),
+ GetBlockProperty(document_, property::kZmanimLabels));
   }
   void ClickAt(int x, int y) { SendMessageA(table_, WM_LBUTTONUP, 0, MAKELPARAM(x, y)); }
   void ClickCell(const ZmanimCell& cell) {

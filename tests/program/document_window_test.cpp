@@ -4,7 +4,7 @@
 #include "app/open_document.h"
 #include "app/program.h"
 #include "document/document_fonts.h"
-#include "document/properties.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
 #include "win/text_metrics.h"

@@ -9,7 +9,7 @@
 #include "engine/current.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 using testing::Contains;
 using testing::ElementsAre;

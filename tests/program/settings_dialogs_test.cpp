@@ -1,7 +1,7 @@
 // The dialogs for preferences, range and the sunset of a day.
 #include "app/active_document.h"
-#include "app/bound_entries.h"
 #include "app/program.h"
+#include "engine/bound_entries.h"
 #include "engine/current.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"

@@ -2,10 +2,10 @@
 #include "app/start_up.h"
 
 #include "app/program.h"
-#include "app/string_table.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;

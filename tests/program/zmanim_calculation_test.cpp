@@ -1,16 +1,16 @@
 // The zmanim of a document's days on a plain window, sun, zmanim and custom times scripted.
 #include <iterator>
 
-#include "app/string_table.h"
-#include "document/properties.h"
 #include "engine/current.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "tests/program/program_fixture.h"
 #include "win/scoped.h"
 #include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/builtin_zmanim.h"
 #include "zmanim/core/zmanim_block.h"
 #include "zmanim/custom_zmanim.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 using testing::Contains;
 using testing::Each;
@@ -47,7 +47,6 @@ class ZmanimCalculationTest : public ProgramTest {
   }
   void UseLibraryZmanim(uint32_t count) {
     Libraries().zmanimCount = count;
-    RefreshZmanimCount();
     CallLog().clear();
   }
   static void UseBuiltInZmanim() { Libraries().settings["shab30.ini|Settings|EnableZmanim"] = "0"; }
@@ -203,7 +202,6 @@ TEST_F(ZmanimCalculationTest, TheCountIsWhatTheLibraryLastAnsweredWhenAskedAgain
   UseLibraryZmanim(25);
   Libraries().zmanimCount = 40;
   EXPECT_EQ(GetZmanimCount(), 25u);
-  RefreshZmanimCount();
   EXPECT_EQ(GetZmanimCount(), 40u);
   UseBuiltInZmanim();
   EXPECT_EQ(GetZmanimCount(), 19u);

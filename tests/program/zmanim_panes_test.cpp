@@ -4,8 +4,8 @@
 
 #include "app/open_document.h"
 #include "app/program.h"
-#include "document/properties.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/zmanim_view_fixture.h"
 #include "win/scoped.h"
