@@ -14,11 +14,9 @@
 
 namespace {
 
-// What the view is laid out for besides its zmanim; all its panes change with it.
-uint32_t FormOfView() {
-  constexpr uint32_t kTwelveHours = 1;
-  constexpr uint32_t kHebrewNames = 2;
-  return (StampIsAmPm() ? kTwelveHours : 0) | (ZmanimInHebrew() ? kHebrewNames : 0);
+// The form of times decides on the columns.
+uint32_t FormOfTimes() {
+  return StampIsAmPm() ? 1 : 0;
 }
 
 // By the zmanim that the document has; a document without any, by those in use.
@@ -46,12 +44,12 @@ constexpr PaneContainer kContainer{kPanes, LayOut, IDC_ZMANIM_TABLE};
 // The usual case, decided with one look at the document.
 bool IsUpToDate(HWND document) {
   const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
-  return !labels || (labels->shownForm == FormOfView() && AreInUse(*labels.get()));
+  return !labels || (labels->amPm == FormOfTimes() && AreInUse(*labels.get()));
 }
 
 void RememberForm(HWND document) {
   const ScopedGlobalLock<ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
-  if (labels) labels->shownForm = FormOfView();
+  if (labels) labels->amPm = FormOfTimes();
 }
 
 }  // namespace

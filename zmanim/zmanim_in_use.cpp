@@ -60,7 +60,7 @@ HGLOBAL DescribeZmanimInUse() {
   if (!labels) return nullptr;
   labels->selection = selection;
   labels->fromLibrary = fromLibrary ? 1 : 0;
-  labels->shownForm = 0;
+  labels->amPm = 0;
   labels->count = count;
   ZmanLabel* const zmanim = labels->zmanim;
   for (uint32_t zman = 0; zman < count; ++zman) {

@@ -58,7 +58,13 @@ void PaintLegend(HWND pane, HDC dc, const RECT&) {
   }
 }
 
-constexpr PanePainting kPainting{PrepareZmanimPane, PaintLegend};
+// The legend is one text, in one language: it is never painted in part.
+void Prepare(HWND pane) {
+  PrepareZmanimPane(pane);
+  InvalidateRect(pane, nullptr, TRUE);
+}
+
+constexpr PanePainting kPainting{Prepare, PaintLegend};
 
 }  // namespace
 

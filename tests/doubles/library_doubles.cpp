@@ -182,7 +182,7 @@ void HoursDoDialogInitLoc(HWND owner, int32_t latitude, int32_t longitude, int32
 }
 
 uint32_t HoursGetCount(void) {
-  LogCall("HoursGetCount");
+  ++Libraries().zmanimCountQuestions;
   return Libraries().zmanimCount;
 }
 

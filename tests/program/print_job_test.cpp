@@ -51,6 +51,7 @@ TEST_F(PrintJobTest, WithoutDaysOrZmanimTheDocumentHasNoPages) {
   PrintPages(0);
   EXPECT_THAT(CallLog(), expected);
   UseZmanim(2);
+  ComputeDays(1);
   FreeBlockProperty(document_, property::kZmanimTimes);
   Print();
   EXPECT_THAT(CallLog(), expected);

@@ -6,6 +6,7 @@
 #include "document/tooltip.h"
 #include "engine/current.h"
 #include "engine/library_binding.h"
+#include "engine/optional_entries.h"
 #include "engine/properties.h"
 #include "engine/string_table.h"
 #include "win/scoped.h"
@@ -15,6 +16,7 @@ void ProgramTest::SetUp() {
   ResetLibraries();
   ResetBoundLibraries();
   ResetSystem();
+  OptionalEntries = {};
   Program = {};
   Program.instance = GetModuleHandleA(nullptr);
   Tooltip = {.window = nullptr, .enabled = true};

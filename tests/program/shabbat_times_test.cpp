@@ -306,9 +306,9 @@ TEST_F(ShabbatTimesTest, PlaceAndRangeAreRecordedOnTheWindow) {
 
 TEST_F(ShabbatTimesTest, ASecondCalculationFreesTheBlocksOfTheFirst) {
   FirstEntry();
-  EXPECT_THAT(System().blocks, SizeIs(3));  // City, ZmanimTimes and ShabbatTimes
+  EXPECT_THAT(System().blocks, SizeIs(4));  // City, ZmanimTimes, ZmanimLabels and ShabbatTimes
   FirstEntry();
-  EXPECT_THAT(System().blocks, SizeIs(3));
+  EXPECT_THAT(System().blocks, SizeIs(4));
 }
 
 TEST_F(ShabbatTimesTest, TheCursorIsPutBack) {

@@ -18,7 +18,7 @@ struct ZmanLabel {
 struct ZmanimLabels {
   uint64_t selection;    // fingerprint of the user's selection; 0 for the built-in zmanim
   uint32_t fromLibrary;  // 1: the user's selection; 0: the built-in zmanim
-  uint32_t shownForm;    // the form of times and names that the view is laid out for
+  uint32_t amPm;         // 1: the view is laid out for times of 12 hours
   uint32_t count;
   ZmanLabel zmanim[1];
 };
