@@ -47,6 +47,7 @@ BOOL WINAPI FakeGetSaveFileNameA(LPOPENFILENAMEA dialog) {
                          dialog->nFilterIndex, dialog->lpstrFile,
                          dialog->nMaxFile,     dialog->lpstrDefExt,
                          dialog->Flags};
+  if (System().whileSaving) System().whileSaving();
   if (System().savedFile.empty()) return FALSE;
   std::strcpy(dialog->lpstrFile, System().savedFile.c_str());
   return TRUE;
@@ -129,6 +130,7 @@ void CheckGuard(HGLOBAL block) {
 
 HGLOBAL WINAPI CountedGlobalAlloc(UINT flags, SIZE_T size) {
   static const auto real = REAL("kernel32.dll", GlobalAlloc);
+  if (System().failingBlock > 0 && --System().failingBlock == 0) return nullptr;
   const HGLOBAL block = real(flags, size + kGuardSize);
   if (!block) return nullptr;
   SetGuard(block, size);
@@ -200,6 +202,7 @@ HANDLE WINAPI CountedRemovePropA(HWND window, LPCSTR name) {
 
 HFONT WINAPI CountedCreateFontIndirectA(const LOGFONTA* font) {
   static const auto real = REAL("gdi32.dll", CreateFontIndirectA);
+  if (System().failingFont > 0 && --System().failingFont == 0) return nullptr;
   const HFONT made = real(font);
   System().fonts.insert(made);
   return made;

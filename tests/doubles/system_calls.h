@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -38,13 +39,18 @@ struct SystemScript {
   HWND foundWindow;  // answer of FindWindow
   HWND foregroundWindow;
   int beeps;
-  int answer;                     // of message boxes with a question
-  std::string savedFile;          // chosen in a save dialog; empty: cancelled
-  SaveDialog saveDialog;          // the last one
-  std::string missingLibrary;     // what LoadLibrary does not find ...
-  UINT_PTR missingLibraryHandle;  // ... and answers for it
+  int answer;                         // of message boxes with a question
+  std::string savedFile;              // chosen in a save dialog; empty: cancelled
+  SaveDialog saveDialog;              // the last one
+  std::function<void()> whileSaving{};  // what happens while it is open
+  std::string missingLibrary;         // what LoadLibrary does not find ...
+  UINT_PTR missingLibraryHandle;      // ... and answers for it
 
   std::string refusedWindowClass;  // of which no window can be created
+
+  // Which block and which font cannot be made, counted from now on from 1; 0: all can.
+  int failingBlock = 0;
+  int failingFont = 0;
 
   // The mouse cursor, and what it was when a file was written last.
   HCURSOR cursor;

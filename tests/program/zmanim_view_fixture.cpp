@@ -35,6 +35,7 @@ void ZmanimViewTest::ComputeDays(uint32_t days) {
   const CalendarDate start{5, 1, 2007};
   const CalendarDate end = DateFromAbsolute(AbsoluteFromDate(start) + static_cast<int32_t>(days) - 1);
   CurrentRange = {start, end};
+  SetRangeProperties(document_, CurrentRange);
   CalculateZmanim(document_, start.uDay, start.uMonth, start.uYear, end.uDay, end.uMonth, end.uYear);
   CallLog().clear();
 }
