@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "app/bound_entries.h"
 #include "companion/candles.h"
 #include "companion/datecore.h"
 #include "companion/glyphs.h"
@@ -18,6 +17,7 @@
 #include "companion/placepick.h"
 #include "companion/stamp.h"
 #include "companion/twilight.h"
+#include "engine/bound_entries.h"
 #include "tests/doubles/call_log.h"
 #include "tests/doubles/profile_double.h"
 
@@ -134,7 +134,7 @@ void HoursDoDialogInitLoc(HWND owner, int32_t latitude, int32_t longitude, int32
 }
 
 uint32_t HoursGetCount(void) {
-  LogCall("HoursGetCount");
+  ++Libraries().zmanimCountQuestions;
   return Libraries().zmanimCount;
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/active_document.h"
-#include "document/properties.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/program_fixture.h"
@@ -11,7 +11,7 @@
 #include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/zmanim_block.h"
 #include "zmanim/edit_zman_dialog.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 #include "zmanim/zmanim_measures.h"
 
 class CustomZmanTest : public ProgramTest {
@@ -20,22 +20,26 @@ class CustomZmanTest : public ProgramTest {
     ProgramTest::SetUp();
     Libraries().settings["shabbat2.ini|Locations|Aachen"] = "";
     Libraries().zmanimCount = 40;
-    RefreshZmanimCount();
     OpenFrame();
     document_ = ActiveDocument();
     ASSERT_NE(document_, nullptr);
     SendMessageA(document_, WM_COMMAND, IDB_ZMANIM, 0);
     table_ = GetDlgItem(GetDlgItem(document_, IDC_ZMANIM_PANE), IDC_ZMANIM_TABLE);
     CurrentRange = {{5, 1, 2007}, {31, 12, 2007}};
-    CalculateZmanim(document_, 5, 1, 2007, 31, 12, 2007);
-    UpdateWindow(table_);
-    CallLog().clear();
+    Compute();
   }
 
   ZmanimGeometry Geometry() {
     const ScopedWindowDc dc(table_);
     return MeasureZmanimTable(table_, dc.dc(), GetFontProperty(document_, property::kZmanimFont),
-                              GetBlockProperty(document_, property::kZmanimTimes));
+                              GetBlockProperty(document_, property::kZmanimTimes),
+                              GetBlockProperty(document_, property::kZmanimLabels));
+  }
+  // Has the document computed by what the libraries say now.
+  void Compute() {
+    CalculateZmanim(document_, 5, 1, 2007, 31, 12, 2007);
+    UpdateWindow(table_);
+    CallLog().clear();
   }
   void ClickAt(int x, int y) { SendMessageA(table_, WM_LBUTTONUP, 0, MAKELPARAM(x, y)); }
   void ClickCell(const ZmanimCell& cell) {

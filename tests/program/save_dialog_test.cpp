@@ -6,12 +6,11 @@
 #include <filesystem>
 
 #include "app/active_document.h"
+#include "app/compute_document.h"
 #include "engine/current.h"
-#include "engine/shabbat_times.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/program_fixture.h"
-#include "zmanim/zmanim_count.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -25,7 +24,6 @@ class SaveDialogTest : public ProgramTest {
     ProgramTest::SetUp();
     Libraries().settings["shabbat2.ini|Locations|Aachen"] = "";
     Libraries().zmanimCount = 2;
-    RefreshZmanimCount();
     OpenFrame();
     CurrentRange = {{5, 1, 2007}, {6, 1, 2007}};
     CalculateShabbatTimes(ActiveDocument(), 5, 1, 2007, 6, 1, 2007);

@@ -1,8 +1,8 @@
 // The dialogs for preferences, range and the sunset of a day.
 #include "app/active_document.h"
-#include "app/bound_entries.h"
 #include "app/open_document.h"
 #include "app/program.h"
+#include "engine/bound_entries.h"
 #include "engine/current.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
@@ -38,6 +38,9 @@ class SettingsDialogsTest : public ProgramTest {
     EXPECT_THAT(CallsWith("message box"),
                 ElementsAre("message box '" + message + "' caption 'Error' type 0x10 owner yes"));
     EXPECT_EQ(GetFocus(), GetDlgItem(dialog, field)) << message;
+    const LRESULT selection = SendDlgItemMessageA(dialog, field, EM_GETSEL, 0, 0);
+    EXPECT_EQ(LOWORD(selection), 0) << message;
+    EXPECT_EQ(HIWORD(selection), FieldText(dialog, field).size()) << message;
   }
   static void Set(const char* key, const char* value) {
     Libraries().settings[std::string("shabbat2.ini|Shabbat|") + key] = value;
@@ -311,10 +314,16 @@ TEST_F(SettingsDialogsTest, BuiltInZmanimAreCheckedByTheirFlagAndOpenADocument) 
   Libraries().settings["shab30.ini|Settings|EnableZmanim"] = "";
   SendMessageA(frame_, WM_COMMAND, IDM_BUILT_IN_ZMANIM, 0);
   EXPECT_THAT(CallsWith("write"), ElementsAre("write shab30.ini|Settings|EnableZmanim=0"));
-  EXPECT_THAT(CallsWith("Hours"), ElementsAre("HoursGetCount"));
   EXPECT_EQ(CountDocuments(), 2);
   SendMessageA(frame_, WM_INITMENU, reinterpret_cast<WPARAM>(GetMenu(frame_)), 0);
   EXPECT_TRUE(GetMenuState(GetMenu(frame_), IDM_BUILT_IN_ZMANIM, MF_BYCOMMAND) & MF_CHECKED);
+}
+
+TEST_F(SettingsDialogsTest, TheUsersOwnCandleTimesOpenADocumentWhateverBecameOfThem) {
+  SendMessageA(frame_, WM_COMMAND, IDM_CUSTOM_CANDLES, 0);
+  EXPECT_THAT(CallsWith("custom times"), ElementsAre("custom times, owner yes"));
+  EXPECT_EQ(CountDocuments(), 2);
+  EXPECT_FALSE(ShabbatTimesOf(ActiveDocument()).empty());
 }
 
 TEST_F(SettingsDialogsTest, F1InADialogOpensTheHelp) {
