@@ -52,13 +52,37 @@ TEST_F(CustomZmanMeanwhileTest, OfADayThatIsStillComputedItIsStoredAndShown) {
   EXPECT_EQ(TimeInBlock({3, 3}), (ClockTime{4, 44}));
 }
 
+TEST_F(CustomZmanMeanwhileTest, OfADayThatHasMovedItIsShownAtItsDateAndNowhereElse) {
+  EditWhile({3, 3}, [this] { CalculateZmanim(document_, 7, 1, 2007, 12, 1, 2007); });
+  EXPECT_EQ(TimeInBlock({1, 3}), (ClockTime{4, 44}));  // 8 January
+  EXPECT_EQ(TimeInBlock({3, 3}), (ClockTime{6, 30}));
+}
+
+TEST_F(CustomZmanMeanwhileTest, OfAZmanThatHasMovedItIsStoredAndShownByItsDescription) {
+  EditWhile({3, 3}, [this] {
+    Libraries().zmanNames = {{3, "Zman 5"}, {5, "Zman 3"}};
+    CalculateZmanim(document_, 5, 1, 2007, 12, 1, 2007);
+  });
+  EXPECT_THAT(CallsWith("own time set"), ElementsAre("own time set Aachen|Zman 3|8.1.2007 = 4:44"));
+  EXPECT_EQ(TimeInBlock({3, 5}), (ClockTime{4, 44}));
+  EXPECT_EQ(TimeInBlock({3, 3}), (ClockTime{6, 30}));
+}
+
+TEST_F(CustomZmanMeanwhileTest, OfAZmanThatIsNoLongerSelectedItIsNotStoredAndTheUserIsTold) {
+  EditWhile({3, 3}, [] { Libraries().zmanimCount = 2; });
+  EXPECT_THAT(CallsWith("own time"), IsEmpty());
+  EXPECT_THAT(CallsWith("message box"), ElementsAre(testing::HasSubstr("is no longer in your selection")));
+  EXPECT_EQ(TimeInBlock({3, 3}), (ClockTime{6, 30}));
+}
+
 TEST_F(CustomZmanMeanwhileTest, OfADocumentWithoutDaysItChangesNothing) {
   EditWhile({0, 0}, [this] { CalculateZmanim(document_, 6, 1, 2007, 5, 1, 2007); });
   EXPECT_EQ(DaysIn(document_), 0u);
 }
 
-TEST_F(CustomZmanMeanwhileTest, OfADocumentThatWasClosedItHarmsNothing) {
+TEST_F(CustomZmanMeanwhileTest, OfADocumentThatWasClosedItIsStoredForTheDocumentsPlace) {
   EditWhile({3, 3}, [this] { SendMessageA(frame_, WM_COMMAND, IDM_WINDOW_CLOSE_ALL, 0); });
   EXPECT_FALSE(IsWindow(document_));
+  EXPECT_THAT(CallsWith("own time"), ElementsAre("own time set Aachen|Zman 3|8.1.2007 = 4:44", "own times stored"));
   EXPECT_THAT(System().blocks, IsEmpty());
 }

@@ -38,6 +38,9 @@ class SettingsDialogsTest : public ProgramTest {
     EXPECT_THAT(CallsWith("message box"),
                 ElementsAre("message box '" + message + "' caption 'Error' type 0x10 owner yes"));
     EXPECT_EQ(GetFocus(), GetDlgItem(dialog, field)) << message;
+    const LRESULT selection = SendDlgItemMessageA(dialog, field, EM_GETSEL, 0, 0);
+    EXPECT_EQ(LOWORD(selection), 0) << message;
+    EXPECT_EQ(HIWORD(selection), FieldText(dialog, field).size()) << message;
   }
   static void Set(const char* key, const char* value) {
     Libraries().settings[std::string("shabbat2.ini|Shabbat|") + key] = value;
@@ -314,6 +317,13 @@ TEST_F(SettingsDialogsTest, BuiltInZmanimAreCheckedByTheirFlagAndOpenADocument) 
   EXPECT_EQ(CountDocuments(), 2);
   SendMessageA(frame_, WM_INITMENU, reinterpret_cast<WPARAM>(GetMenu(frame_)), 0);
   EXPECT_TRUE(GetMenuState(GetMenu(frame_), IDM_BUILT_IN_ZMANIM, MF_BYCOMMAND) & MF_CHECKED);
+}
+
+TEST_F(SettingsDialogsTest, TheUsersOwnCandleTimesOpenADocumentWhateverBecameOfThem) {
+  SendMessageA(frame_, WM_COMMAND, IDM_CUSTOM_CANDLES, 0);
+  EXPECT_THAT(CallsWith("custom times"), ElementsAre("custom times, owner yes"));
+  EXPECT_EQ(CountDocuments(), 2);
+  EXPECT_FALSE(ShabbatTimesOf(ActiveDocument()).empty());
 }
 
 TEST_F(SettingsDialogsTest, F1InADialogOpensTheHelp) {
