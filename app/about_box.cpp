@@ -4,9 +4,9 @@
 
 #include <cstdio>
 
-#include "app/bound_entries.h"
 #include "app/program.h"
-#include "app/string_table.h"
+#include "engine/bound_entries.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
 #include "resources/version.h"
 #include "win/dialog.h"

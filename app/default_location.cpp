@@ -7,7 +7,7 @@
 #include "locations/location_lookup.h"
 
 void LoadDefaultLocation() {
-  LocationRecord& location = CurrentLocation;
+  Location& location = CurrentLocation;
   ProfileGetString("Preferences", "DefaultLocation", "", location.name, sizeof location.name, "almanac13.ini");
   if (location.name[0] == '\0') std::strcpy(location.name, "Aachen");
   if (LookUpLocation(location) == LocationSource::kNowhere) TakeFirstBuiltInLocation(location);

@@ -7,6 +7,8 @@
 #include "app/export_commands.h"
 #include "app/open_document.h"
 #include "app/program.h"
+#include "app/range_dialog.h"
+#include "app/sunset_dialog.h"
 #include "companion/candles.h"
 #include "companion/guide.h"
 #include "companion/hours.h"
@@ -14,17 +16,13 @@
 #include "companion/placepick.h"
 #include "companion/stamp.h"
 #include "engine/current.h"
-#include "engine/preferences_dialog.h"
-#include "engine/range_dialog.h"
 #include "engine/settings_flags.h"
-#include "engine/sunset_dialog.h"
 #include "locations/location_lookup.h"
 #include "locations/location_manager.h"
 #include "resources/ids.h"
+#include "shabbat/preferences_dialog.h"
 #include "win/message_box.h"
 #include "zmanim/print_zmanim.h"
-#include "zmanim/zmanim_count.h"
-#include "zmanim/zmanim_panes.h"
 
 namespace {
 
@@ -33,15 +31,9 @@ struct FrameCommand {
   void (*run)(HWND frame);
 };
 
-// The form of times and the zmanim in use decide how the zmanim view of every document is laid out and scrolls.
-void LayOutZmanimViews() {
-  for (HWND document = GetWindow(Program.mdiClient, GW_CHILD); document; document = GetWindow(document, GW_HWNDNEXT)) {
-    RefreshZmanimView(document);
-  }
-}
-
+// What has changed in the settings shows: views compare themselves with them when they paint, and those that nobody
+// sees cost nothing.
 void RedrawEverything(HWND frame) {
-  LayOutZmanimViews();
   RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
@@ -84,24 +76,23 @@ void ManageLocations(HWND frame) {
   if (RunLocationManager(frame, ActiveDocument())) OpenAndCompute(frame);
 }
 
-// The zmanim in use have changed.
-void RenewZmanim(HWND frame) {
-  RefreshZmanimCount();
-  LayOutZmanimViews();
+// The zmanim in use have changed, or the language of readings: documents that are seen beside the new one follow.
+void OpenBesideRenewed(HWND frame) {
   ApplyCandleOverrideRule();
   OpenAndCompute(frame);
+  RedrawWindow(frame, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 // Deliberate: a document is opened whatever the dialog's outcome.
 void SelectZmanim(HWND frame) {
   HoursDoDialogInitLoc(frame, CurrentLocation.latitude, CurrentLocation.longitude, CurrentLocation.zoneHours,
                        CurrentLocation.zoneMinutes);
-  RenewZmanim(frame);
+  OpenBesideRenewed(frame);
 }
 
 void ToggleBuiltInZmanim(HWND frame) {
   if (SetZmanimEnabled(!ZmanimEnabled())) {
-    RenewZmanim(frame);
+    OpenBesideRenewed(frame);
   } else {
     ShowUnwritableSettings(frame, kFlagsFile);
   }
@@ -110,9 +101,7 @@ void ToggleBuiltInZmanim(HWND frame) {
 // A change of what readings are shown does not move the place.
 template <int32_t (*dialog)(HWND owner)>
 void ChangeReadings(HWND frame) {
-  if (!dialog(frame)) return;
-  ApplyCandleOverrideRule();
-  OpenAndCompute(frame);
+  if (dialog(frame)) OpenBesideRenewed(frame);
 }
 
 // Deliberate: a document is opened whatever the dialog's outcome.

@@ -2,14 +2,14 @@
 
 #include <string>
 
+#include "app/compute_document.h"
 #include "app/core/document_title.h"
 #include "app/program.h"
 #include "document/document_fonts.h"
-#include "document/properties.h"
-#include "document/shabbat_panes.h"
 #include "engine/current.h"
-#include "engine/shabbat_times.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
+#include "shabbat/shabbat_panes.h"
 #include "win/class_names.h"
 
 namespace {

@@ -2,14 +2,14 @@
 
 #include "app/core/notice_line.h"
 #include "app/frame_window.h"
-#include "app/library_binding.h"
 #include "app/program.h"
-#include "app/string_table.h"
 #include "app/window_classes.h"
 #include "companion/kinship.h"
 #include "companion/stamp.h"
 #include "document/tooltip.h"
-#include "zmanim/zmanim_count.h"
+#include "engine/library_binding.h"
+#include "engine/optional_entries.h"
+#include "engine/string_table.h"
 
 ProgramState Program;
 
@@ -55,7 +55,7 @@ void ShutDown() {
 
 int RunProgram(HINSTANCE instance, HINSTANCE previousInstance, LPSTR commandLine, int showState) {
   StampCheck(instance, previousInstance, commandLine, showState);
-  RefreshZmanimCount();
+  LookUpOptionalEntries();
   Program.instance = instance;
   KinshipInit();
   Program.tooltipBrush = CreateSolidBrush(kTooltipYellow);

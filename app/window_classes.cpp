@@ -3,11 +3,11 @@
 #include "app/frame_window.h"
 #include "document/document_window.h"
 #include "document/icon_button.h"
-#include "document/shabbat_panes.h"
 #include "document/toolbar.h"
 #include "document/tooltip.h"
 #include "readings/readings_panes.h"
 #include "resources/ids.h"
+#include "shabbat/shabbat_panes.h"
 #include "win/class_names.h"
 #include "zmanim/zmanim_panes.h"
 

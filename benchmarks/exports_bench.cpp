@@ -11,11 +11,11 @@
 #include <string>
 #include <vector>
 
-#include "app/bound_entries.h"
 #include "benchmarks/measured.h"
 #include "benchmarks/zmanim_bench.h"
-#include "document/properties.h"
+#include "engine/bound_entries.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "readings/core/readings_record.h"
 #include "readings/export_dates.h"
 #include "readings/export_readings.h"

@@ -5,9 +5,7 @@
 #include <cstring>
 #include <iterator>
 
-#include "app/bound_entries.h"
-#include "app/library_binding.h"
-#include "app/string_table.h"
+#include "app/compute_document.h"
 #include "benchmarks/exports_bench.h"
 #include "benchmarks/measured.h"
 #include "benchmarks/start_up_bench.h"
@@ -15,9 +13,11 @@
 #include "companion/profile.h"
 #include "companion/stamp.h"
 #include "companion/twilight.h"
-#include "document/properties.h"
+#include "engine/bound_entries.h"
 #include "engine/current.h"
-#include "engine/shabbat_times.h"
+#include "engine/library_binding.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "readings/readings_list.h"
 #include "resources/ids.h"
 #include "tests/contract/settings_home.h"

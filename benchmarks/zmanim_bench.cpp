@@ -4,20 +4,22 @@
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "app/active_document.h"
-#include "app/bound_entries.h"
 #include "app/frame_window.h"
 #include "app/program.h"
 #include "app/window_classes.h"
+#include "benchmarks/core_zmanim.h"
 #include "benchmarks/measured.h"
-#include "document/properties.h"
+#include "engine/bound_entries.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "win/scoped.h"
 #include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/zmanim_block.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 namespace {
 
@@ -27,14 +29,42 @@ constexpr int kSteps = 200;
 constexpr int32_t kFirstDay = 726468;  // 1 January 1990
 constexpr int32_t kDays = 32000;
 
-void MeasureCalculation(HWND document, const char* name) {
+// Its milliseconds.
+double MeasureCalculation(HWND document, const char* name) {
   const CalendarDate start = DateFromAbsolute(kFirstDay);
   const CalendarDate end = DateFromAbsolute(kFirstDay + kDays - 1);
-  Report(name, BestMilliseconds(kCalculations, [&] {
-           CalculateZmanim(document, start.uDay, start.uMonth, start.uYear, end.uDay, end.uMonth, end.uYear);
-         }));
+  const double milliseconds = BestMilliseconds(kCalculations, [&] {
+    CalculateZmanim(document, start.uDay, start.uMonth, start.uYear, end.uDay, end.uMonth, end.uYear);
+  });
+  Report(name, milliseconds);
   const uint32_t count = ScopedGlobalLock<const ZmanimBlock>(GetBlockProperty(document, property::kZmanimTimes))->count;
   if (count != kDays) std::fprintf(stderr, "%u days instead of %d\n", count, kDays);
+  return milliseconds;
+}
+
+int32_t MinutesOf(const ClockTime& time) {
+  return time == kNoTime ? -1 : time.hour * kMinutesPerHour + time.minute;
+}
+
+// How many zmanim of a document are not what the cores say.
+size_t CountDifferences(HWND document, const std::vector<int32_t>& minutes) {
+  const ScopedGlobalLock<const ZmanimBlock> block(GetBlockProperty(document, property::kZmanimTimes));
+  const size_t perDay = minutes.size() / kDays;
+  size_t differences = 0;
+  for (size_t i = 0; i < minutes.size(); ++i) {
+    if (MinutesOf(block->days[i / perDay].times[i % perDay]) != minutes[i]) ++differences;
+  }
+  return differences;
+}
+
+void CompareWithCores(HWND document, const SettingsHome& home, double programMilliseconds) {
+  std::vector<int32_t> minutes;
+  const double milliseconds = BestMilliseconds(
+      kCalculations, [&] { minutes = ZmanimByCore(home.Bytes("hours.txt"), CurrentLocation, kFirstDay, kDays); });
+  Report("32,000 days x 100 zmanim by the cores alone, ms", milliseconds);
+  Report("32,000 days x 100 zmanim, program to cores, times", programMilliseconds / milliseconds);
+  const size_t differences = CountDifferences(document, minutes);
+  if (differences != 0) std::fprintf(stderr, "%zu zmanim are not those of the cores\n", differences);
 }
 
 void MeasurePainting(HWND pane, const char* name) {
@@ -75,7 +105,6 @@ bool ChooseZmanim(const SettingsHome& home, uint32_t count) {
   }
   home.Put("hours.txt", text);
   for (int i = 0; i < 100; ++i) {
-    RefreshZmanimCount();
     if (GetZmanimCount() == count) return true;
     Sleep(10);
   }
@@ -95,7 +124,7 @@ bool MeasureZmanim(const SettingsHome& home) {
   if (chosen) MeasureCalculation(document, "32,000 days x 40 zmanim, ms");
   chosen = chosen && ChooseZmanim(home, 100);
   if (chosen) {
-    MeasureCalculation(document, "32,000 days x 100 zmanim, ms");
+    CompareWithCores(document, home, MeasureCalculation(document, "32,000 days x 100 zmanim, ms"));
     MeasureTable(document);
   }
   DestroyWindow(frame);

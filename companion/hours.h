@@ -29,6 +29,11 @@ int32_t HoursGetDescription(uint32_t index, char* text);
  * the text with all its bytes reversed reads right when it is drawn from left to right. */
 int32_t HoursGetDescriptionHebrew(uint32_t index, char* text);
 
+/* By which a caller recognises the selection, here and in other processes: two numbers, the same as long as count,
+ * order, descriptions and definitions of the zmanim are, others when any of these differs. Costs no more than
+ * HoursGetCount. Null is ignored. The library may be older than this entry: look it up by name. */
+void HoursGetFingerprint(uint32_t fingerprint[2]);
+
 /* The zman in minutes after midnight of the Gregorian date, 0 to 1439, on the clock in force there, or HOURS_NONE.
  * A zman after midnight answers the clock time of the next civil day. Coordinates are packed (degrees * 100 + minutes,
  * negative for south and west); the zone is hours and minutes from UTC, both signed, of standard time. Sunrise and

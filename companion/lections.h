@@ -32,11 +32,23 @@ typedef struct LectionsFont {
  * date that does not exist has no readings. */
 void LectionsGetReadings(uint32_t day, uint32_t month, uint32_t year, LectionsReadings* readings);
 
+/* What the user has chosen, the language aside: land, customs, and what is shown. One opaque number, never 0, by which
+ * the entries below answer later as they would now, whatever is chosen meanwhile; it means nothing to another version
+ * of the library. */
+uint32_t LectionsGetChoice(void);
+
+/* As LectionsGetReadings, by a choice that LectionsGetChoice answered, in the language stored now. A number that is no
+ * choice counts as the one stored now. The library may be older than the entries with choices: look them up by name. */
+void LectionsGetReadingsBy(uint32_t choice, uint32_t day, uint32_t month, uint32_t year, LectionsReadings* readings);
+
 /* The code of the language of the texts (1 English, 2 English in Ashkenazi spelling, 4 Hebrew). */
 uint32_t LectionsGetLanguage(void);
 
 /* Nonzero when Yizkor is said on the Jewish date in the user's land. */
 int32_t LectionsIsYizkor(uint32_t day, uint32_t month, uint32_t year);
+
+/* The same in a choice's land. */
+int32_t LectionsIsYizkorBy(uint32_t choice, uint32_t day, uint32_t month, uint32_t year);
 
 /* The word for Yizkor into text, a buffer of 256 bytes: windows-1252 in every language, at most 10 bytes. */
 void LectionsGetYizkor(char* text);

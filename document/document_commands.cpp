@@ -1,7 +1,7 @@
 #include "document/document_commands.h"
 
-#include "app/string_table.h"
 #include "document/document_window.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
 

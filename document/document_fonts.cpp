@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "document/properties.h"
-#include "win/display_font.h"
+#include "engine/properties.h"
+#include "win/make_font.h"
 
 namespace {
 

@@ -4,22 +4,17 @@
 
 #include "document/core/document_layout.h"
 #include "document/document_commands.h"
-#include "document/properties.h"
 #include "document/toolbar.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "win/class_names.h"
+#include "win/pane.h"
 #include "win/text_metrics.h"
 
 namespace {
 
-struct ChildWindow {
-  const char* className;
-  int id;
-  DWORD style;  // besides WS_CHILD
-};
-
 // In the order of creation.
-constexpr ChildWindow kChildren[] = {
+constexpr ChildPane kChildren[] = {
     {window_class::kHeaderPane, IDC_HEADER_PANE, WS_VISIBLE},
     {window_class::kListPane, IDC_LIST_PANE, WS_VISIBLE | WS_VSCROLL},
     {window_class::kToolbar, IDC_TOOLBAR, WS_VISIBLE},
@@ -27,16 +22,10 @@ constexpr ChildWindow kChildren[] = {
     {window_class::kReadingsContainer, IDC_READINGS_PANE, 0},
 };
 
-constexpr const char* kBlocks[] = {property::kShabbatTimes, property::kZmanimTimes, property::kParashaReadings,
-                                   property::kCity};
+constexpr const char* kBlocks[] = {property::kShabbatTimes,    property::kZmanimTimes,  property::kZmanimLabels,
+                                   property::kParashaReadings, property::kReadingsForm, property::kCity};
 constexpr const char* kFonts[] = {property::kFont,           property::kBoldFont,    property::kZmanimFont,
                                   property::kBoldZmanimFont, property::kParashaFont, property::kBoldParashaFont};
-
-bool CreateChild(HWND document, const ChildWindow& child) {
-  return CreateWindowExA(0, child.className, "", WS_CHILD | child.style, 0, 0, 0, 0, document,
-                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(child.id)),
-                         reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(document, GWLP_HINSTANCE)), nullptr) != nullptr;
-}
 
 void ReleaseProperties(HWND document) {
   RemoveRangeProperties(document);
@@ -52,8 +41,8 @@ void ReleaseProperties(HWND document) {
 // destroy message.
 LRESULT OnCreate(HWND document) {
   SetRangeProperties(document, {});
-  for (const ChildWindow& child : kChildren) {
-    if (CreateChild(document, child)) continue;
+  for (const ChildPane& child : kChildren) {
+    if (CreateChildPane(document, child)) continue;
     ReleaseProperties(document);
     return -1;
   }
@@ -71,10 +60,6 @@ LRESULT OnDestroy(HWND document) {
   return 0;
 }
 
-void Place(HWND document, int child, const PaneRect& rect) {
-  MoveWindow(GetDlgItem(document, child), rect.x, rect.y, rect.width, rect.height, TRUE);
-}
-
 LRESULT OnSize(HWND document, int clientWidth, int clientHeight) {
   const FontMeasure font = MeasureFontOnDisplay(GetFontProperty(document, property::kFont));
   const DocumentLayout layout = LayOutDocument(clientWidth, clientHeight,
@@ -82,11 +67,11 @@ LRESULT OnSize(HWND document, int clientWidth, int clientHeight) {
                                                 .averageCharacterWidth = font.averageCharacterWidth,
                                                 .iconHeight = GetSystemMetrics(SM_CYICON),
                                                 .sizingFrameHeight = GetSystemMetrics(SM_CYSIZEFRAME)});
-  Place(document, IDC_TOOLBAR, layout.toolbar);
-  Place(document, IDC_HEADER_PANE, layout.header);
-  Place(document, IDC_LIST_PANE, layout.list);
-  Place(document, IDC_ZMANIM_PANE, layout.content);
-  Place(document, IDC_READINGS_PANE, layout.content);
+  PlaceChildPane(document, IDC_TOOLBAR, layout.toolbar);
+  PlaceChildPane(document, IDC_HEADER_PANE, layout.header);
+  PlaceChildPane(document, IDC_LIST_PANE, layout.list);
+  PlaceChildPane(document, IDC_ZMANIM_PANE, layout.content);
+  PlaceChildPane(document, IDC_READINGS_PANE, layout.content);
   // The view lays itself out by the document's fonts, which may be new though its size is not.
   SendDlgItemMessageA(document, IDC_READINGS_PANE, WM_SIZE, SIZE_RESTORED,
                       MAKELPARAM(layout.content.width, layout.content.height));

@@ -4,8 +4,8 @@
 
 #include <cstring>
 
-#include "document/core/icon_button.h"
-#include "document/properties.h"
+#include "document/core/icon_button_state.h"
+#include "engine/properties.h"
 #include "win/scoped.h"
 
 namespace {
@@ -159,7 +159,7 @@ LRESULT CALLBACK IconButtonProc(HWND button, UINT message, WPARAM wParam, LPARAM
 void SetDescription(HWND button, const char* text) {
   const std::size_t size = std::strlen(text) + 1;
   const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, size);
-  std::memcpy(ScopedGlobalLock<char>(block).get(), text, size);
+  if (const ScopedGlobalLock<char> copy(block); copy) std::memcpy(copy.get(), text, size);
   ReplaceBlockProperty(button, property::kDescription, block);
 }
 

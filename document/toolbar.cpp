@@ -1,7 +1,7 @@
 #include "document/toolbar.h"
 
-#include "app/string_table.h"
 #include "document/icon_button.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
 #include "win/class_names.h"
 

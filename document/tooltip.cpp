@@ -4,12 +4,12 @@
 #include <string>
 
 #include "companion/glyphs.h"
-#include "document/core/icon_button.h"
+#include "document/core/icon_button_state.h"
 #include "document/icon_button.h"
-#include "document/properties.h"
 #include "engine/core/records.h"
+#include "engine/properties.h"
 #include "win/class_names.h"
-#include "win/display_font.h"
+#include "win/make_font.h"
 #include "win/scoped.h"
 
 TooltipState Tooltip;

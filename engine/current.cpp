@@ -1,8 +1,8 @@
 #include "engine/current.h"
 
-#include "engine/core/shabbat_rules.h"
+#include "engine/core/candle_rule.h"
 
-LocationRecord CurrentLocation;
+Location CurrentLocation;
 DateRange CurrentRange;
 CandleOverrideRecord CandleOverride;
 

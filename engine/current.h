@@ -1,10 +1,10 @@
-// The one place and the one range that everything is computed for. Start-up, the frame's commands and the location and
-// range dialogs write them; the calculations read them.
+// The one place and the one range that the next document is for. Start-up, the frame's commands and the location and
+// range dialogs write them; calculations are handed what they need of them.
 #pragma once
 
 #include "engine/core/records.h"
 
-extern LocationRecord CurrentLocation;
+extern Location CurrentLocation;
 extern DateRange CurrentRange;
 extern CandleOverrideRecord CandleOverride;
 

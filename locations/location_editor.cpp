@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "app/string_table.h"
 #include "engine/core/leading_integer.h"
+#include "engine/string_table.h"
 #include "locations/core/location_texts.h"
 #include "locations/core/packed_coordinate.h"
 #include "locations/location_lookup.h"
@@ -63,7 +63,7 @@ void ShowUserLocation(HWND dialog, const char* name) {
 }
 
 void ShowBuiltInLocation(HWND dialog, const char* name) {
-  LocationRecord location{};
+  Location location{};
   std::strcpy(location.name, name);
   LookUpLocation(location);
   const auto show = [dialog](int degreesField, int minutesField, int32_t packed) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "app/bound_entries.h"
+#include "engine/bound_entries.h"
 #include "locations/location_store.h"
 
 namespace {
@@ -16,7 +16,7 @@ bool IsOverridden(const char* name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-bool FindBuiltIn(LocationRecord& location) {
+bool FindBuiltIn(Location& location) {
   const uint32_t count = Solar.SolarGetCountOfBuiltInLocations();
   for (uint32_t index = 0; index < count; ++index) {
     char name[kTextSize] = "";
@@ -27,7 +27,7 @@ bool FindBuiltIn(LocationRecord& location) {
   return false;
 }
 
-bool FindUserLocation(LocationRecord& location) {
+bool FindUserLocation(Location& location) {
   for (const std::string& name : UserLocationNames()) {
     ReadUserLocation(name.c_str(), location);
     if (name == location.name) return true;
@@ -37,12 +37,12 @@ bool FindUserLocation(LocationRecord& location) {
 
 }  // namespace
 
-LocationSource LookUpLocation(LocationRecord& location) {
+LocationSource LookUpLocation(Location& location) {
   if (FindBuiltIn(location)) return LocationSource::kBuiltIn;
   return FindUserLocation(location) ? LocationSource::kUser : LocationSource::kNowhere;
 }
 
-void TakeFirstBuiltInLocation(LocationRecord& location) {
+void TakeFirstBuiltInLocation(Location& location) {
   Solar.SolarGetBuiltInLocation(0, location.name, &location.latitude, &location.longitude, &location.zoneHours,
                                 &location.zoneMinutes);
 }

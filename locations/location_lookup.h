@@ -9,7 +9,7 @@ enum class LocationSource { kNowhere, kBuiltIn, kUser };
 // Fills the numbers of the place that location.name names. A place of the user's own takes precedence over a built-in
 // one of the same name; names are compared exactly. A name that is found nowhere leaves the numbers of the last place
 // that was read in the search.
-LocationSource LookUpLocation(LocationRecord& location);
+LocationSource LookUpLocation(Location& location);
 
 // The first built-in place, name included.
-void TakeFirstBuiltInLocation(LocationRecord& location);
+void TakeFirstBuiltInLocation(Location& location);

@@ -5,10 +5,10 @@
 #include <set>
 #include <string>
 
-#include "app/bound_entries.h"
-#include "app/string_table.h"
-#include "document/properties.h"
+#include "engine/bound_entries.h"
 #include "engine/current.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "locations/core/location_texts.h"
 #include "locations/location_editor.h"
 #include "locations/location_lookup.h"
@@ -17,7 +17,6 @@
 #include "win/dialog.h"
 #include "win/local_date.h"
 #include "win/message_box.h"
-#include "win/scoped.h"
 
 namespace {
 
@@ -44,12 +43,7 @@ bool ReadSelectedName(HWND dialog, char (&name)[kTextSize]) {
 // The place is taken whole, numbers included, so that its name never stands over the numbers of another place.
 void TakeSettingsOf(HWND document) {
   if (document) {
-    const ScopedGlobalLock<const char> city(GetBlockProperty(document, property::kCity));
-    if (city) std::strcpy(CurrentLocation.name, city.get());
-    CurrentLocation.latitude = GetIntegerProperty(document, property::kLatitude);
-    CurrentLocation.longitude = GetIntegerProperty(document, property::kLongitude);
-    CurrentLocation.zoneHours = GetIntegerProperty(document, property::kTimeZone);
-    CurrentLocation.zoneMinutes = GetIntegerProperty(document, property::kTimeZoneMin);
+    CurrentLocation = GetPlace(document);
     CurrentRange = GetRangeProperties(document);
   } else {
     TakeFirstBuiltInLocation(CurrentLocation);
@@ -63,7 +57,7 @@ void AddNames(HWND dialog) {
   std::set<std::string> builtIn;
   const uint32_t count = Solar.SolarGetCountOfBuiltInLocations();
   for (uint32_t index = 0; index < count; ++index) {
-    LocationRecord place{};
+    Location place{};
     Solar.SolarGetBuiltInLocation(index, place.name, &place.latitude, &place.longitude, &place.zoneHours,
                                   &place.zoneMinutes);
     builtIn.insert(place.name);
@@ -85,7 +79,7 @@ void ShowRemoveButton(HWND dialog, bool show) {
 }
 
 void RefreshParameterLine(HWND dialog) {
-  LocationRecord location{};
+  Location location{};
   if (!ReadSelectedName(dialog, location.name)) return;
   const LocationSource source = LookUpLocation(location);
   ShowRemoveButton(dialog, source != LocationSource::kBuiltIn);
@@ -143,7 +137,7 @@ void OnEdit(HWND dialog, bool adding) {
 
 void OnRemove(HWND dialog) {
   const int index = SelectedIndex(dialog);
-  LocationRecord location{};
+  Location location{};
   if (!ReadSelectedName(dialog, location.name)) return;
   if (!Ask(dialog, TableString(IDS_REMOVE_CITY), TableString(IDS_TITLE))) return;
   ReadUserLocation(location.name, location);

@@ -41,7 +41,7 @@ std::vector<std::string> UserLocationNames() {
   return names;
 }
 
-void ReadUserLocation(const char* name, LocationRecord& location) {
+void ReadUserLocation(const char* name, Location& location) {
   const auto number = [name](const char* key) { return ReadProfileInt(name, key, 0, kLocationsFile); };
   location.latitude = PackCoordinate(number(kLatitudeDegrees), number(kLatitudeMinutes), number(kLatitudeFlag) != 0);
   location.longitude =

@@ -27,7 +27,7 @@ bool IsUserLocation(const char* name);
 std::vector<std::string> UserLocationNames();
 
 // The numbers of a place; a missing one is 0.
-void ReadUserLocation(const char* name, LocationRecord& location);
+void ReadUserLocation(const char* name, Location& location);
 
 // The text of one key of a place's section, e.g. "LatitudeDegrees".
 std::string ReadLocationText(const char* name, const char* key);

@@ -28,8 +28,9 @@ std::string RtfEscape(std::string_view text, std::string_view special) {
       continue;
     }
     escaped += "\\'";
-    escaped += kDigits[c >> 4];
-    escaped += kDigits[c & 15];
+    const auto byte = static_cast<unsigned char>(c);
+    escaped += kDigits[byte >> 4];
+    escaped += kDigits[byte & 15];
   }
   return escaped;
 }

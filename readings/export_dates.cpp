@@ -3,8 +3,9 @@
 #include <span>
 
 #include "companion/datecore.h"
-#include "document/properties.h"
+#include "engine/properties.h"
 #include "readings/core/dates_export.h"
+#include "readings/readings_list.h"
 #include "win/file_sink.h"
 #include "win/scoped.h"
 
@@ -23,12 +24,13 @@ DatesExport::JewishDate JewishDateOf(const CalendarDate& gregorian, uint32_t lan
 void WriteDatesExport(HWND document, const std::string& file, const std::string& separator, bool header,
                       const std::string& readingsSeparator, uint32_t language) {
   const ScopedWaitCursor wait;
+  RenewReadings(document);
   const ScopedGlobalLock<const ReadingsList> list(GetBlockProperty(document, property::kParashaReadings));
   FileSink sink(file.c_str());
-  WriteDatesExport(sink, {.separator = separator,
-                          .readingsSeparator = readingsSeparator,
-                          .header = header,
-                          .entries = list ? std::span(list->entries, list->count) : std::span<const ReadingsEntry>(),
-                          .jewishDate = JewishDateOf,
-                          .language = language});
+  WriteDatesDelimited(sink, {.separator = separator,
+                             .readingsSeparator = readingsSeparator,
+                             .header = header,
+                             .entries = list ? std::span(list->entries, list->count) : std::span<const ReadingsEntry>(),
+                             .jewishDate = JewishDateOf,
+                             .language = language});
 }

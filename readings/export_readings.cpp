@@ -3,10 +3,11 @@
 #include <span>
 #include <string>
 
-#include "app/string_table.h"
-#include "companion/lections.h"
-#include "document/properties.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "readings/core/readings_export.h"
+#include "readings/readings_form.h"
+#include "readings/readings_list.h"
 #include "resources/ids.h"
 #include "win/file_sink.h"
 #include "win/scoped.h"
@@ -20,33 +21,24 @@ constexpr std::size_t kHaftarahWidth = 95;
 std::string lastTextFile;
 std::string lastRtfFile;
 
-ExportFont FontOfTexts() {
-  LectionsFont font{};
-  LectionsGetFont2(&font);
-  return {font.UseDefaultFont == 0, font.FaceName, font.PointSize, font.CharSet};
-}
-
-std::string YizkorText() {
-  char text[kTextSize] = "";
-  LectionsGetYizkor(text);
-  return text;
-}
-
 void WriteText(TextSink& sink, const ReadingsExport& data) {
   WriteReadingsText(sink, data, kTorahWidth, kHaftarahWidth);
 }
 
-// Asks for the file, and has it written from the list while nothing else can replace the list.
+// Asks for the file, and has it written from the list, brought up to date, while nothing else can replace the list.
 void Export(HWND frame, HWND document, ExportFormat format, void (*write)(TextSink&, const ReadingsExport&)) {
   const auto file = AskForExportFile(frame, format, format == ExportFormat::kText ? &lastTextFile : &lastRtfFile);
   if (!file) return;
   const ScopedWaitCursor wait;
+  RenewReadings(document);
+  const ReadingsForm form = ReadingsFormOf(document);
+  const LectionsFont& font = form.font;
   const ScopedGlobalLock<const ReadingsList> list(GetBlockProperty(document, property::kParashaReadings));
   const ReadingsExport data{.dateTitle = TableString(IDS_DATE),
                             .torahTitle = TableString(IDS_PARASHIOTH),
                             .haftarahTitle = TableString(IDS_HAPHTAROTH),
-                            .yizkor = YizkorText(),
-                            .font = FontOfTexts(),
+                            .yizkor = form.yizkor,
+                            .font = {font.UseDefaultFont == 0, font.FaceName, font.PointSize, font.CharSet},
                             .entries = list ? std::span(list->entries, list->count) : std::span<const ReadingsEntry>()};
   FileSink sink(file->c_str());
   write(sink, data);

@@ -1,6 +1,5 @@
 #include "readings/readings_font.h"
 
-#include "companion/lections.h"
 #include "win/scoped.h"
 
 namespace {
@@ -9,9 +8,7 @@ constexpr int kPointsPerInch = 72;
 
 }  // namespace
 
-ReadingsFont::ReadingsFont(HFONT programFont) : programFont_(programFont) {
-  LectionsFont font{};
-  LectionsGetFont2(&font);
+ReadingsFont::ReadingsFont(const LectionsFont& font, HFONT programFont) : programFont_(programFont) {
   if (font.UseDefaultFont) return;
   const ScopedWindowDc display(nullptr);
   LOGFONTA record{};

@@ -3,10 +3,13 @@
 
 #include <windows.h>
 
+#include "companion/lections.h"
+
 class ReadingsFont {
  public:
-  // Makes the library's font for the display. Where the library has none, it is programFont, which stays the caller's.
-  explicit ReadingsFont(HFONT programFont);
+  // Makes the library's font for the display. Where the library has none, or it cannot be made, it is programFont,
+  // which stays the caller's.
+  ReadingsFont(const LectionsFont& font, HFONT programFont);
   ~ReadingsFont();
   ReadingsFont(const ReadingsFont&) = delete;
   ReadingsFont& operator=(const ReadingsFont&) = delete;

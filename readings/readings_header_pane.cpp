@@ -1,11 +1,12 @@
 #include <cstring>
 
-#include "app/string_table.h"
 #include "companion/glyphs.h"
-#include "document/properties.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "readings/readings_measures.h"
 #include "readings/readings_panes.h"
 #include "resources/ids.h"
+#include "win/pane.h"
 #include "win/scoped.h"
 #include "win/text_metrics.h"
 
@@ -19,7 +20,7 @@ void DrawTitle(HDC dc, int x, const char* title) {
 }
 
 // The titles stand over the columns of the list as they are in the program's font, whatever the font of the texts.
-void PaintHeader(HWND pane, HDC dc) {
+void PaintHeader(HWND pane, HDC dc, const RECT&) {
   const HWND container = GetParent(pane);
   const HWND document = GetParent(container);
   const HFONT font = GetFontProperty(document, property::kParashaFont);
@@ -40,15 +41,10 @@ void PaintHeader(HWND pane, HDC dc) {
   DrawTitle(dc, geometry.HaftarahX(), TableString(IDS_HAPHTAROTH));
 }
 
-LRESULT OnPaint(HWND pane) {
-  const ScopedPaint paint(pane);
-  PaintHeader(pane, paint.dc());
-  return 0;
-}
+constexpr PanePainting kPainting{nullptr, PaintHeader};
 
 }  // namespace
 
 LRESULT CALLBACK ReadingsHeaderPaneProc(HWND pane, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_PAINT) return OnPaint(pane);
-  return DefWindowProcA(pane, message, wParam, lParam);
+  return PaintingPaneMessage(kPainting, pane, message, wParam, lParam);
 }

@@ -4,12 +4,14 @@
 #include <memory>
 #include <string_view>
 
-#include "app/bound_entries.h"
-#include "app/string_table.h"
 #include "companion/lections.h"
-#include "document/properties.h"
+#include "engine/bound_entries.h"
+#include "engine/optional_entries.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "readings/core/readings_record.h"
 #include "readings/core/split_rules.h"
+#include "readings/readings_form.h"
 #include "readings/readings_panes.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
@@ -17,10 +19,32 @@
 
 namespace {
 
-bool GetReadings(const CalendarDate& jewish, LectionsReadings& readings) {
-  LectionsGetReadings(jewish.uDay, jewish.uMonth, jewish.uYear, &readings);
-  return readings.torah1[0] != '\0';
-}
+// What is asked of the library for every day of a calculation.
+class ReadingsSource {
+ public:
+  explicit ReadingsSource(uint32_t choice) : choice_(choice) {}
+
+  // Whether the day has readings, which are then in readings().
+  bool Ask(const CalendarDate& jewish) {
+    if (choice_ != 0) {
+      OptionalEntries.LectionsGetReadingsBy(choice_, jewish.uDay, jewish.uMonth, jewish.uYear, &readings_);
+    } else {
+      LectionsGetReadings(jewish.uDay, jewish.uMonth, jewish.uYear, &readings_);
+    }
+    return readings_.torah1[0] != '\0';
+  }
+  bool IsYizkor(const CalendarDate& jewish) const {
+    if (choice_ != 0) {
+      return OptionalEntries.LectionsIsYizkorBy(choice_, jewish.uDay, jewish.uMonth, jewish.uYear) != 0;
+    }
+    return LectionsIsYizkor(jewish.uDay, jewish.uMonth, jewish.uYear) != 0;
+  }
+  const LectionsReadings& readings() const { return readings_; }
+
+ private:
+  uint32_t choice_;  // 0: what is set now
+  LectionsReadings readings_{};
+};
 
 template <std::size_t size>
 void Copy(const char (&from)[size], char (&to)[kTextSize]) {
@@ -28,8 +52,9 @@ void Copy(const char (&from)[size], char (&to)[kTextSize]) {
   to[text.copy(to, kTextSize - 1)] = '\0';
 }
 
-void FillEntry(const LectionsReadings& readings, int32_t day, const CalendarDate& jewish, uint32_t language,
+void FillEntry(const ReadingsSource& source, int32_t day, const CalendarDate& jewish, uint32_t language,
                ReadingsEntry& entry) {
+  const LectionsReadings& readings = source.readings();
   entry.date = DateFromAbsolute(day);
   Copy(readings.torah1, entry.torah1);
   Copy(readings.torah2, entry.torah2);
@@ -39,44 +64,86 @@ void FillEntry(const LectionsReadings& readings, int32_t day, const CalendarDate
   Copy(readings.haftarah3, entry.haftarah3);
   Copy(readings.extraText, entry.extraText);
   SplitReadings(entry, language);
-  entry.isYizkor = LectionsIsYizkor(jewish.uDay, jewish.uMonth, jewish.uYear) ? 1 : 0;
+  entry.isYizkor = source.IsYizkor(jewish) ? 1 : 0;
 }
 
-uint32_t CountReadingDays(int32_t first, int32_t last, LectionsReadings& readings) {
+uint32_t CountReadingDays(ReadingsSource& source, int32_t first, int32_t last, LongRange longRange) {
   uint32_t count = 0;
   for (int32_t day = first; day <= last; ++day) {
-    if (!GetReadings(JewishFromAbsolute(day), readings)) continue;
+    if (!source.Ask(JewishFromAbsolute(day))) continue;
     if (++count <= kMaximumReadingDays) continue;
-    ShowStop(nullptr, TableString(IDS_TOO_MANY_SHABBAT_TIMES), TableString(IDS_TITLE));
+    if (longRange == LongRange::kReport) {
+      ShowStop(nullptr, TableString(IDS_TOO_MANY_SHABBAT_TIMES), TableString(IDS_TITLE));
+    }
     break;
   }
   return count;
 }
 
+// Null when there is no memory for it.
+HGLOBAL BuildList(ReadingsSource& source, int32_t first, int32_t last, uint32_t count, uint32_t language) {
+  const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, ReadingsBlockSize(count));
+  const ScopedGlobalLock<ReadingsList> list(block);
+  if (!list) return nullptr;
+  uint32_t filled = 0;
+  for (int32_t day = first; day <= last && filled < count; ++day) {
+    const CalendarDate jewish = JewishFromAbsolute(day);
+    if (source.Ask(jewish)) FillEntry(source, day, jewish, language, list->entries[filled++]);
+  }
+  // A settings change between the two passes can leave fewer days than were counted.
+  list->count = filled;
+  return block;
+}
+
+HGLOBAL BlockOf(const ReadingsForm& form) {
+  const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, sizeof form);
+  if (const ScopedGlobalLock<ReadingsForm> stored(block); stored) *stored.get() = form;
+  return block;
+}
+
+// Readings never stand without their form.
+void Attach(HWND document, HGLOBAL readings, const ReadingsForm& form) {
+  const HGLOBAL formBlock = readings ? BlockOf(form) : nullptr;
+  if (readings && !formBlock) {
+    GlobalFree(readings);
+    readings = nullptr;
+  }
+  ReplaceBlockProperty(document, property::kParashaReadings, readings);
+  ReplaceBlockProperty(document, property::kReadingsForm, formBlock);
+  RefreshReadingsView(document);
+}
+
+// The form comes first: should the language change while the readings are asked for, the form is not that which is set,
+// and the next look tells.
+void Compute(HWND document, const DateRange& range, LongRange longRange, uint32_t choice) {
+  const ReadingsForm form = ReadingsFormNow(choice);
+  const auto source = std::make_unique<ReadingsSource>(choice);
+  const int32_t first = AbsoluteFromDate(range.start);
+  const int32_t last = AbsoluteFromDate(range.end);
+  const uint32_t count = CountReadingDays(*source, first, last, longRange);
+  if (count == 0) return;
+  Attach(document, BuildList(*source, first, last, count, form.language), form);
+}
+
+bool IsOutdated(HWND document) {
+  const ScopedGlobalLock<const ReadingsForm> form(GetBlockProperty(document, property::kReadingsForm));
+  return form && !IsSameForm(*form.get(), ReadingsFormNow(form->choice));
+}
+
 }  // namespace
+
+void ComputeReadings(HWND document, const DateRange& range, LongRange longRange) {
+  Compute(document, range, longRange, ReadingsChoiceNow());
+}
 
 void BuildReadingsList(HWND document, uint32_t startDay, uint32_t startMonth, uint32_t startYear, uint32_t endDay,
                        uint32_t endMonth, uint32_t endYear) {
-  const auto readings = std::make_unique<LectionsReadings>();
-  const int32_t first = AbsoluteFromDate({startDay, startMonth, startYear});
-  const int32_t last = AbsoluteFromDate({endDay, endMonth, endYear});
-  const uint32_t count = CountReadingDays(first, last, *readings);
-  if (count == 0) return;
+  ComputeReadings(document, {{startDay, startMonth, startYear}, {endDay, endMonth, endYear}}, LongRange::kReport);
+}
 
-  const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, ReadingsBlockSize(count));
-  {
-    const ScopedGlobalLock<ReadingsList> list(block);
-    if (!list) return;
-    const uint32_t language = LectionsGetLanguage();
-    list->count = count;
-    uint32_t filled = 0;
-    for (int32_t day = first; day <= last && filled < count; ++day) {
-      const CalendarDate jewish = JewishFromAbsolute(day);
-      if (GetReadings(jewish, *readings)) FillEntry(*readings, day, jewish, language, list->entries[filled++]);
-    }
-    // A settings change between the two passes can leave fewer days than were counted.
-    list->count = filled;
-  }
-  ReplaceBlockProperty(document, property::kParashaReadings, block);
-  SetReadingsScrollRange(GetDlgItem(GetDlgItem(document, IDC_READINGS_PANE), IDC_READINGS_LIST_PANE));
+bool RenewReadings(HWND document) {
+  if (!IsOutdated(document)) return false;
+  const ScopedWaitCursor wait;
+  Compute(document, GetRangeProperties(document), LongRange::kCutSilently, ReadingsFormOf(document).choice);
+  return true;
 }

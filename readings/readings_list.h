@@ -5,8 +5,18 @@
 
 #include <cstdint>
 
-// Puts the readings of the days from start to end, both Gregorian and included, on the document in place of those that
-// it has. A range without any leaves them as they are. More days than a list may have are reported, and the list ends
-// with the day that exceeded it.
+#include "engine/core/records.h"
+
+// Puts the readings of the days of a range on the document in place of those that it has, together with the form that
+// they are in (readings_form.h). A range without any leaves both as they are; without memory the document has none.
+// More days than a list may have are reported or not, and the list ends with the day that exceeded it.
+void ComputeReadings(HWND document, const DateRange& range, LongRange longRange);
+
+// The same for the Gregorian days from start to end, both included, reporting too many.
 void BuildReadingsList(HWND document, uint32_t startDay, uint32_t startMonth, uint32_t startYear, uint32_t endDay,
                        uint32_t endMonth, uint32_t endYear);
+
+// Asks for the document's readings anew, of its own range and land and customs and without a word, when the language or
+// font of readings is another than the document's; whether it did. Called before they are shown or exported. A document
+// without readings is left alone.
+bool RenewReadings(HWND document);

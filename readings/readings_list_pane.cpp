@@ -1,15 +1,17 @@
 #include <cstring>
 
 #include "companion/glyphs.h"
-#include "companion/lections.h"
-#include "document/properties.h"
+#include "engine/properties.h"
 #include "output/date_text.h"
 #include "readings/core/readings_record.h"
 #include "readings/readings_font.h"
+#include "readings/readings_form.h"
+#include "readings/readings_list.h"
 #include "readings/readings_measures.h"
 #include "readings/readings_panes.h"
 #include "resources/ids.h"
 #include "win/list_pane_scroll.h"
+#include "win/pane.h"
 #include "win/scoped.h"
 
 namespace {
@@ -22,8 +24,9 @@ HWND DocumentOf(HWND pane) {
 }
 
 ReadingsGeometry GeometryOf(HWND pane) {
-  const HFONT programFont = GetFontProperty(DocumentOf(pane), property::kParashaFont);
-  const ReadingsFont textFont(programFont);
+  const HWND document = DocumentOf(pane);
+  const HFONT programFont = GetFontProperty(document, property::kParashaFont);
+  const ReadingsFont textFont(ReadingsFormOf(document).font, programFont);
   return MeasureReadings(pane, textFont.get(), programFont);
 }
 
@@ -32,7 +35,7 @@ struct Painter {
   HFONT programFont;
   HFONT textFont;
   ReadingsGeometry geometry;
-  char yizkor[kTextSize];
+  const char* yizkor;
 
   void Draw(HFONT font, int x, int y, const char* text) const {
     if (text[0] == '\0') return;
@@ -62,14 +65,15 @@ struct Painter {
   }
 };
 
-void PaintList(HWND pane, HDC dc) {
+void PaintList(HWND pane, HDC dc, const RECT&) {
   const HWND document = DocumentOf(pane);
   const HFONT programFont = GetFontProperty(document, property::kParashaFont);
-  const ReadingsFont textFont(programFont);
   const ScopedGlobalLock<const ReadingsList> list(GetBlockProperty(document, property::kParashaReadings));
   if (!list) return;
-  Painter painter{dc, programFont, textFont.get(), MeasureReadings(pane, textFont.get(), programFont), ""};
-  LectionsGetYizkor(painter.yizkor);
+  const ReadingsForm form = ReadingsFormOf(document);
+  const ReadingsFont textFont(form.font, programFont);
+  const Painter painter{dc, programFont, textFont.get(), MeasureReadings(pane, textFont.get(), programFont),
+                        form.yizkor};
   const ScopedTextColors colors(dc, kBlack, kWhite);
   const uint32_t first = static_cast<uint32_t>(GetScrollPos(pane, SB_VERT));
   for (uint32_t i = first; i < list->count; ++i) {
@@ -79,46 +83,27 @@ void PaintList(HWND pane, HDC dc) {
   }
 }
 
-LRESULT OnPaint(HWND pane) {
-  const ScopedPaint paint(pane);
-  PaintList(pane, paint.dc());
-  return 0;
+void Prepare(HWND pane) {
+  RenewReadings(DocumentOf(pane));
 }
 
 // The titles stand over the columns, which move when the scroll bar comes or goes.
-LRESULT OnSize(HWND pane) {
+void Resize(HWND pane, int, int) {
   SetReadingsScrollRange(pane);
   InvalidateRect(GetDlgItem(GetParent(pane), IDC_READINGS_HEADER_PANE), nullptr, TRUE);
-  return 0;
 }
 
-LRESULT OnVerticalScroll(HWND pane, int code, int thumb) {
+ListSteps StepsOf(HWND pane) {
   const ReadingsGeometry geometry = GeometryOf(pane);
-  ScrollLines(pane, code, thumb, geometry.PageStep(), geometry.EntryHeight());
-  return 0;
+  return {geometry.PageStep(), geometry.EntryHeight()};
 }
 
-LRESULT OnKeyDown(HWND pane, WPARAM key) {
-  ScrollByKey(pane, key);
-  return 0;
-}
-
-LRESULT OnMouseWheel(HWND pane, int16_t delta) {
-  WheelLines(pane, delta);
-  return 0;
-}
+constexpr ListPane kList{{Prepare, PaintList}, Resize, StepsOf};
 
 }  // namespace
 
 LRESULT CALLBACK ReadingsListPaneProc(HWND pane, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_PAINT: return OnPaint(pane);
-    case WM_SIZE: return OnSize(pane);
-    case WM_VSCROLL: return OnVerticalScroll(pane, LOWORD(wParam), HIWORD(wParam));
-    case WM_KEYDOWN: return OnKeyDown(pane, wParam);
-    case WM_MOUSEWHEEL: return OnMouseWheel(pane, static_cast<int16_t>(HIWORD(wParam)));
-  }
-  return DefWindowProcA(pane, message, wParam, lParam);
+  return ListPaneMessage(kList, pane, message, wParam, lParam);
 }
 
 void SetReadingsScrollRange(HWND listPane) {

@@ -10,3 +10,6 @@ LRESULT CALLBACK ReadingsListPaneProc(HWND pane, UINT message, WPARAM wParam, LP
 
 // Sets the list pane's scroll range by its height; the position stays, lowered to the range's end.
 void SetReadingsScrollRange(HWND listPane);
+
+// Sets the scrolling of a document's view up and has it painted. A document without the view is ignored.
+void RefreshReadingsView(HWND document);

@@ -4,9 +4,19 @@
 
 #include <cstdint>
 
-// Computes the zmanim of every day of a range at CurrentLocation; the new block replaces and frees the document's old
-// one, and the
-// zmanim view scrolls by the new one. In the user's own selection a custom time stored for the day and the document's
-// place wins. A range of more than 32,000 days is reported and cut.
+#include "engine/core/records.h"
+
+// Computes the zmanim of every day of a range at a place, together with the labels that say which zmanim they are; both
+// replace and free what the document had, and the zmanim view shows them. In the user's own selection a custom time
+// stored for the day and the place's name wins. A range of more than 32,000 days is cut, which is reported or not.
+// Without memory the document has no zmanim.
+void ComputeZmanim(HWND document, const Location& place, const DateRange& range, LongRange longRange);
+
+// The same at CurrentLocation, reporting too long a range. Custom times are those of the document's place.
 void CalculateZmanim(HWND document, uint32_t startDay, uint32_t startMonth, uint32_t startYear, uint32_t endDay,
                      uint32_t endMonth, uint32_t endYear);
+
+// Computes the document's zmanim anew, from its own place and range and without a word, when the zmanim in use are not
+// those that it has; whether it did. Called before they are shown, clicked, exported or printed. A document that was
+// never computed is left alone.
+bool RenewZmanim(HWND document);

@@ -1,6 +1,6 @@
 #include "zmanim/custom_zmanim.h"
 
-#include "zmanim/zmanim_names.h"
+#include "zmanim/zmanim_in_use.h"
 
 bool GetCustomZman(const OwnHoursHandle* store, const CalendarDate& date, const std::string& description,
                    const char* location, ClockTime& time) {
@@ -9,11 +9,14 @@ bool GetCustomZman(const OwnHoursHandle* store, const CalendarDate& date, const 
                      &time.minute) != 0;
 }
 
-bool SetCustomZman(const CalendarDate& date, uint32_t zman, const char* location, ClockTime time) {
-  const std::string description = LibraryZmanName(zman);
+bool StoreCustomZman(const CalendarDate& date, const std::string& description, const char* location, ClockTime time) {
   if (description.empty()) return false;
   ScopedCustomZmanim store;
   return OwnHoursSet(store.get(), date.uDay, date.uMonth, date.uYear, description.c_str(), location, time.hour,
                      time.minute) &&
          OwnHoursStore(store.get());
+}
+
+bool SetCustomZman(const CalendarDate& date, uint32_t zman, const char* location, ClockTime time) {
+  return StoreCustomZman(date, LibraryZmanName(zman), location, time);
 }

@@ -25,6 +25,8 @@ class ScopedCustomZmanim {
 bool GetCustomZman(const OwnHoursHandle* store, const CalendarDate& date, const std::string& description,
                    const char* location, ClockTime& time);
 
-// Stores a time for a zman of the library, by its index. False when it could not be stored, also for want of a
-// description.
+// Stores a time for the zman of a description. False when it could not be stored, also for want of a description.
+bool StoreCustomZman(const CalendarDate& date, const std::string& description, const char* location, ClockTime time);
+
+// The same for a zman of the library by its index now.
 bool SetCustomZman(const CalendarDate& date, uint32_t zman, const char* location, ClockTime time);

@@ -1,18 +1,20 @@
 #include "zmanim/edit_custom_zman.h"
 
+#include <algorithm>
 #include <optional>
+#include <span>
 #include <string>
 
-#include "app/string_table.h"
-#include "document/properties.h"
-#include "engine/settings_flags.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
 #include "win/scoped.h"
 #include "zmanim/core/zmanim_block.h"
+#include "zmanim/core/zmanim_labels.h"
 #include "zmanim/custom_zmanim.h"
 #include "zmanim/edit_zman_dialog.h"
-#include "zmanim/zmanim_names.h"
+#include "zmanim/zmanim_in_use.h"
 #include "zmanim/zmanim_time_text.h"
 
 namespace {
@@ -22,60 +24,97 @@ constexpr char kOnlyOwnSelection[] =
 
 constexpr char kNoTimeOfDay[] =
     "The time could not be stored, because it is no time of the day.\nPlease type an hour from 0 to 23 and a minute "
-    "from "
-    "0 to 59.";
+    "from 0 to 59.";
 
 // The dialog lets numbers through that are negative when their sign counts.
 bool IsTimeOfDay(ClockTime time) {
   return time.hour >= 0 && time.hour < kHoursPerDay && time.minute >= 0 && time.minute < kMinutesPerHour;
 }
 
-void ShowUnstored(HWND document, const CalendarDate& date, const std::string& description, const std::string& place,
-                  ClockTime time) {
-  const std::string day =
-      std::to_string(date.uDay) + "." + std::to_string(date.uMonth) + "." + std::to_string(date.uYear);
-  const std::string text = "The time " + ZmanTimeText(time) + " for \"" + description + "\" on " + day + " in " +
-                           place +
+std::string DayText(const CalendarDate& date) {
+  return std::to_string(date.uDay) + "." + std::to_string(date.uMonth) + "." + std::to_string(date.uYear);
+}
+
+// A time of a document as the user sees it: by what it is, not by where it stands.
+struct ShownZman {
+  std::string place;
+  CalendarDate date;
+  std::string description;
+  ClockTime time;
+};
+
+void ShowUnstored(HWND document, const ShownZman& zman, ClockTime time) {
+  const std::string text = "The time " + ZmanTimeText(time) + " for \"" + zman.description + "\" on " +
+                           DayText(zman.date) + " in " + zman.place +
                            " could not be stored.\nPlease check that the settings folder can be written to and that "
                            "the disk is not full, and try again.";
   ShowStop(document, text.c_str(), "Error");
 }
 
-bool IsInBlock(const ScopedGlobalLock<ZmanimBlock>& block, const ZmanimCell& cell) {
-  return block && cell.day < block->count && cell.zman < kMostZmanim;
+void ShowGone(HWND document, const ShownZman& zman, ClockTime time) {
+  const std::string text = "The time " + ZmanTimeText(time) + " for \"" + zman.description + "\" on " +
+                           DayText(zman.date) +
+                           " was not stored, because this zman is no longer in your selection.\nPlease add it to the "
+                           "selection and set the time again.";
+  ShowStop(document, text.c_str(), "Error");
+}
+
+std::optional<ShownZman> ShownAt(HWND document, const ZmanimCell& cell) {
+  const ScopedGlobalLock<const ZmanimBlock> block(GetBlockProperty(document, property::kZmanimTimes));
+  const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
+  if (!block || !labels || cell.day >= block->count || cell.zman >= labels->count) return std::nullopt;
+  const ZmanimDay& day = block->days[cell.day];
+  return ShownZman{DocumentPlace(document), day.date, labels->zmanim[cell.zman].english, day.times[cell.zman]};
+}
+
+bool IsSameDay(const CalendarDate& left, const CalendarDate& right) {
+  return left.uDay == right.uDay && left.uMonth == right.uMonth && left.uYear == right.uYear;
+}
+
+// Looks day and zman up again, since the document may have been computed anew, or closed, since they were shown;
+// whether it still has them.
+bool PutIntoBlock(HWND document, const ShownZman& zman, ClockTime time) {
+  const ScopedGlobalLock<ZmanimBlock> block(GetBlockProperty(document, property::kZmanimTimes));
+  const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
+  if (!block || !labels) return false;
+  const std::span days(block->days, block->count);
+  const auto day = std::ranges::find_if(days, [&](const ZmanimDay& d) { return IsSameDay(d.date, zman.date); });
+  const std::span rows(labels->zmanim, labels->count);
+  const auto row = std::ranges::find_if(rows, [&](const ZmanLabel& l) { return l.english == zman.description; });
+  if (day == days.end() || row == rows.end()) return false;
+  day->times[row - rows.begin()] = time;
+  return true;
+}
+
+bool IsOfLibrary(HWND document) {
+  const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
+  return labels && labels->fromLibrary;
+}
+
+// Whether the time could be stored; else the user has been told why not.
+bool Store(HWND document, const ShownZman& zman, ClockTime time) {
+  if (!IsTimeOfDay(time)) {
+    ShowStop(document, kNoTimeOfDay, "Error");
+    return false;
+  }
+  if (!zman.description.empty() && !IsSelected(zman.description)) {
+    ShowGone(document, zman, time);
+    return false;
+  }
+  if (StoreCustomZman(zman.date, zman.description, zman.place.c_str(), time)) return true;
+  ShowUnstored(document, zman, time);
+  return false;
 }
 
 }  // namespace
 
 bool EditCustomZman(HWND document, const ZmanimCell& cell) {
-  if (!ZmanimEnabled()) {
+  const std::optional<ShownZman> zman = ShownAt(document, cell);
+  if (!zman) return false;
+  if (!IsOfLibrary(document)) {
     ShowInformation(document, kOnlyOwnSelection, TableString(IDS_TITLE));
     return false;
   }
-  const HGLOBAL handle = GetBlockProperty(document, property::kZmanimTimes);
-  CalendarDate date{};
-  ClockTime current{};
-  {
-    const ScopedGlobalLock<ZmanimBlock> block(handle);
-    if (!IsInBlock(block, cell)) return false;
-    date = block->days[cell.day].date;
-    current = block->days[cell.day].times[cell.zman];
-  }
-  const std::string description = LibraryZmanName(cell.zman);
-  const std::optional<ClockTime> typed = EditZmanDialog(document, date, description, current);
-  if (!typed) return false;
-  if (!IsTimeOfDay(*typed)) {
-    ShowStop(document, kNoTimeOfDay, "Error");
-    return false;
-  }
-  const std::string place = DocumentPlace(document);
-  if (!SetCustomZman(date, cell.zman, place.c_str(), *typed)) {
-    ShowUnstored(document, date, description, place, *typed);
-    return false;
-  }
-  // The document may have been computed anew meanwhile, or closed.
-  const ScopedGlobalLock<ZmanimBlock> block(GetBlockProperty(document, property::kZmanimTimes));
-  if (!IsInBlock(block, cell)) return false;
-  block->days[cell.day].times[cell.zman] = *typed;
-  return true;
+  const std::optional<ClockTime> typed = EditZmanDialog(document, zman->date, zman->description, zman->time);
+  return typed && Store(document, *zman, *typed) && PutIntoBlock(document, *zman, *typed);
 }

@@ -1,8 +1,9 @@
 #include "zmanim/export_zmanim.h"
 
-#include "document/properties.h"
+#include "engine/properties.h"
 #include "win/file_sink.h"
 #include "win/scoped.h"
+#include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/zmanim_export.h"
 #include "zmanim/zmanim_export_data.h"
 
@@ -14,11 +15,12 @@ constexpr std::size_t kTextWidth = 70;
 std::string lastTextFile;
 std::string lastRtfFile;
 
-// Has a file written from the document's block, which nothing replaces meanwhile. write is called with a sink and the
-// data.
+// Has a file written from the document's block, brought up to date first, which nothing replaces meanwhile. write is
+// called with a sink and the data.
 template <typename Writer>
 void WriteFile(HWND document, const std::string& file, Writer write) {
   const ScopedWaitCursor wait;
+  RenewZmanim(document);
   ZmanimExport data = DescribeZmanim(document);
   const ScopedGlobalLock<const ZmanimBlock> block(GetBlockProperty(document, property::kZmanimTimes));
   if (block) data.days = std::span(block->days, block->count);

@@ -5,14 +5,15 @@
 #include <string>
 #include <vector>
 
-#include "app/string_table.h"
-#include "document/print_abort_dialog.h"
-#include "document/properties.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
 #include "win/scoped.h"
+#include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/zmanim_page.h"
 #include "zmanim/core/zmanim_print_plan.h"
+#include "zmanim/print_abort_dialog.h"
 #include "zmanim/printer_surface.h"
 #include "zmanim/zmanim_export_data.h"
 
@@ -23,6 +24,20 @@ constexpr char kDocumentName[] = "Zmanim Times";
 
 // Answers of the spooler below this one are failures.
 constexpr int kFirstSuccess = 1;
+
+// Says for its scope that a job runs. The abort dialog does not tell: it goes when the user cancels, before the job has
+// ended.
+class ScopedPrintJob {
+ public:
+  ScopedPrintJob() { running_ = true; }
+  ~ScopedPrintJob() { running_ = false; }
+  ScopedPrintJob(const ScopedPrintJob&) = delete;
+  ScopedPrintJob& operator=(const ScopedPrintJob&) = delete;
+  static bool IsRunning() { return running_; }
+
+ private:
+  static inline bool running_ = false;
+};
 
 struct PrinterChoice {
   HDC printer;  // null: cancelled
@@ -98,6 +113,7 @@ std::vector<ZmanimDay> DaysOf(HWND document) {
 
 void PrintPages(HDC printer, HWND document) {
   const ScopedWaitCursor wait;
+  RenewZmanim(document);
   const std::vector<ZmanimDay> days = DaysOf(document);
   ZmanimExport data = DescribeZmanim(document);
   data.days = days;
@@ -127,7 +143,8 @@ void FinishDocument(HWND owner, HDC printer) {
 }  // namespace
 
 void PrintZmanim(HWND owner, HWND document) {
-  if (PrintAbort.dialog) return;
+  if (ScopedPrintJob::IsRunning()) return;
+  const ScopedPrintJob running;
   const PrinterChoice choice =
       RunPrintDialog(owner, PD_RETURNDC | PD_NOSELECTION | PD_NOPAGENUMS | PD_USEDEVMODECOPIESANDCOLLATE);
   if (!choice.printer) return;

@@ -1,7 +1,7 @@
 #include "zmanim/printer_surface.h"
 
 #include "companion/glyphs.h"
-#include "win/display_font.h"
+#include "win/make_font.h"
 
 namespace {
 

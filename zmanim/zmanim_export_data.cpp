@@ -1,11 +1,12 @@
 #include "zmanim/zmanim_export_data.h"
 
-#include "app/string_table.h"
 #include "companion/glyphs.h"
 #include "companion/stamp.h"
-#include "document/properties.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
-#include "zmanim/zmanim_names.h"
+#include "win/scoped.h"
+#include "zmanim/zmanim_in_use.h"
 
 namespace {
 
@@ -18,12 +19,15 @@ std::string HebrewFontName() {
 }  // namespace
 
 ZmanimExport DescribeZmanim(HWND document) {
-  const ZmanimInUse inUse = GetZmanimInUse();
+  const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
+  const auto names = [&labels](auto language) {
+    return labels ? NamesOf(*labels.get(), language) : std::vector<std::string>();
+  };
   return {.location = DocumentPlace(document),
           .dateTitle = TableString(IDS_DATE),
-          .names = ZmanNames(inUse),
-          .hebrew = LegendIsHebrew(inUse),
-          .hebrewNames = HebrewZmanNames(inUse.count),
+          .names = names(&ZmanLabel::english),
+          .hebrew = labels && IsLegendHebrew(*labels.get()),
+          .hebrewNames = names(&ZmanLabel::hebrew),
           .hebrewFont = HebrewFontName(),
           .vilnaGaon = TableString(IDS_VILNA_GAON),
           .magenAvraham = TableString(IDS_MAGEN_AVRAHAM),

@@ -1,10 +1,11 @@
 #include <cstring>
 #include <string>
 
-#include "app/string_table.h"
 #include "companion/glyphs.h"
-#include "document/properties.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
+#include "win/pane.h"
 #include "win/scoped.h"
 #include "zmanim/zmanim_measures.h"
 #include "zmanim/zmanim_panes.h"
@@ -26,8 +27,10 @@ void DrawNumbers(HDC dc, const ZmanimGeometry& geometry, const RECT& client, con
 
 void PaintHeading(HWND pane, HDC dc, const RECT& area) {
   const HWND container = GetParent(pane);
-  const HFONT font = GetFontProperty(GetParent(container), property::kBoldZmanimFont);
-  const ZmanimGeometry geometry = MeasureZmanimTable(GetDlgItem(container, IDC_ZMANIM_TABLE), dc, font, nullptr);
+  const HWND document = GetParent(container);
+  const HFONT font = GetFontProperty(document, property::kBoldZmanimFont);
+  const ZmanimGeometry geometry = MeasureZmanimTable(GetDlgItem(container, IDC_ZMANIM_TABLE), dc, font, nullptr,
+                                                     GetBlockProperty(document, property::kZmanimLabels));
   RECT client;
   GetClientRect(pane, &client);
 
@@ -44,15 +47,10 @@ void PaintHeading(HWND pane, HDC dc, const RECT& area) {
   DrawNumbers(dc, geometry, client, area);
 }
 
-LRESULT OnPaint(HWND pane) {
-  const ScopedPaint paint(pane);
-  PaintHeading(pane, paint.dc(), paint.area());
-  return 0;
-}
+constexpr PanePainting kPainting{PrepareZmanimPane, PaintHeading};
 
 }  // namespace
 
 LRESULT CALLBACK ZmanimHeadingPaneProc(HWND pane, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_PAINT) return OnPaint(pane);
-  return DefWindowProcA(pane, message, wParam, lParam);
+  return PaintingPaneMessage(kPainting, pane, message, wParam, lParam);
 }

@@ -1,15 +1,16 @@
 #include <string>
 
-#include "app/string_table.h"
 #include "companion/glyphs.h"
-#include "document/properties.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
-#include "win/display_font.h"
+#include "win/make_font.h"
+#include "win/pane.h"
 #include "win/scoped.h"
 #include "win/text_metrics.h"
 #include "zmanim/core/right_to_left_flow.h"
 #include "zmanim/core/zmanim_legend.h"
-#include "zmanim/zmanim_names.h"
+#include "zmanim/zmanim_in_use.h"
 #include "zmanim/zmanim_panes.h"
 
 namespace {
@@ -23,7 +24,7 @@ int WordWidth(HDC dc, std::string_view word) {
   return size.cx;
 }
 
-void PaintHebrewLegend(HDC dc, const RECT& client, const ZmanimInUse& inUse) {
+void PaintHebrewLegend(HDC dc, const RECT& client, const ZmanimLabels& labels) {
   char face[LF_FACESIZE];
   GlyphsGetHebrewFontName(face);
   const ScopedGdiObject<HFONT> font(MakeFont(face, kHebrewFontPoints, FW_DONTCARE));
@@ -34,33 +35,39 @@ void PaintHebrewLegend(HDC dc, const RECT& client, const ZmanimInUse& inUse) {
       [dc](int x, int y, std::string_view word) {
         GlyphsTextOut(dc, x, y, word.data(), static_cast<int>(word.size()));
       });
-  FlowHebrewLegend(flow, HebrewZmanNames(inUse.count));
+  FlowHebrewLegend(flow, NamesOf(labels, &ZmanLabel::hebrew));
 }
 
-void PaintEnglishLegend(HDC dc, RECT client, HFONT font, const ZmanimInUse& inUse) {
+void PaintEnglishLegend(HDC dc, RECT client, HFONT font, const ZmanimLabels& labels) {
   const ScopedSelect selectedFont(dc, font);
-  const std::string legend =
-      ZmanimLegend(ZmanNames(inUse), 1, kSpacing, TableString(IDS_VILNA_GAON), TableString(IDS_MAGEN_AVRAHAM));
+  const std::string legend = ZmanimLegend(NamesOf(labels, &ZmanLabel::english), 1, kSpacing,
+                                          TableString(IDS_VILNA_GAON), TableString(IDS_MAGEN_AVRAHAM));
   GlyphsDrawText(dc, legend.c_str(), static_cast<int>(legend.size()), &client, DT_WORDBREAK | DT_NOPREFIX);
 }
 
-LRESULT OnPaint(HWND pane) {
-  const ScopedPaint paint(pane);
+void PaintLegend(HWND pane, HDC dc, const RECT&) {
+  const HWND document = GetParent(GetParent(pane));
+  const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
+  if (!labels) return;
   RECT client;
   GetClientRect(pane, &client);
-  const ZmanimInUse inUse = GetZmanimInUse();
-  if (LegendIsHebrew(inUse)) {
-    PaintHebrewLegend(paint.dc(), client, inUse);
+  if (IsLegendHebrew(*labels.get())) {
+    PaintHebrewLegend(dc, client, *labels.get());
   } else {
-    const HFONT font = GetFontProperty(GetParent(GetParent(pane)), property::kBoldZmanimFont);
-    PaintEnglishLegend(paint.dc(), client, font, inUse);
+    PaintEnglishLegend(dc, client, GetFontProperty(document, property::kBoldZmanimFont), *labels.get());
   }
-  return 0;
 }
+
+// The legend is one text, in one language: it is never painted in part.
+void Prepare(HWND pane) {
+  PrepareZmanimPane(pane);
+  InvalidateRect(pane, nullptr, TRUE);
+}
+
+constexpr PanePainting kPainting{Prepare, PaintLegend};
 
 }  // namespace
 
 LRESULT CALLBACK ZmanimLegendPaneProc(HWND pane, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_PAINT) return OnPaint(pane);
-  return DefWindowProcA(pane, message, wParam, lParam);
+  return PaintingPaneMessage(kPainting, pane, message, wParam, lParam);
 }

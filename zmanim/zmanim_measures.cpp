@@ -5,7 +5,7 @@
 #include "win/scoped.h"
 #include "win/text_metrics.h"
 #include "zmanim/core/zmanim_block.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/core/zmanim_labels.h"
 
 namespace {
 
@@ -18,11 +18,12 @@ int DateWidth(HDC dc, HFONT font) {
 
 }  // namespace
 
-ZmanimGeometry MeasureZmanimTable(HWND table, HDC dc, HFONT font, HGLOBAL block) {
+ZmanimGeometry MeasureZmanimTable(HWND table, HDC dc, HFONT font, HGLOBAL block, HGLOBAL labels) {
   RECT client;
   GetClientRect(table, &client);
   const FontMeasure measure = MeasureFont(dc, font);
   const ScopedGlobalLock<const ZmanimBlock> days(block);
+  const ScopedGlobalLock<const ZmanimLabels> zmanim(labels);
   return {.clientWidth = client.right,
           .clientHeight = client.bottom,
           .rowHeight = measure.lineHeight,
@@ -32,5 +33,5 @@ ZmanimGeometry MeasureZmanimTable(HWND table, HDC dc, HFONT font, HGLOBAL block)
           .firstDay = static_cast<uint32_t>(GetScrollPos(table, SB_VERT)),
           .firstZman = static_cast<uint32_t>(GetScrollPos(table, SB_HORZ)),
           .dayCount = days ? days->count : 0,
-          .zmanCount = GetZmanimCount()};
+          .zmanCount = zmanim ? zmanim->count : 0};
 }

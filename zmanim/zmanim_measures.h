@@ -4,6 +4,6 @@
 
 #include "zmanim/core/zmanim_geometry.h"
 
-// The geometry of the table as it stands, or, in its own font, of the heading above it. block is the document's
-// ZmanimTimes and may be null.
-ZmanimGeometry MeasureZmanimTable(HWND table, HDC dc, HFONT font, HGLOBAL block);
+// The geometry of the table as it stands, or, in its own font, of the heading above it. block and labels are the
+// document's ZmanimTimes and ZmanimLabels and may be null.
+ZmanimGeometry MeasureZmanimTable(HWND table, HDC dc, HFONT font, HGLOBAL block, HGLOBAL labels);

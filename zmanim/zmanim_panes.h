@@ -1,6 +1,6 @@
 // The zmanim view of a document: a container with a legend that names the numbered zmanim, a heading of their numbers
-// and a table of days by zmanim. The panes keep nothing themselves; they read times and fonts from their document
-// whenever they paint.
+// and a table of days by zmanim. The panes keep nothing themselves; they read times, labels and fonts from their
+// document whenever they paint.
 #pragma once
 
 #include <windows.h>
@@ -14,7 +14,10 @@ LRESULT CALLBACK ZmanimLegendPaneProc(HWND pane, UINT message, WPARAM wParam, LP
 // ranges' ends.
 void SetupZmanimScroll(HWND table, int width, int height);
 
-// Lays the view of a document out anew, sets its scrolling up and has it painted, for whenever what it shows has
-// changed from outside: after a calculation, another form of times, other zmanim in use. A document without the view is
+// Lays the view of a document out anew, sets its scrolling up and has it painted. A document without the view is
 // ignored.
 void RefreshZmanimView(HWND document);
+
+// What each pane of the view does before it paints: where the zmanim in use are others than the document's, they are
+// computed anew; where the form of times is another, the view is laid out anew.
+void PrepareZmanimPane(HWND pane);

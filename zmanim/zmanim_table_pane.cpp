@@ -4,11 +4,13 @@
 #include <string>
 
 #include "companion/glyphs.h"
-#include "document/properties.h"
+#include "engine/properties.h"
 #include "output/date_text.h"
 #include "resources/ids.h"
 #include "win/list_pane_scroll.h"
+#include "win/pane.h"
 #include "win/scoped.h"
+#include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/zmanim_block.h"
 #include "zmanim/edit_custom_zman.h"
 #include "zmanim/zmanim_measures.h"
@@ -33,7 +35,8 @@ ZmanimGeometry GeometryOf(HWND table, const char* font = property::kZmanimFont) 
   const HWND document = DocumentOf(table);
   const ScopedWindowDc dc(table);
   return MeasureZmanimTable(table, dc.dc(), GetFontProperty(document, font),
-                            GetBlockProperty(document, property::kZmanimTimes));
+                            GetBlockProperty(document, property::kZmanimTimes),
+                            GetBlockProperty(document, property::kZmanimLabels));
 }
 
 void DrawText(HDC dc, const ZmanimGeometry& geometry, const PaneRect& cell, const std::string& text) {
@@ -54,7 +57,8 @@ void PaintTable(HWND table, HDC dc, const RECT& update) {
   const HWND document = DocumentOf(table);
   const HFONT font = GetFontProperty(document, property::kZmanimFont);
   const HGLOBAL handle = GetBlockProperty(document, property::kZmanimTimes);
-  const ZmanimGeometry geometry = MeasureZmanimTable(table, dc, font, handle);
+  const ZmanimGeometry geometry =
+      MeasureZmanimTable(table, dc, font, handle, GetBlockProperty(document, property::kZmanimLabels));
   const PaneRect area{update.left, update.top, update.right - update.left, update.bottom - update.top};
   const ScopedSelect selectedFont(dc, font);
   const ScopedTextColors colors(dc, kBlack, kWhite);
@@ -63,22 +67,16 @@ void PaintTable(HWND table, HDC dc, const RECT& update) {
   for (uint32_t day = days.begin; day < days.end; ++day) DrawDay(dc, geometry, day, block->days[day], area);
 }
 
-LRESULT OnPaint(HWND table) {
-  const ScopedPaint paint(table);
-  PaintTable(table, paint.dc(), paint.area());
-  return 0;
-}
-
-LRESULT OnSize(HWND table, int width, int height) {
+void Resize(HWND table, int width, int height) {
   SetupZmanimScroll(table, width, height);
-  return 0;
 }
 
-LRESULT OnVerticalScroll(HWND table, int code, int thumb) {
+ListSteps StepsOf(HWND table) {
   const ZmanimGeometry geometry = GeometryOf(table);
-  ScrollLines(table, code, thumb, geometry.WholeRows(), geometry.rowHeight);
-  return 0;
+  return {geometry.WholeRows(), geometry.rowHeight};
 }
+
+constexpr ListPane kTable{{PrepareZmanimPane, PaintTable}, Resize, StepsOf};
 
 // The columns of a pane move by so many of them; the dates stay, and so does what the heading has beyond the table's
 // edge, where it shows no numbers.
@@ -107,20 +105,17 @@ LRESULT OnHorizontalScroll(HWND table, int code, int thumb) {
   return 0;
 }
 
-LRESULT OnKeyDown(HWND table, WPARAM key) {
-  if (key == VK_LEFT) return SendMessageA(table, WM_HSCROLL, SB_LINELEFT, 0);
-  if (key == VK_RIGHT) return SendMessageA(table, WM_HSCROLL, SB_LINERIGHT, 0);
-  ScrollByKey(table, key);
-  return 0;
+// Whether the key scrolls sideways.
+bool TakeSidewaysKey(HWND table, WPARAM key) {
+  if (key != VK_LEFT && key != VK_RIGHT) return false;
+  SendMessageA(table, WM_HSCROLL, key == VK_LEFT ? SB_LINELEFT : SB_LINERIGHT, 0);
+  return true;
 }
 
-LRESULT OnMouseWheel(HWND table, int16_t delta) {
-  if (IsWheelDelta(delta)) WheelLines(table, delta);
-  return 0;
-}
-
-// A click beside the times does nothing.
+// A click beside the times does nothing. A click on times that are no longer those in use only has the new ones shown:
+// the user has not seen them yet.
 LRESULT OnLeftButtonUp(HWND table, int x, int y) {
+  if (RenewZmanim(DocumentOf(table))) return 0;
   const std::optional<ZmanimCell> cell = GeometryOf(table).CellAt(x, y);
   if (!cell || !EditCustomZman(DocumentOf(table), *cell)) return 0;
   InvalidateRect(table, nullptr, TRUE);
@@ -132,15 +127,13 @@ LRESULT OnLeftButtonUp(HWND table, int x, int y) {
 
 LRESULT CALLBACK ZmanimTablePaneProc(HWND table, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_SIZE: return OnSize(table, LOWORD(lParam), HIWORD(lParam));
-    case WM_PAINT: return OnPaint(table);
-    case WM_KEYDOWN: return OnKeyDown(table, wParam);
+    case WM_KEYDOWN:
+      if (TakeSidewaysKey(table, wParam)) return 0;
+      break;
     case WM_HSCROLL: return OnHorizontalScroll(table, LOWORD(wParam), HIWORD(wParam));
-    case WM_VSCROLL: return OnVerticalScroll(table, LOWORD(wParam), HIWORD(wParam));
     case WM_LBUTTONUP: return OnLeftButtonUp(table, GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
-    case WM_MOUSEWHEEL: return OnMouseWheel(table, static_cast<int16_t>(HIWORD(wParam)));
   }
-  return DefWindowProcA(table, message, wParam, lParam);
+  return ListPaneMessage(kTable, table, message, wParam, lParam);
 }
 
 void SetupZmanimScroll(HWND table, int width, int height) {

@@ -100,6 +100,16 @@ int32_t HoursGetDescriptionHebrew(uint32_t index, char* text) try {
   return 0;
 }
 
+void HoursGetFingerprint(uint32_t fingerprint[2]) try {
+  if (!fingerprint) return;
+  const hours::SelectionLock selection;
+  fingerprint[0] = static_cast<uint32_t>(selection.Fingerprint());
+  fingerprint[1] = static_cast<uint32_t>(selection.Fingerprint() >> 32);
+} catch (...) {
+  fingerprint[0] = 0;
+  fingerprint[1] = 0;
+}
+
 int32_t HoursCalculate2(HWND, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes, uint32_t day,
                         uint32_t month, uint32_t year, uint32_t index, int32_t sunriseHour, int32_t sunriseMinute,
                         int32_t sunsetHour, int32_t sunsetMinute) try {

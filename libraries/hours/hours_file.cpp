@@ -1,6 +1,7 @@
 #include "libraries/hours/hours_file.h"
 
 #include "libraries/hours/description_text.h"
+#include "libraries/hours/fingerprint.h"
 #include "libraries/settings_folder/settings_folder_win.h"
 #include "libraries/settings_folder/watched_file.h"
 
@@ -12,14 +13,17 @@ struct ChoiceFile {
   settings_folder::WatchedFile watched{"hours.txt"};
   Choice choice;
   std::vector<AnsweredZman> zmanim;
+  uint64_t fingerprint = 0;
 };
 
 ChoiceFile choiceFile;
 
 void TakeUp(std::string_view text) {
   choiceFile.choice = ReadChoice(text);
+  std::vector<DescribedZman> chosen = ChosenZmanim(choiceFile.choice);
+  choiceFile.fingerprint = FingerprintOf(chosen);
   choiceFile.zmanim.clear();
-  for (DescribedZman& zman : ChosenZmanim(choiceFile.choice)) {
+  for (DescribedZman& zman : chosen) {
     choiceFile.zmanim.push_back({std::move(zman.description), DisplayHebrew(zman.hebrew), zman.definition});
   }
 }
@@ -37,6 +41,10 @@ SelectionLock::SelectionLock() : lock_(choiceFile.mutex) {
 
 const std::vector<AnsweredZman>& SelectionLock::Zmanim() const {
   return choiceFile.zmanim;
+}
+
+uint64_t SelectionLock::Fingerprint() const {
+  return choiceFile.fingerprint;
 }
 
 Choice StoredChoice() {

@@ -1,6 +1,7 @@
 // The choice's file "hours.txt". May be used by several threads at once.
 #pragma once
 
+#include <cstdint>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -24,6 +25,9 @@ class SelectionLock {
 
   // The chosen zmanim in their order, at most 50 ms old.
   const std::vector<AnsweredZman>& Zmanim() const;
+
+  // Theirs, as FingerprintOf gives it.
+  uint64_t Fingerprint() const;
 
  private:
   std::lock_guard<std::mutex> lock_;

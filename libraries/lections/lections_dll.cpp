@@ -19,6 +19,7 @@ namespace {
 constexpr char kFaceName[] = "Times New Roman";
 constexpr uint32_t kPointSize = 12;
 constexpr size_t kYizkorBuffer = 256;
+constexpr uint32_t kStoredChoice = 0;  // no choice is 0
 
 // A number that no calendar has becomes 0, which none has either.
 int32_t Signed(uint32_t number) {
@@ -38,10 +39,20 @@ void Copy(const std::string& text, char* buffer, size_t bufferSize) {
 static_assert(sizeof(LectionsReadings) == 1804);
 static_assert(sizeof(LectionsFont) == 268);
 
-void LectionsGetReadings(uint32_t day, uint32_t month, uint32_t year, LectionsReadings* readings) try {
+uint32_t LectionsGetChoice(void) try { return lections::ChoiceOf(lections::StoredSettings()); } catch (...) {
+  return lections::ChoiceOf({});
+}
+
+void LectionsGetReadings(uint32_t day, uint32_t month, uint32_t year, LectionsReadings* readings) {
+  LectionsGetReadingsBy(kStoredChoice, day, month, year, readings);
+}
+
+void LectionsGetReadingsBy(uint32_t choice, uint32_t day, uint32_t month, uint32_t year,
+                           LectionsReadings* readings) try {
   if (!readings) return;
   *readings = {};
-  const lections::ReadingTexts texts = lections::TextsOn(DateOf(day, month, year), lections::StoredSettings());
+  const lections::Settings settings = lections::SettingsBy(choice, lections::StoredSettings());
+  const lections::ReadingTexts texts = lections::TextsOn(DateOf(day, month, year), settings);
   Copy(texts.torah[0], readings->torah1, sizeof readings->torah1);
   Copy(texts.torah[1], readings->torah2, sizeof readings->torah2);
   Copy(texts.torah[2], readings->torah3, sizeof readings->torah3);
@@ -57,9 +68,14 @@ uint32_t LectionsGetLanguage(void) try { return lections::StoredSettings().langu
   return lections::Languages()[0]->code;
 }
 
-int32_t LectionsIsYizkor(uint32_t day, uint32_t month, uint32_t year) try {
+int32_t LectionsIsYizkor(uint32_t day, uint32_t month, uint32_t year) {
+  return LectionsIsYizkorBy(kStoredChoice, day, month, year);
+}
+
+int32_t LectionsIsYizkorBy(uint32_t choice, uint32_t day, uint32_t month, uint32_t year) try {
   const calendar::Date date = DateOf(day, month, year);
-  return lections::IsJewishDate(date) && lections::IsYizkor(date, lections::StoredSettings().land);
+  const lections::Settings settings = lections::SettingsBy(choice, lections::StoredSettings());
+  return lections::IsJewishDate(date) && lections::IsYizkor(date, settings.land);
 } catch (...) {
   return 0;
 }

@@ -26,6 +26,13 @@ constexpr char kLand[] = "Land";
 constexpr char kCustom[] = "Custom";
 constexpr char kLanguage[] = "Language";
 
+// A number made of settings: a mark, which tells one kind of packing from others, then the switches in the order of
+// kSwitchKeys, the customs and the land in the lowest bit. Whoever adds a setting takes another mark.
+constexpr uint32_t kChoiceMark = 0x4C310000;
+constexpr unsigned kLandBits = 1;
+constexpr unsigned kCustomsBits = 2;
+constexpr unsigned kFirstSwitchBit = kLandBits + kCustomsBits;
+
 struct Switch {
   const char* key;
   bool& (*of)(Settings& settings);
@@ -71,6 +78,25 @@ Settings SettingsFrom(const ReadKey& read, Land landOfRegion) {
   for (const Switch& choice : kSwitchKeys) Take(read(choice.key), kSwitches, choice.of(settings));
   settings.language = LanguageFrom(read(kLanguage));
   return settings;
+}
+
+uint32_t ChoiceOf(const Settings& settings) {
+  uint32_t choice = kChoiceMark | static_cast<uint32_t>(settings.land);
+  choice |= static_cast<uint32_t>(settings.customs) << kLandBits;
+  Settings copy = settings;
+  unsigned bit = kFirstSwitchBit;
+  for (const Switch& setting : kSwitchKeys) choice |= (setting.of(copy) ? 1u : 0u) << bit++;
+  return choice;
+}
+
+Settings SettingsBy(uint32_t choice, const Settings& stored) {
+  Settings settings = stored;
+  settings.land = static_cast<Land>(choice % (1 << kLandBits));
+  settings.customs = static_cast<Customs>((choice >> kLandBits) % (1 << kCustomsBits));
+  unsigned bit = kFirstSwitchBit;
+  for (const Switch& setting : kSwitchKeys) setting.of(settings) = (choice >> bit++) % 2 != 0;
+  const bool isChoice = settings.customs <= Customs::kBoth && ChoiceOf(settings) == choice;
+  return isChoice ? settings : stored;
 }
 
 std::vector<KeyValue> ValuesOf(const Settings& settings) {

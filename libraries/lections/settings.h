@@ -35,6 +35,13 @@ using ReadKey = std::function<std::string(const char* key)>;
 // A key that is missing, or whose value means nothing, leaves its default; that of the land is the region's.
 Settings SettingsFrom(const ReadKey& read, calendar::Land landOfRegion);
 
+// The settings without the language in one number, never 0: the same number for the same settings, another for others.
+uint32_t ChoiceOf(const Settings& settings);
+
+// The settings that ChoiceOf made the number of, with the stored ones' language. A number that it never makes stands
+// for the stored settings.
+Settings SettingsBy(uint32_t choice, const Settings& stored);
+
 struct KeyValue {
   const char* key;
   std::string value;

@@ -37,7 +37,7 @@ std::string ElevationKey(uint32_t latitudeDegrees, uint32_t latitudeMinutes, uin
   return key;
 }
 
-std::string ElevationKey(const LocationRecord& location) {
+std::string ElevationKey(const Location& location) {
   const Degrees latitude = Unpack(location.latitude);
   const Degrees longitude = Unpack(location.longitude);
   return ElevationKey(latitude.degrees, latitude.minutes, longitude.degrees, longitude.minutes, location.zoneHours,
@@ -48,7 +48,7 @@ int32_t DefaultElevation(int32_t packedLatitude, int32_t packedLongitude, int32_
   return packedLatitude == 4854 && packedLongitude == 842 && zoneHours == 1 ? 263 : 0;
 }
 
-std::string ParameterLine(const LocationRecord& location, int32_t elevationMetres) {
+std::string ParameterLine(const Location& location, int32_t elevationMetres) {
   const Degrees latitude = Unpack(location.latitude);
   const Degrees longitude = Unpack(location.longitude);
   const std::string elevation =

@@ -11,10 +11,10 @@
 // place.
 std::string ElevationKey(uint32_t latitudeDegrees, uint32_t latitudeMinutes, uint32_t longitudeDegrees,
                          uint32_t longitudeMinutes, int32_t zoneHours, int32_t zoneMinutes);
-std::string ElevationKey(const LocationRecord& location);
+std::string ElevationKey(const Location& location);
 
 // Deliberate: one place has an elevation, in metres, where the settings name none; every other is at sea level.
 int32_t DefaultElevation(int32_t packedLatitude, int32_t packedLongitude, int32_t zoneHours);
 
 // "Home: 32,49N  34,59E  GMT+2, no elevation".
-std::string ParameterLine(const LocationRecord& location, int32_t elevationMetres);
+std::string ParameterLine(const Location& location, int32_t elevationMetres);

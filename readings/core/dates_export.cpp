@@ -26,7 +26,7 @@ std::string JewishDateText(const DatesExport::JewishDate& date, uint32_t languag
   return std::to_string(date.day) + (language == kGerman ? ". " : " ") + date.month + " " + year;
 }
 
-void WriteDatesExport(TextSink& sink, const DatesExport& data) {
+void WriteDatesDelimited(TextSink& sink, const DatesExport& data) {
   const std::string& separator = data.separator;
   if (data.header) {
     WriteLine(sink, "Gregorian date" + separator + "Jewish date" + separator + "Torah readings" + separator +

@@ -29,4 +29,4 @@ inline constexpr uint32_t kGerman = 3;
 std::string JewishDateText(const DatesExport::JewishDate& date, uint32_t language);
 
 // One line a day. Deliberate: a day without Torah or Haftarah readings has no field for them, separator included.
-void WriteDatesExport(TextSink& sink, const DatesExport& data);
+void WriteDatesDelimited(TextSink& sink, const DatesExport& data);

@@ -69,6 +69,12 @@ std::string Hebrew(uint32_t index) {
   return HoursGetDescriptionHebrew(index, text) ? text : "none";
 }
 
+uint64_t Fingerprint() {
+  uint32_t fingerprint[2] = {};
+  HoursGetFingerprint(fingerprint);
+  return uint64_t{fingerprint[1]} << 32 | fingerprint[0];
+}
+
 class HoursContract : public testing::Test {
  protected:
   // The library may be 50 ms behind another settings folder or file.
@@ -143,6 +149,40 @@ TEST_F(HoursContract, AChangeOfTheChoiceIsSeen) {
   std::filesystem::remove(home_.Path("hours.txt"));
   WaitUntilSeen();
   EXPECT_EQ(HoursGetCount(), 25u);
+}
+
+TEST_F(HoursContract, FingerprintIsTheSelections) {
+  const uint64_t usual = Fingerprint();
+  EXPECT_EQ(Fingerprint(), usual);
+  Choose("zman sunset\nzman sunrise\n");
+  const uint64_t two = Fingerprint();
+  EXPECT_NE(two, usual);
+  Choose("# the same, with remarks\r\nzman sunset\r\nzman nobody\r\nzman sunrise\r\n");
+  EXPECT_EQ(Fingerprint(), two);
+
+  Choose("zman sunset\n");
+  const uint64_t one = Fingerprint();
+  EXPECT_NE(one, two);
+  Choose("zman sunrise\nzman sunset\n");
+  EXPECT_NE(Fingerprint(), two);
+  std::filesystem::remove(home_.Path("hours.txt"));
+  WaitUntilSeen();
+  EXPECT_EQ(Fingerprint(), usual);
+}
+
+TEST_F(HoursContract, FingerprintChangesWithNamesAndDefinitions) {
+  std::set<uint64_t> seen;
+  for (const char* own :
+       {"hours-gra 3 up Mine|\xE0", "hours-gra 3 up Yours|\xE0", "hours-gra 3 up Mine|\xE1",
+        "hours-gra 3 down Mine|\xE0", "hours-gra 3.5 up Mine|\xE0", "hours-mga-72-min 3 up Mine|\xE0"}) {
+    Choose(std::string("zman own-1\nown 1 ") + own + "\n");
+    ASSERT_EQ(HoursGetCount(), 1u) << own;
+    EXPECT_TRUE(seen.insert(Fingerprint()).second) << own;
+  }
+}
+
+TEST_F(HoursContract, FingerprintOfNobodyIsIgnored) {
+  HoursGetFingerprint(nullptr);
 }
 
 // Jerusalem at sea level: 16.1 degrees at 5:22:56, sunrise 6:39:15, transit 11:48:46, sunset 16:58:32, 8.5 degrees at

@@ -24,6 +24,13 @@ LectionsReadings Read(uint32_t day, uint32_t month, uint32_t year) {
   return readings;
 }
 
+LectionsReadings ReadBy(uint32_t choice, uint32_t day, uint32_t month, uint32_t year) {
+  LectionsReadings readings;
+  std::memset(&readings, 'x', sizeof readings);
+  LectionsGetReadingsBy(choice, day, month, year, &readings);
+  return readings;
+}
+
 void Write(const char* key, const char* value) {
   ProfileWriteString("Readings", key, value, "lections.ini");
 }
@@ -162,6 +169,58 @@ TEST_F(LectionsContract, ChangedSettingsCountSoon) {
   Write("Verses", "0");
   EXPECT_TRUE(Eventually([] { return std::strcmp(Read(15, kCheshvan, 5785).haftarah1, "II Kings") == 0; }));
   EXPECT_STREQ(Read(15, kCheshvan, 5785).torah1, "Vayera");
+}
+
+TEST_F(LectionsContract, AChoiceIsKeptWhileLandAndCustomsChange) {
+  const uint32_t choice = LectionsGetChoice();
+  EXPECT_NE(choice, 0u);
+  Write("Land", "Israel");
+  Write("Custom", "Sephardi");
+  Write("Verses", "0");
+  ASSERT_TRUE(Eventually([choice] { return LectionsGetChoice() != choice; }));
+  ASSERT_TRUE(Eventually([] { return std::strcmp(Read(15, kCheshvan, 5785).haftarah1, "II Kings") == 0; }));
+  EXPECT_STREQ(Read(23, kTishri, 5785).torah1, "");
+
+  const LectionsReadings vayera = ReadBy(choice, 15, kCheshvan, 5785);
+  EXPECT_STREQ(vayera.haftarah1, "Ashkenazi: II Kings 4:1-37");
+  EXPECT_STREQ(vayera.haftarah2, "Sephardi: II Kings 4:1-23");
+  EXPECT_STRNE(ReadBy(choice, 23, kTishri, 5785).torah1, "");  // Simchat Torah of the diaspora
+  EXPECT_EQ(LectionsIsYizkor(22, kNisan, 5785), 0);
+  EXPECT_NE(LectionsIsYizkorBy(choice, 22, kNisan, 5785), 0);
+}
+
+TEST_F(LectionsContract, ChoiceIsAnsweredInTheLanguageStoredNow) {
+  Write("Custom", "Ashkenazi");
+  ASSERT_TRUE(Eventually([] { return std::strcmp(Read(15, kCheshvan, 5785).haftarah2, "") == 0; }));
+  const uint32_t choice = LectionsGetChoice();
+  Write("Custom", "Both");
+  Write("Language", "4");
+  ASSERT_TRUE(Eventually([] { return LectionsGetLanguage() == 4; }));
+  // Noach, in windows-1255.
+  const LectionsReadings noach = ReadBy(choice, 1, kCheshvan, 5785);
+  EXPECT_EQ(std::string(noach.torah1).substr(0, 3), "\xF0\xE7 ");
+  EXPECT_STREQ(ReadBy(choice, 15, kCheshvan, 5785).haftarah2, "");
+}
+
+TEST_F(LectionsContract, ANumberThatIsNoChoiceIsTheStoredOne) {
+  Write("Land", "Israel");
+  ASSERT_TRUE(Eventually([] { return LectionsIsYizkor(22, kNisan, 5785) == 0; }));
+  for (const uint32_t number : {0u, 1u, 0xFFFFFFFFu}) {
+    const LectionsReadings expected = Read(1, 12, 5785);
+    const LectionsReadings readings = ReadBy(number, 1, 12, 5785);
+    EXPECT_EQ(std::memcmp(&readings, &expected, sizeof readings), 0) << number;
+    EXPECT_EQ(LectionsIsYizkorBy(number, 22, kNisan, 5785), 0) << number;
+    EXPECT_NE(LectionsIsYizkorBy(number, 21, kNisan, 5785), 0) << number;
+  }
+}
+
+TEST_F(LectionsContract, AnswersByAChoiceForAnyArguments) {
+  const uint32_t choice = LectionsGetChoice();
+  LectionsGetReadingsBy(choice, 1, kTishri, 5785, nullptr);
+  for (const uint32_t number : {0u, 31u, 0xFFFFFFFFu}) {
+    EXPECT_TRUE(IsEmpty(ReadBy(choice, number, kTishri, 5785))) << number;
+    EXPECT_EQ(LectionsIsYizkorBy(choice, 10, kTishri, number == 31 ? 10000 : number), 0) << number;
+  }
 }
 
 TEST_F(LectionsContract, ReadingWritesNothing) {

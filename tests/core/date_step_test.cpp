@@ -1,5 +1,5 @@
 // Expected values are worked out by hand.
-#include "engine/core/date_step.h"
+#include "app/core/date_step.h"
 
 #include <gtest/gtest.h>
 

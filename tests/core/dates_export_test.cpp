@@ -29,12 +29,12 @@ DatesExport::JewishDate Tevet(const CalendarDate& date, uint32_t language) {
 
 std::string Write(const std::vector<ReadingsEntry>& entries, bool header = false, uint32_t language = 1) {
   StringSink sink;
-  WriteDatesExport(sink, {.separator = ";",
-                          .readingsSeparator = ", ",
-                          .header = header,
-                          .entries = entries,
-                          .jewishDate = Tevet,
-                          .language = language});
+  WriteDatesDelimited(sink, {.separator = ";",
+                             .readingsSeparator = ", ",
+                             .header = header,
+                             .entries = entries,
+                             .jewishDate = Tevet,
+                             .language = language});
   return sink.text();
 }
 

@@ -1,4 +1,4 @@
-#include "document/core/icon_button.h"
+#include "document/core/icon_button_state.h"
 
 #include <gtest/gtest.h>
 

@@ -242,33 +242,4 @@ TEST(LectionsPassage, IsReadAsTheTablesWriteIt) {
   }
 }
 
-TEST(LectionsSettings, EachChoiceIsReadBackAsWritten) {
-  for (const uint32_t language : {1u, kAshkenaziSpelling, kHebrewCode}) {
-    for (const Settings& settings : AllSettings(language)) {
-      const std::vector<KeyValue> values = ValuesOf(settings);
-      const auto read = [&values](std::string_view key) {
-        const auto found = std::ranges::find(values, key, &KeyValue::key);
-        return found == values.end() ? "" : found->value;
-      };
-      EXPECT_EQ(SettingsFrom(read, Land::kDiaspora), settings);
-      EXPECT_EQ(SettingsFrom(read, Land::kIsrael), settings);
-    }
-  }
-}
-
-TEST(LectionsSettings, WhatIsMissingOrMeansNothingIsTheDefault) {
-  Settings defaults;
-  EXPECT_EQ(defaults.customs, Customs::kBoth);
-  EXPECT_TRUE(defaults.verses);
-  EXPECT_FALSE(defaults.chabad || defaults.optional.mondayAndThursday || defaults.optional.shabbatAfternoon ||
-               defaults.optional.triennial);
-  for (const char* value : {"", "israel", "2", "-1", "4x", "99999999999", "Both "}) {
-    const auto read = [value](const char*) { return value; };
-    if (value != "2"sv) {
-      EXPECT_EQ(SettingsFrom(read, Land::kDiaspora), defaults) << value;
-    }
-    EXPECT_EQ(SettingsFrom(read, Land::kIsrael).land, Land::kIsrael) << value;
-  }
-}
-
 }  // namespace

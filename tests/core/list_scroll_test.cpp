@@ -5,7 +5,7 @@
 
 #include <initializer_list>
 
-#include "document/core/shabbat_geometry.h"
+#include "shabbat/core/shabbat_geometry.h"
 
 namespace {
 

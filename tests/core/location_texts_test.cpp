@@ -30,7 +30,7 @@ TEST(ParameterLine, MinutesOfTheZoneStandWhateverTheHours) {
 }
 
 TEST(ParameterLine, HoldsTheLongestName) {
-  LocationRecord location{};
+  Location location{};
   for (std::size_t i = 0; i + 1 < kTextSize; ++i) location.name[i] = 'x';
   EXPECT_EQ(ParameterLine(location, 0), std::string(255, 'x') + ":  0,00N   0,00E  GMT, no elevation");
 }

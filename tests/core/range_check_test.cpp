@@ -1,5 +1,5 @@
 // Expected values are worked out by hand.
-#include "engine/core/range_check.h"
+#include "app/core/range_check.h"
 
 #include <gtest/gtest.h>
 

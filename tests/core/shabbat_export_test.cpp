@@ -1,5 +1,5 @@
 // The files byte for byte, written out by hand.
-#include "app/core/shabbat_export.h"
+#include "shabbat/core/shabbat_export.h"
 
 #include <gtest/gtest.h>
 

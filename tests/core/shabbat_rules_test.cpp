@@ -1,5 +1,5 @@
 // Expected values are worked out by hand from the rules.
-#include "engine/core/shabbat_rules.h"
+#include "shabbat/core/shabbat_rules.h"
 
 #include <gtest/gtest.h>
 

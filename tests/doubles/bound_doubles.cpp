@@ -5,7 +5,7 @@
 #include <chrono>
 #include <cstring>
 
-#include "app/bound_entries.h"
+#include "engine/bound_entries.h"
 #include "tests/doubles/call_log.h"
 
 namespace {

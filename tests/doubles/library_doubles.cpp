@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "app/bound_entries.h"
 #include "companion/candles.h"
 #include "companion/datecore.h"
 #include "companion/glyphs.h"
@@ -19,6 +18,7 @@
 #include "companion/profile.h"
 #include "companion/stamp.h"
 #include "companion/twilight.h"
+#include "engine/bound_entries.h"
 #include "tests/doubles/call_log.h"
 
 LibraryScript& Libraries() {
@@ -182,7 +182,7 @@ void HoursDoDialogInitLoc(HWND owner, int32_t latitude, int32_t longitude, int32
 }
 
 uint32_t HoursGetCount(void) {
-  LogCall("HoursGetCount");
+  ++Libraries().zmanimCountQuestions;
   return Libraries().zmanimCount;
 }
 

@@ -75,6 +75,7 @@ struct LibraryScript {
   // hours: the size of the selection. Names are "Zman <index>" and "namZ<index>" but for those set here; an empty one
   // is none.
   uint32_t zmanimCount = 25;
+  int zmanimCountQuestions = 0;                    // how often it was asked for
   std::optional<uint32_t> zmanimCountAfterDialog;  // when the user chooses others in the dialog
   std::map<uint32_t, std::string> zmanNames;
   std::map<uint32_t, std::string> hebrewZmanNames;

@@ -80,12 +80,12 @@ void CheckExports(const std::vector<ReadingsEntry>& entries, const ExportFont& f
   StringSink narrow;
   WriteReadingsRtfNarrow(narrow, data);
   StringSink dates;
-  WriteDatesExport(dates, {.separator = ";",
-                           .readingsSeparator = ", ",
-                           .header = true,
-                           .entries = entries,
-                           .jewishDate = SomeDate,
-                           .language = kGerman});
+  WriteDatesDelimited(dates, {.separator = ";",
+                              .readingsSeparator = ", ",
+                              .header = true,
+                              .entries = entries,
+                              .jewishDate = SomeDate,
+                              .language = kGerman});
   if (std::any_of(entries.begin(), entries.end(), HoldsLineEnd)) return;
   FUZZ_CHECK(LinesOf(text) == 2 + 5 * entries.size());
   FUZZ_CHECK(LinesOf(dates) == 1 + entries.size());

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/core/range_check.h"
+#include "app/core/range_check.h"
 #include "libraries/calendar/gregorian.h"
 #include "output/text_layout.h"
 #include "tests/fuzz/check.h"

@@ -6,11 +6,11 @@
 #include <sstream>
 
 #include "app/active_document.h"
-#include "app/bound_entries.h"
+#include "app/compute_document.h"
 #include "app/program.h"
-#include "document/properties.h"
+#include "engine/bound_entries.h"
 #include "engine/current.h"
-#include "engine/shabbat_times.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/program_fixture.h"

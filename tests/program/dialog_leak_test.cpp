@@ -1,5 +1,5 @@
 // Dialogs that are opened and closed again and again hold on to nothing.
-#include "app/bound_entries.h"
+#include "engine/bound_entries.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/program_fixture.h"

@@ -4,7 +4,7 @@
 #include "app/open_document.h"
 #include "app/program.h"
 #include "document/document_fonts.h"
-#include "document/properties.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
 #include "win/text_metrics.h"
@@ -235,7 +235,7 @@ TEST_F(DocumentWindowTest, AFrameCommandWithoutAFrameBeeps) {
 }
 
 TEST_F(DocumentWindowTest, DestructionFreesBlocksAndFontsAndRemovesEveryProperty) {
-  EXPECT_THAT(System().blocks, SizeIs(3 + 13));  // place, zmanim, times, and the buttons' descriptions
+  EXPECT_THAT(System().blocks, SizeIs(4 + 13));  // place, zmanim, their labels, times, and the buttons' descriptions
   DestroyWindow(document_);
   EXPECT_THAT(System().blocks, IsEmpty());
   EXPECT_THAT(System().fonts, IsEmpty());

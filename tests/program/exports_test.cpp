@@ -5,12 +5,12 @@
 #include <sstream>
 
 #include "app/active_document.h"
+#include "app/compute_document.h"
 #include "engine/current.h"
-#include "engine/shabbat_times.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/program_fixture.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -26,7 +26,6 @@ class ExportsTest : public ProgramTest {
     ProgramTest::SetUp();
     Libraries().settings["shabbat2.ini|Locations|Aachen"] = "";
     Libraries().zmanimCount = 2;
-    RefreshZmanimCount();
     Libraries().readings = {{"6.1.5767", {"Vayechi", "", "", "H1", "", "", "Extra"}}};
     OpenFrame();
     CurrentRange = {{5, 1, 2007}, {6, 1, 2007}};

@@ -3,9 +3,9 @@
 #include "app/active_document.h"
 #include "app/open_document.h"
 #include "app/program.h"
-#include "document/properties.h"
 #include "document/tooltip.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
 

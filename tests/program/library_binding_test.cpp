@@ -1,7 +1,7 @@
 // Binding of libraries by name, with fake libraries found before the real ones.
-#include "app/library_binding.h"
+#include "engine/library_binding.h"
 
-#include "app/bound_entries.h"
+#include "engine/bound_entries.h"
 #include "tests/program/program_fixture.h"
 
 using testing::ElementsAre;

@@ -1,8 +1,8 @@
 // The place and range that the program starts with, and the place that the user picks.
 #include "app/active_document.h"
 #include "app/program.h"
-#include "document/properties.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
 

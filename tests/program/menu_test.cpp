@@ -9,7 +9,7 @@
 #include "engine/current.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -195,7 +195,6 @@ TEST_F(MenuTest, ZmanimSelectionIsAtTheCurrentPlaceAndOpensADocument) {
   CallLog().clear();
   Command(frame, 1014);
   EXPECT_THAT(CallsWith("choose"), ElementsAre("choose zmanim at 5046 606, zone 1:0, owner yes"));
-  EXPECT_THAT(CallsWith("Hours"), ElementsAre("HoursGetCount"));
   EXPECT_EQ(CountDocuments(), 2);
   EXPECT_NE(ActiveDocument(), before);
 

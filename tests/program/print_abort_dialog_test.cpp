@@ -1,4 +1,4 @@
-#include "document/print_abort_dialog.h"
+#include "zmanim/print_abort_dialog.h"
 
 #include "app/active_document.h"
 #include "tests/program/dialog_driver.h"

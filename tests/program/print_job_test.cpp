@@ -1,9 +1,9 @@
 // A job of printing zmanim: what is asked of the spooler, how it is cancelled, and what the user is told.
-#include "document/print_abort_dialog.h"
-#include "document/properties.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/printing_fixture.h"
+#include "zmanim/print_abort_dialog.h"
 #include "zmanim/print_zmanim.h"
 
 using testing::Contains;
@@ -51,6 +51,7 @@ TEST_F(PrintJobTest, WithoutDaysOrZmanimTheDocumentHasNoPages) {
   PrintPages(0);
   EXPECT_THAT(CallLog(), expected);
   UseZmanim(2);
+  ComputeDays(1);
   FreeBlockProperty(document_, property::kZmanimTimes);
   Print();
   EXPECT_THAT(CallLog(), expected);

@@ -5,7 +5,7 @@
 
 #include "resources/ids.h"
 #include "tests/program/printing_fixture.h"
-#include "win/display_font.h"
+#include "win/make_font.h"
 #include "win/scoped.h"
 #include "win/text_metrics.h"
 

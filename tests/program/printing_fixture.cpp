@@ -1,7 +1,7 @@
 #include "tests/program/printing_fixture.h"
 
-#include "document/print_abort_dialog.h"
 #include "resources/ids.h"
+#include "zmanim/print_abort_dialog.h"
 
 void PrintingFixture::SetUp() {
   ZmanimViewTest::SetUp();

@@ -1,20 +1,22 @@
 #include "tests/program/program_fixture.h"
 
 #include "app/frame_window.h"
-#include "app/library_binding.h"
 #include "app/program.h"
-#include "app/string_table.h"
 #include "app/window_classes.h"
-#include "document/properties.h"
 #include "document/tooltip.h"
 #include "engine/current.h"
+#include "engine/library_binding.h"
+#include "engine/optional_entries.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "win/scoped.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 void ProgramTest::SetUp() {
   ResetLibraries();
   ResetBoundLibraries();
   ResetSystem();
+  OptionalEntries = {};
   Program = {};
   Program.instance = GetModuleHandleA(nullptr);
   Tooltip = {.window = nullptr, .enabled = true};
@@ -26,7 +28,6 @@ void ProgramTest::SetUp() {
     return RegisterWindowClasses(Program.instance, CreateSolidBrush(RGB(255, 255, 0)));
   }();
   ASSERT_TRUE(ready);
-  RefreshZmanimCount();
   CallLog().clear();
 }
 

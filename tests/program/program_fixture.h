@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/core/records.h"
+#include "shabbat/core/shabbat_record.h"
 #include "tests/doubles/bound_doubles.h"
 #include "tests/doubles/call_log.h"
 #include "tests/doubles/library_doubles.h"

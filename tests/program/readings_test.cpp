@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "app/active_document.h"
-#include "document/properties.h"
+#include "engine/properties.h"
 #include "readings/core/readings_record.h"
 #include "readings/readings_list.h"
 #include "readings/readings_panes.h"

@@ -1,10 +1,10 @@
 // The two panes of the Shabbat-times view. Expected positions follow from the font's measures and thirds of the width.
-#include "document/shabbat_panes.h"
+#include "shabbat/shabbat_panes.h"
 
 #include "app/active_document.h"
-#include "document/properties.h"
+#include "app/compute_document.h"
 #include "engine/current.h"
-#include "engine/shabbat_times.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
 #include "win/text_metrics.h"

@@ -1,15 +1,15 @@
 // The calculation of Shabbat times on a plain window, the sun and the calendar scripted. Expected times are worked out
 // by hand.
-#include "engine/shabbat_times.h"
+#include "app/compute_document.h"
 
 #include <algorithm>
 
-#include "document/properties.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "tests/program/program_fixture.h"
 #include "win/scoped.h"
 #include "zmanim/core/zmanim_block.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -247,7 +247,6 @@ TEST_F(ShabbatTimesTest, PreferencesAreReadAfreshForEveryShabbatInTheirOrder) {
 TEST_F(ShabbatTimesTest, MoreThan32000FridaysAreReportedOnceAndCutTo32001) {
   Libraries().logZmanim = true;
   Libraries().zmanimCount = 1;
-  RefreshZmanimCount();
   Calculate({{7, 1, 1583}, {31, 12, 3000}});
   const auto entries = ShabbatTimesOf(document_);
   ASSERT_THAT(entries, SizeIs(32001));
@@ -307,9 +306,9 @@ TEST_F(ShabbatTimesTest, PlaceAndRangeAreRecordedOnTheWindow) {
 
 TEST_F(ShabbatTimesTest, ASecondCalculationFreesTheBlocksOfTheFirst) {
   FirstEntry();
-  EXPECT_THAT(System().blocks, SizeIs(3));  // City, ZmanimTimes and ShabbatTimes
+  EXPECT_THAT(System().blocks, SizeIs(4));  // City, ZmanimTimes, ZmanimLabels and ShabbatTimes
   FirstEntry();
-  EXPECT_THAT(System().blocks, SizeIs(3));
+  EXPECT_THAT(System().blocks, SizeIs(4));
 }
 
 TEST_F(ShabbatTimesTest, TheCursorIsPutBack) {

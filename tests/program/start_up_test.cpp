@@ -2,10 +2,10 @@
 #include "app/start_up.h"
 
 #include "app/program.h"
-#include "app/string_table.h"
+#include "engine/string_table.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -25,9 +25,9 @@ TEST_F(StartUpTest, RunsInOrderFromTheFirstCheckToTheLastRelease) {
   // The classes are the fixture's already; a previous instance is how start-up learns that.
   EXPECT_EQ(RunProgram(GetModuleHandleA(nullptr), GetModuleHandleA(nullptr), commandLine, SW_SHOWNORMAL), 7);
   frame_ = FindWindowExA(nullptr, nullptr, "ShabbatMain", nullptr);
-  EXPECT_THAT(CallLog(), ElementsAre("StampCheck ignored 1", "HoursGetCount", "KinshipInit", "load CIVILCAL.DLL",
-                                     "load LUNARCAL.DLL", "load SOLAR.DLL", "unload CIVILCAL.DLL",
-                                     "unload LUNARCAL.DLL", "unload SOLAR.DLL", "KinshipDone"));
+  EXPECT_THAT(CallLog(), ElementsAre("StampCheck ignored 1", "KinshipInit", "load CIVILCAL.DLL", "load LUNARCAL.DLL",
+                                     "load SOLAR.DLL", "unload CIVILCAL.DLL", "unload LUNARCAL.DLL", "unload SOLAR.DLL",
+                                     "KinshipDone"));
   EXPECT_EQ(GetZmanimCount(), 25u);
   EXPECT_THAT(Program.notice, HasSubstr("without any warranty"));
 }
@@ -37,8 +37,7 @@ TEST_F(StartUpTest, AMissingJewishLibraryUnloadsTheGregorianOneAndEndsStartUp) {
   EXPECT_EQ(RunProgram(GetModuleHandleA(nullptr), nullptr, commandLine, SW_SHOWNORMAL), 0);
   EXPECT_THAT(
       CallLog(),
-      ElementsAre("StampCheck ignored 1", "HoursGetCount", "KinshipInit", "load CIVILCAL.DLL",
-                  "load LUNARCAL.DLL failed",
+      ElementsAre("StampCheck ignored 1", "KinshipInit", "load CIVILCAL.DLL", "load LUNARCAL.DLL failed",
                   "message box 'Library LUNARCAL.DLL was not found' caption 'Times / Readings' type 0x10 owner none",
                   "unload CIVILCAL.DLL"));
 }

@@ -4,8 +4,8 @@
 #include "app/active_document.h"
 #include "app/program.h"
 #include "document/icon_button.h"
-#include "document/properties.h"
 #include "document/tooltip.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/program_fixture.h"
 

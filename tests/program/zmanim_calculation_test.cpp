@@ -1,16 +1,16 @@
 // The zmanim of a document's days on a plain window, sun, zmanim and custom times scripted.
 #include <iterator>
 
-#include "app/string_table.h"
-#include "document/properties.h"
 #include "engine/current.h"
+#include "engine/properties.h"
+#include "engine/string_table.h"
 #include "tests/program/program_fixture.h"
 #include "win/scoped.h"
 #include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/builtin_zmanim.h"
 #include "zmanim/core/zmanim_block.h"
 #include "zmanim/custom_zmanim.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 using testing::Contains;
 using testing::Each;
@@ -34,6 +34,7 @@ class ZmanimCalculationTest : public ProgramTest {
   void TearDown() override {
     FreeBlockProperty(document_, property::kCity);
     FreeBlockProperty(document_, property::kZmanimTimes);
+    FreeBlockProperty(document_, property::kZmanimLabels);
     DestroyWindow(document_);
     EXPECT_EQ(Libraries().openOwnTimes, 0);
     EXPECT_EQ(System().locks, 0);
@@ -47,7 +48,6 @@ class ZmanimCalculationTest : public ProgramTest {
   }
   void UseLibraryZmanim(uint32_t count) {
     Libraries().zmanimCount = count;
-    RefreshZmanimCount();
     CallLog().clear();
   }
   static void UseBuiltInZmanim() { Libraries().settings["shab30.ini|Settings|EnableZmanim"] = "0"; }
@@ -80,7 +80,7 @@ TEST_F(ZmanimCalculationTest, AnEmptyRangeReplacesTheBlockByOneThatCountsNone) {
   Calculate(kFriday, kSaturday);
   EXPECT_THAT(Calculate(kSaturday, kFriday), IsEmpty());
   EXPECT_EQ(GlobalSize(GetBlockProperty(document_, property::kZmanimTimes)), 4u);
-  EXPECT_THAT(System().blocks, SizeIs(2));  // the place and the new block
+  EXPECT_THAT(System().blocks, SizeIs(3));  // the place, the new block and its labels
   EXPECT_THAT(CallsWith("message box"), IsEmpty());
 }
 
@@ -199,11 +199,10 @@ TEST_F(ZmanimCalculationTest, ASelectionOfMoreThanAHundredCountsAsAHundred) {
   EXPECT_EQ(days[0].times[99], (ClockTime{22, 30}));  // 360 + 990 minutes
 }
 
-TEST_F(ZmanimCalculationTest, TheCountIsWhatTheLibraryLastAnsweredWhenAskedAgain) {
+TEST_F(ZmanimCalculationTest, TheCountIsWhatTheLibraryAnswersNow) {
   UseLibraryZmanim(25);
-  Libraries().zmanimCount = 40;
   EXPECT_EQ(GetZmanimCount(), 25u);
-  RefreshZmanimCount();
+  Libraries().zmanimCount = 40;
   EXPECT_EQ(GetZmanimCount(), 40u);
   UseBuiltInZmanim();
   EXPECT_EQ(GetZmanimCount(), 19u);
@@ -212,10 +211,14 @@ TEST_F(ZmanimCalculationTest, TheCountIsWhatTheLibraryLastAnsweredWhenAskedAgain
 TEST_F(ZmanimCalculationTest, FlagAndCountAreReadOncePerCalculation) {
   UseLibraryZmanim(40);
   Libraries().logSettings = true;
-  CallLog().clear();
-  Calculate({1, 1, 2007}, {31, 1, 2007});
-  EXPECT_THAT(CallsWith("read"), ElementsAre("read shab30.ini|Settings|EnableZmanim"));
-  EXPECT_THAT(CallsWith("HoursGetCount"), IsEmpty());
+  const auto questionsOf = [this](const CalendarDate& end) {
+    CallLog().clear();
+    Libraries().zmanimCountQuestions = 0;
+    Calculate({1, 1, 2007}, end);
+    EXPECT_THAT(CallsWith("read"), ElementsAre("read shab30.ini|Settings|EnableZmanim"));
+    return Libraries().zmanimCountQuestions;
+  };
+  EXPECT_EQ(questionsOf({31, 1, 2007}), questionsOf({1, 1, 2007}));
 }
 
 TEST_F(ZmanimCalculationTest, BuiltInZmanimFollowFromTheSun) {

@@ -1,13 +1,13 @@
 #include "tests/program/zmanim_view_fixture.h"
 
 #include "app/active_document.h"
-#include "app/bound_entries.h"
-#include "document/properties.h"
+#include "engine/bound_entries.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "win/text_metrics.h"
 #include "zmanim/calculate_zmanim.h"
-#include "zmanim/zmanim_count.h"
+#include "zmanim/zmanim_in_use.h"
 
 void ZmanimViewTest::SetUp() {
   ProgramTest::SetUp();
@@ -28,7 +28,6 @@ void ZmanimViewTest::SetUp() {
 
 void ZmanimViewTest::UseZmanim(uint32_t count) {
   Libraries().zmanimCount = count;
-  RefreshZmanimCount();
   CallLog().clear();
 }
 

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "app/core/shabbat_export.h"
 #include "libraries/calendar/gregorian.h"
 #include "libraries/calendar/jewish.h"
 #include "libraries/hours/description_text.h"
@@ -14,6 +13,7 @@
 #include "output/text_sink.h"
 #include "readings/core/readings_export.h"
 #include "readings/core/split_rules.h"
+#include "shabbat/core/shabbat_export.h"
 #include "zmanim/core/zmanim_export.h"
 
 namespace {

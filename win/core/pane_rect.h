@@ -10,7 +10,4 @@ struct PaneRect {
 
   int Right() const { return x + width; }
   int Bottom() const { return y + height; }
-  bool Contains(int pointX, int pointY) const {
-    return pointX >= x && pointX < Right() && pointY >= y && pointY < Bottom();
-  }
 };

@@ -1,0 +1,28 @@
+#include "engine/optional_entries.h"
+
+#include <windows.h>
+
+#include <cstring>
+
+OptionalEntryPoints OptionalEntries;
+
+namespace {
+
+template <typename Function>
+void LookUp(const char* library, const char* name, Function& entry) {
+  const HMODULE module = GetModuleHandleA(library);
+  const FARPROC found = module ? GetProcAddress(module, name) : nullptr;
+  static_assert(sizeof found == sizeof entry);
+  std::memcpy(&entry, &found, sizeof entry);
+}
+
+}  // namespace
+
+void LookUpOptionalEntries() {
+  OptionalEntryPoints& entries = OptionalEntries;
+  LookUp("hours.dll", "HoursGetFingerprint", entries.HoursGetFingerprint);
+  LookUp("lections.dll", "LectionsGetChoice", entries.LectionsGetChoice);
+  LookUp("lections.dll", "LectionsGetReadingsBy", entries.LectionsGetReadingsBy);
+  LookUp("lections.dll", "LectionsIsYizkorBy", entries.LectionsIsYizkorBy);
+  if (!entries.LectionsGetReadingsBy || !entries.LectionsIsYizkorBy) entries.LectionsGetChoice = nullptr;
+}

@@ -1,0 +1,18 @@
+// Entry points that companion libraries offer beyond those that the program needs. They are looked up by name in the
+// libraries that the program imports anyway; one that a library has not is null, and the program does without.
+#pragma once
+
+#include "companion/hours.h"
+#include "companion/lections.h"
+
+struct OptionalEntryPoints {
+  decltype(&::HoursGetFingerprint) HoursGetFingerprint;
+  // These three are there together or not at all.
+  decltype(&::LectionsGetChoice) LectionsGetChoice;
+  decltype(&::LectionsGetReadingsBy) LectionsGetReadingsBy;
+  decltype(&::LectionsIsYizkorBy) LectionsIsYizkorBy;
+};
+
+extern OptionalEntryPoints OptionalEntries;
+
+void LookUpOptionalEntries();

@@ -1,0 +1,29 @@
+// The zmanim in use: the user's selection, as the library answers it, or the built-in ones, as the display flag says.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+
+#include "zmanim/core/zmanim_labels.h"
+
+// The number of zmanim in use now. A selection larger than a day has room for counts as kMostZmanim.
+uint32_t GetZmanimCount();
+
+// The zmanim in use now, as a block for a document (zmanim_labels.h); null without memory.
+HGLOBAL DescribeZmanimInUse();
+
+// Whether the zmanim in use are still those of labels: the same mode, number, order and names, and, where the library
+// tells, definitions.
+bool AreInUse(const ZmanimLabels& labels);
+
+// Whether legends name these zmanim in Hebrew: when the user wants it, and they are the library's. The built-in ones
+// have English names only.
+bool IsLegendHebrew(const ZmanimLabels& labels);
+
+// The description of a zman of the library now; empty when it has none.
+std::string LibraryZmanName(uint32_t zman);
+
+// Whether the user's selection is in use and has a zman of this description.
+bool IsSelected(const std::string& description);
