@@ -19,8 +19,7 @@ int64_t ShownMinute(const sun::SunEvent& event, const sun::PlaceClock& clock) {
 
 }  // namespace
 
-std::vector<int32_t> ZmanimByCore(std::string_view choice, const LocationRecord& location, int32_t firstDay,
-                                  int32_t days) {
+std::vector<int32_t> ZmanimByCore(std::string_view choice, const Location& location, int32_t firstDay, int32_t days) {
   const std::vector<hours::DescribedZman> chosen = hours::ChosenZmanim(hours::ReadChoice(choice));
   const sun::PackedPlace packed = {location.latitude, location.longitude, location.zoneHours, location.zoneMinutes};
   const sun::PlaceSettings place = sun::ReadPlaceSettings({ProfileGetInt, ProfileGetString}, packed);

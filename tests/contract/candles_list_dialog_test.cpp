@@ -192,12 +192,23 @@ TEST_F(CandlesDialog, OwnerIsDisabledWhileItIsOpen) {
 }
 
 TEST_F(CandlesDialog, NeedsNoOwner) {
+  home_.Put("candles.txt", kTwoEntries);
+  constexpr int32_t kReturned = 7;
   DialogDriver driver([](HWND) {
     CandlesDoDialog(nullptr);
-    return 0;
+    return kReturned;
   });
-  Press(driver.WaitFor(kTitle), IDCANCEL);
-  driver.Result();
+  const HWND dialog = driver.WaitFor(kTitle);
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(GetWindow(dialog, GW_OWNER), nullptr);
+  EXPECT_TRUE(IsWindowEnabled(driver.Owner())) << "a window that is not its owner is disabled";
+  const HWND list = GetDlgItem(dialog, IDC_TIMES);
+  EXPECT_EQ(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0), 2);
+  PressKey(list, VK_DELETE);
+  ASSERT_TRUE(Eventually([&] { return SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) == 1; }));
+  Press(dialog, IDOK);
+  EXPECT_EQ(driver.Result(), kReturned);
+  EXPECT_EQ(Stored(), "2024-03-15 17:30 18:36 Jerusalem\r\n");
 }
 
 // One thread opens and closes it, as the program does.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/contract/profile_behaviour.h"
 #include "tests/contract/settings_home.h"
 
 namespace {
@@ -16,6 +17,9 @@ std::string Text(const char* section, const char* key, const char* file, const c
   const uint32_t count = ProfileGetString(section, key, defaultValue, buffer, sizeof buffer, file);
   return std::string(buffer, count);
 }
+
+INSTANTIATE_TEST_SUITE_P(OfTheLibrary, ProfileBehaviour,
+                         testing::Values(EmptyFiles([] { return std::make_shared<SettingsHome>(); })));
 
 class ProfileContract : public testing::Test {
  protected:

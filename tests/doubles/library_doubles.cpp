@@ -15,11 +15,11 @@
 #include "companion/lections.h"
 #include "companion/ownhours.h"
 #include "companion/placepick.h"
-#include "companion/profile.h"
 #include "companion/stamp.h"
 #include "companion/twilight.h"
 #include "engine/bound_entries.h"
 #include "tests/doubles/call_log.h"
+#include "tests/doubles/profile_double.h"
 
 LibraryScript& Libraries() {
   static LibraryScript script;
@@ -29,38 +29,19 @@ LibraryScript& Libraries() {
 void ResetLibraries() {
   CallLog().clear();
   Libraries() = {};
-  Libraries().settings = {
-      {"shabbat2.ini|Shabbat|CandleLighting", ""},
-      {"shabbat2.ini|Shabbat|DoMinutes", ""},
-      {"shabbat2.ini|Shabbat|End", ""},
-      {"shabbat2.ini|Shabbat|DegreesBelowHorizon", ""},
-      {"shabbat2.ini|Shabbat|AddMinutesAfterDegrees", ""},
-      {"shab30.ini|Zmanim|Hebrew", ""},
-      {"shab30.ini|Settings|EnableZmanim", ""},
-      {"almanac13.ini|Preferences|DefaultLocation", ""},
+  Libraries().missingSettings = {
+      "shabbat2.ini|Shabbat|CandleLighting",
+      "shabbat2.ini|Shabbat|DoMinutes",
+      "shabbat2.ini|Shabbat|End",
+      "shabbat2.ini|Shabbat|DegreesBelowHorizon",
+      "shabbat2.ini|Shabbat|AddMinutesAfterDegrees",
+      "shab30.ini|Zmanim|Hebrew",
+      "shab30.ini|Settings|EnableZmanim",
+      "almanac13.ini|Preferences|DefaultLocation",
   };
 }
 
 namespace {
-
-std::string FindSetting(const char* section, const char* key, const char* file) {
-  const std::string name = std::string(file) + "|" + section + "|" + key;
-  if (Libraries().logSettings) LogCall("read %s", name.c_str());
-  const auto found = Libraries().settings.find(name);
-  if (found != Libraries().settings.end()) return found->second;
-  if (!Libraries().unknownSettingsAreMissing) ADD_FAILURE() << "unscripted setting " << name;
-  return {};
-}
-
-// The keys of a section as a list; only keys with a value exist.
-std::string KeysOf(const char* section, const char* file) {
-  const std::string prefix = std::string(file) + "|" + section + "|";
-  std::string keys;
-  for (const auto& [name, value] : Libraries().settings) {
-    if (name.starts_with(prefix) && !value.empty()) keys += name.substr(prefix.size()) + '\0';
-  }
-  return keys;
-}
 
 std::string FontOf(HDC dc) {
   LOGFONTA font{};
@@ -91,35 +72,6 @@ std::string OwnTimeKey(uint32_t day, uint32_t month, uint32_t year, const char* 
 
 }  // namespace
 
-int32_t ProfileGetInt(const char* section, const char* key, int32_t defaultValue, const char* file) {
-  const std::string value = FindSetting(section, key, file);
-  return value.empty() ? defaultValue : std::atoi(value.c_str());
-}
-
-uint32_t ProfileGetString(const char* section, const char* key, const char* defaultValue, char* buffer, uint32_t size,
-                          const char* file) {
-  std::string value = key ? FindSetting(section, key, file) : KeysOf(section, file);
-  if (value.empty()) value = defaultValue;
-  const std::size_t length = std::min<std::size_t>(value.size(), size - 2);
-  std::memcpy(buffer, value.data(), length);
-  std::memset(buffer + length, 0, 2);
-  return static_cast<uint32_t>(length);
-}
-
-int32_t ProfileWriteString(const char* section, const char* key, const char* value, const char* file) {
-  if (Libraries().writesFail) return 0;
-  const std::string place = std::string(file) + "|" + section + "|";
-  if (key && value) {
-    LogCall("write %s%s=%s", place.c_str(), key, value);
-    Libraries().settings[place + key] = value;
-  } else if (key) {
-    Libraries().settings.erase(place + key);
-  } else {
-    std::erase_if(Libraries().settings, [&](const auto& setting) { return setting.first.starts_with(place); });
-  }
-  return 1;
-}
-
 void TwilightCalculate(uint32_t day, uint32_t month, uint32_t year, double depressionDegrees, int32_t, int32_t, int32_t,
                        int32_t, int32_t* hours, int32_t* minutes) {
   LogCall("twilight %u.%u.%u %.2f", day, month, year, depressionDegrees);
@@ -131,8 +83,8 @@ void TwilightCalculate(uint32_t day, uint32_t month, uint32_t year, double depre
 }
 
 double TwilightGetProfileDouble(const char* section, const char* key, double defaultValue, const char* file) {
-  const std::string value = FindSetting(section, key, file);
-  return value.empty() ? defaultValue : std::atof(value.c_str());
+  const std::optional<std::string> value = ReadSetting(section, key, file);
+  return !value || value->empty() ? defaultValue : std::atof(value->c_str());
 }
 
 int32_t TwilightIsValidFloat(const char* text) {

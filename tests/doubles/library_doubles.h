@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "companion/calendar_date.h"
+#include "tests/doubles/ini_files.h"
 
 struct DoubledTime {
   int32_t hour;
@@ -55,11 +56,13 @@ inline constexpr int kDoubledCharacterWidth = 8;
 inline constexpr int kDoubledTextHeight = 13;
 
 struct LibraryScript {
-  // profile: "file|section|key" to value. An empty value stands for a key that is missing.
-  std::map<std::string, std::string> settings;
+  // profile: what the files hold, and the keys "file|section|key" that are read though they do not hold them. A read of
+  // any other key fails the test, unless all such are missing.
+  IniFiles settings;
+  std::set<std::string> missingSettings;
+  bool unknownSettingsAreMissing = false;
   bool logSettings = false;  // whether reads are logged too; writes always are
   bool writesFail = false;
-  bool unknownSettingsAreMissing = false;  // else a read of one fails the test
 
   // twilight: the interval, whatever is asked, unless set for a depression.
   DoubledTime twilightInterval{0, 40};

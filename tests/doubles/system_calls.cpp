@@ -1,8 +1,12 @@
 #include "tests/doubles/system_calls.h"
 
 #include <commdlg.h>
+#include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
+#include <map>
+#include <utility>
 
 #include "tests/doubles/call_log.h"
 
@@ -28,11 +32,21 @@ int WINAPI FakeMessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
   return (type & MB_TYPEMASK) == MB_YESNO ? System().answer : IDOK;
 }
 
+// Zero-terminated texts; an empty one ends them.
+std::vector<std::string> FilterTexts(const char* filter) {
+  std::vector<std::string> texts;
+  for (const char* text = filter; *text; text += texts.back().size() + 1) texts.emplace_back(text);
+  return texts;
+}
+
 BOOL WINAPI FakeGetSaveFileNameA(LPOPENFILENAMEA dialog) {
   const char* pattern = dialog->lpstrFilter + std::strlen(dialog->lpstrFilter) + 1;
   LogCall("save dialog '%s' '%s' extension %s size %lu", dialog->lpstrFilter, pattern, dialog->lpstrDefExt,
           dialog->nMaxFile);
-  System().offeredFile = dialog->lpstrFile;
+  System().saveDialog = {dialog->hwndOwner,    FilterTexts(dialog->lpstrFilter),
+                         dialog->nFilterIndex, dialog->lpstrFile,
+                         dialog->nMaxFile,     dialog->lpstrDefExt,
+                         dialog->Flags};
   if (System().savedFile.empty()) return FALSE;
   std::strcpy(dialog->lpstrFile, System().savedFile.c_str());
   return TRUE;
@@ -85,9 +99,39 @@ BOOL WINAPI LoggedFreeLibrary(HMODULE module) {
   return real(module);
 }
 
+// Behind every block of the program stand bytes that nobody may write. The size that was asked for, by block.
+constexpr SIZE_T kGuardSize = 4096;
+constexpr char kGuardByte = '\x5A';
+
+std::map<HGLOBAL, SIZE_T>& GuardedBlocks() {
+  static std::map<HGLOBAL, SIZE_T> blocks;
+  return blocks;
+}
+
+void SetGuard(HGLOBAL block, SIZE_T size) {
+  static const auto lock = REAL("kernel32.dll", GlobalLock);
+  static const auto unlock = REAL("kernel32.dll", GlobalUnlock);
+  std::memset(static_cast<char*>(lock(block)) + size, kGuardByte, kGuardSize);
+  unlock(block);
+  GuardedBlocks()[block] = size;
+}
+
+void CheckGuard(HGLOBAL block) {
+  static const auto lock = REAL("kernel32.dll", GlobalLock);
+  static const auto unlock = REAL("kernel32.dll", GlobalUnlock);
+  const auto guarded = GuardedBlocks().extract(block);
+  if (!guarded) return;
+  const char* const guard = static_cast<const char*>(lock(block)) + guarded.mapped();
+  EXPECT_TRUE(std::all_of(guard, guard + kGuardSize, [](char byte) { return byte == kGuardByte; }))
+      << "a block was written past its end";
+  unlock(block);
+}
+
 HGLOBAL WINAPI CountedGlobalAlloc(UINT flags, SIZE_T size) {
   static const auto real = REAL("kernel32.dll", GlobalAlloc);
-  const HGLOBAL block = real(flags, size);
+  const HGLOBAL block = real(flags, size + kGuardSize);
+  if (!block) return nullptr;
+  SetGuard(block, size);
   System().blocks.insert(block);
   return block;
 }
@@ -95,7 +139,51 @@ HGLOBAL WINAPI CountedGlobalAlloc(UINT flags, SIZE_T size) {
 HGLOBAL WINAPI CountedGlobalFree(HGLOBAL block) {
   static const auto real = REAL("kernel32.dll", GlobalFree);
   if (System().blocks.erase(block) == 0) LogCall("freed a block that was not held");
+  CheckGuard(block);
   return real(block);
+}
+
+SIZE_T WINAPI SizeWithoutGuard(HGLOBAL block) {
+  static const auto real = REAL("kernel32.dll", GlobalSize);
+  const auto guarded = GuardedBlocks().find(block);
+  return guarded == GuardedBlocks().end() ? real(block) : guarded->second;
+}
+
+HWND WINAPI RefusingCreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR title, DWORD style, int x, int y, int width,
+                                    int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter) {
+  static const auto real = REAL("user32.dll", CreateWindowExA);
+  if (!IS_INTRESOURCE(className) && className == System().refusedWindowClass) return nullptr;
+  return real(exStyle, className, title, style, x, y, width, height, parent, menu, instance, parameter);
+}
+
+HCURSOR WINAPI FakeSetCursor(HCURSOR cursor) {
+  return std::exchange(System().cursor, cursor);
+}
+
+BOOL WINAPI NotedWriteFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPOVERLAPPED overlapped) {
+  static const auto real = REAL("kernel32.dll", WriteFile);
+  System().cursorWhileWriting = System().cursor;
+  return real(file, bytes, count, written, overlapped);
+}
+
+BOOL WINAPI NotedDrawIconEx(HDC dc, int x, int y, HICON icon, int width, int height, UINT step, HBRUSH brush,
+                            UINT flags) {
+  static const auto real = REAL("user32.dll", DrawIconEx);
+  System().drawnIcons.push_back({x, y, width, height, icon, kNotGray});
+  return real(dc, x, y, icon, width, height, step, brush, flags);
+}
+
+// The icon is what the procedure draws.
+BOOL WINAPI NotedGrayStringA(HDC dc, HBRUSH brush, GRAYSTRINGPROC procedure, LPARAM data, int count, int x, int y,
+                             int width, int height) {
+  static const auto real = REAL("user32.dll", GrayStringA);
+  LOGBRUSH color{};
+  GetObjectA(brush, sizeof color, &color);
+  const std::size_t before = System().drawnIcons.size();
+  const BOOL drawn = real(dc, brush, procedure, data, count, x, y, width, height);
+  EXPECT_EQ(System().drawnIcons.size(), before + 1) << "graying draws one icon";
+  System().drawnIcons.back() = {x, y, width, height, System().drawnIcons.back().icon, color.lbColor};
+  return drawn;
 }
 
 BOOL WINAPI CountedSetPropA(HWND window, LPCSTR name, HANDLE value) {
@@ -189,6 +277,12 @@ decltype(&LoadLibraryA) __imp_LoadLibraryA = LoggedLoadLibraryA;
 decltype(&FreeLibrary) __imp_FreeLibrary = LoggedFreeLibrary;
 decltype(&GlobalAlloc) __imp_GlobalAlloc = CountedGlobalAlloc;
 decltype(&GlobalFree) __imp_GlobalFree = CountedGlobalFree;
+decltype(&GlobalSize) __imp_GlobalSize = SizeWithoutGuard;
+decltype(&CreateWindowExA) __imp_CreateWindowExA = RefusingCreateWindowExA;
+decltype(&SetCursor) __imp_SetCursor = FakeSetCursor;
+decltype(&WriteFile) __imp_WriteFile = NotedWriteFile;
+decltype(&DrawIconEx) __imp_DrawIconEx = NotedDrawIconEx;
+decltype(&GrayStringA) __imp_GrayStringA = NotedGrayStringA;
 decltype(&SetPropA) __imp_SetPropA = CountedSetPropA;
 decltype(&RemovePropA) __imp_RemovePropA = CountedRemovePropA;
 decltype(&CreateFontIndirectA) __imp_CreateFontIndirectA = CountedCreateFontIndirectA;
@@ -223,9 +317,13 @@ void ResetSystem() {
               .beeps = 0,
               .answer = IDYES,
               .savedFile = {},
-              .offeredFile = {},
+              .saveDialog = {},
               .missingLibrary = {},
               .missingLibraryHandle = 0,
+              .refusedWindowClass = {},
+              .cursor = nullptr,
+              .cursorWhileWriting = nullptr,
+              .drawnIcons = {},
               .blocks = {},
               .properties = {},
               .fonts = {},

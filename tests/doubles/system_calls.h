@@ -1,11 +1,36 @@
 // System calls that would stop a test (boxes, the end of the process, other programs) or that depend on the day: the
-// program's objects reach these instead. Calls that are counted go on to the system.
+// program's objects reach these instead. Calls that are counted go on to the system. A write past the end of a memory
+// block fails the test when the block is freed.
 #pragma once
 
 #include <windows.h>
 
 #include <set>
 #include <string>
+#include <vector>
+
+// What a save dialog was asked for. A filter is its texts and patterns in turn.
+struct SaveDialog {
+  HWND owner;
+  std::vector<std::string> filter;
+  DWORD filterIndex;
+  std::string offeredFile;
+  DWORD size;  // of the file name's buffer
+  std::string extension;
+  DWORD flags;
+};
+
+// An icon that was drawn; and the brush's colour when by graying.
+struct DrawnIcon {
+  int x;
+  int y;
+  int width;
+  int height;
+  HICON icon;
+  COLORREF gray;
+  bool operator==(const DrawnIcon&) const = default;
+};
+inline constexpr COLORREF kNotGray = CLR_INVALID;
 
 struct SystemScript {
   SYSTEMTIME localTime;
@@ -15,9 +40,16 @@ struct SystemScript {
   int beeps;
   int answer;                     // of message boxes with a question
   std::string savedFile;          // chosen in a save dialog; empty: cancelled
-  std::string offeredFile;        // by the last save dialog
+  SaveDialog saveDialog;          // the last one
   std::string missingLibrary;     // what LoadLibrary does not find ...
   UINT_PTR missingLibraryHandle;  // ... and answers for it
+
+  std::string refusedWindowClass;  // of which no window can be created
+
+  // The mouse cursor, and what it was when a file was written last.
+  HCURSOR cursor;
+  HCURSOR cursorWhileWriting;
+  std::vector<DrawnIcon> drawnIcons;
 
   // What the program holds: blocks by handle, and properties as "window name".
   std::set<HGLOBAL> blocks;

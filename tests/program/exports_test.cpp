@@ -128,9 +128,9 @@ TEST_F(ExportsTest, TheLastFileOfAFormatIsOfferedAgain) {
   Exported(IDM_EXPORT_RTF, "readings.rtf");
   System().savedFile.clear();
   Command(IDM_EXPORT_TEXT);
-  EXPECT_THAT(System().offeredFile, HasSubstr("readings.txt"));
+  EXPECT_THAT(System().saveDialog.offeredFile, HasSubstr("readings.txt"));
   Command(IDM_EXPORT_RTF);
-  EXPECT_THAT(System().offeredFile, HasSubstr("readings.rtf"));
+  EXPECT_THAT(System().saveDialog.offeredFile, HasSubstr("readings.rtf"));
 }
 
 TEST_F(ExportsTest, ACancelledExportWritesNothing) {

@@ -81,8 +81,5 @@ class LocationsTest : public ProgramTest {
   static void Edit(HWND manager, int button, const std::function<void(HWND)>& drive) {
     WithDialog([&] { Click(manager, button); }, drive);
   }
-  static std::string Stored(const std::string& key) {
-    const auto found = Libraries().settings.find(key);
-    return found == Libraries().settings.end() ? "(none)" : found->second;
-  }
+  static std::string Stored(const std::string& key) { return Libraries().settings.Stored(key); }
 };

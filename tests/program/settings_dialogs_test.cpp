@@ -1,5 +1,6 @@
 // The dialogs for preferences, range and the sunset of a day.
 #include "app/active_document.h"
+#include "app/open_document.h"
 #include "app/program.h"
 #include "engine/bound_entries.h"
 #include "engine/current.h"
@@ -237,6 +238,22 @@ TEST_F(SettingsDialogsTest, SunsetOpensOnTodayAtTheDocumentsPlace) {
     Click(dialog, IDOK);
   });
   EXPECT_THAT(CallsWith("sunset"), ElementsAre("sunset 20.11.2026 5046 606 1:0"));
+}
+
+TEST_F(SettingsDialogsTest, SunsetIsTheActiveDocumentsThoughAnotherPlaceIsCurrent) {
+  const HWND first = ActiveDocument();
+  CurrentLocation = {"St. John's", 4734, -5243, -3, -30};
+  OpenAndCompute(frame_);
+  const auto sunsetAsked = [this] {
+    CallLog().clear();
+    Open(IDM_SUNSET_OF_A_DAY, [](HWND dialog) { Click(dialog, IDOK); });
+    return CallsWith("sunset");
+  };
+  CurrentLocation = {"Haifa", 3249, 3459, 2, 0};
+  EXPECT_THAT(sunsetAsked(), ElementsAre("sunset 20.11.2026 4734 -5243 -3:-30"));
+  SendMessageA(Program.mdiClient, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(first), 0);
+  EXPECT_THAT(sunsetAsked(), ElementsAre("sunset 20.11.2026 5046 606 1:0"));
+  EXPECT_STREQ(CurrentLocation.name, "Haifa");
 }
 
 TEST_F(SettingsDialogsTest, SunsetStepsByItsSpinBars) {
