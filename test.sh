@@ -1,6 +1,6 @@
 #!/bin/sh
-# Sets up what is missing, builds everything, and runs every test: the portable cores natively under ASan and UBSan and
-# against fuzzers, then everything for Windows in Wine.
+# Sets up what is missing, checks the sources, builds everything, and runs every test: the portable cores natively under
+# ASan and UBSan and against fuzzers, then everything for Windows in Wine.
 #
 #   ./test.sh --fuzz   lets each fuzzer run for a minute instead of a few seconds
 set -eu
@@ -14,7 +14,9 @@ cd "$(dirname "$0")"
 . tools/packages.sh
 
 # shellcheck disable=SC2086
-tools/install_packages $build_packages $test_packages $printing_packages $wine_packages
+tools/install_packages $check_packages $build_packages $test_packages $printing_packages $wine_packages
+
+tools/check_sources
 
 echo "Building and testing natively ..."
 cmake --preset native >/dev/null

@@ -8,13 +8,13 @@
 #include "engine/bound_entries.h"
 #include "engine/string_table.h"
 #include "resources/ids.h"
+#include "resources/version.h"
 #include "win/dialog.h"
 #include "win/message_box.h"
 #include "win/scoped.h"
 
 namespace {
 
-constexpr char kFileVersion[] = "6.0.0.0001R";
 // Deliberate: the odd ordinal is how the date was published.
 constexpr char kReleaseDate[] = "November the 1th, 2007";
 
@@ -54,7 +54,8 @@ void ShowVersions(HWND dialog) {
   std::snprintf(text, sizeof text,
                 "Release date: %s\nFile version: %s\nCalendar library API version: %u.%02u\nSolar library API version: "
                 "%u.%02u",
-                kReleaseDate, kFileVersion, calendar >> 8 & 0xFFu, calendar & 0xFFu, solar >> 8 & 0xFFu, solar & 0xFFu);
+                kReleaseDate, FILE_VERSION_TEXT, calendar >> 8 & 0xFFu, calendar & 0xFFu, solar >> 8 & 0xFFu,
+                solar & 0xFFu);
   ShowInformation(dialog, text, TableString(IDS_TITLE));
 }
 

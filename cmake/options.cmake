@@ -7,7 +7,8 @@ target_compile_options(project_options INTERFACE -Wall -Wextra -Wpedantic -Wshad
 if(WIN32)
   # The oldest Windows that GDI scaling (the manifest) knows is 10; the calls themselves go back to 7.
   target_compile_definitions(project_options INTERFACE WINVER=0x0601 _WIN32_WINNT=0x0601 WIN32_LEAN_AND_MEAN NOMINMAX)
-  add_link_options(-static -s)
+  # No time of linking in the files: the same sources make the same bytes (tools/check_reproducible).
+  add_link_options(-static -s -Wl,--no-insert-timestamp)
 endif()
 if(TIMES_READINGS_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -16,7 +16,7 @@ function(add_companion_library name)
   get_filename_component(suffix ${ARG_FILE} LAST_EXT)
   configure_file(${CMAKE_SOURCE_DIR}/cmake/version.rc.in ${CMAKE_CURRENT_BINARY_DIR}/version.rc @ONLY)
   add_library(${name} SHARED ${name}_dll.cpp ${name}.def ${CMAKE_CURRENT_BINARY_DIR}/version.rc ${ARG_SOURCES})
-  target_link_libraries(${name} PRIVATE project_options ${ARG_LIBRARIES})
+  target_link_libraries(${name} PRIVATE project_options ${ARG_LIBRARIES} terminate)
   set_target_properties(${name} PROPERTIES PREFIX "" OUTPUT_NAME ${stem} SUFFIX ${suffix}
     RUNTIME_OUTPUT_DIRECTORY ${PROGRAM_FOLDER})
   set_property(GLOBAL APPEND PROPERTY TIMES_READINGS_COMPANIONS ${name})

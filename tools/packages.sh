@@ -1,5 +1,6 @@
 # The Debian packages that the project needs, by what needs them. Read by run.sh, test.sh and benchmarks/report.
 # shellcheck shell=sh disable=SC2034
+check_packages="clang-format cppcheck shellcheck python3-minimal"
 build_packages="cmake ninja-build g++-mingw-w64-x86-64-posix librsvg2-bin icoutils
   python3-fonttools fonts-liberation2"
 wine_packages="wine wine64 fonts-wine xvfb xauth imagemagick"

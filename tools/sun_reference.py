@@ -195,6 +195,7 @@ def row(place_index, date, elevation):
 def main():
     generator = random.Random(5786)
     print("// Made by tools/sun_reference.py; not edited by hand.")
+    print("#pragma once")
     print("// clang-format off")
     print("inline constexpr ReferencePlace kReferencePlaces[] = {")
     for name, latitude, longitude, zone_hours, zone_minutes, _ in PLACES:

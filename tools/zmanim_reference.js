@@ -157,7 +157,8 @@ function calendarAt([name, latitude, longitude, zoneHours, zoneMinutes, elevatio
 }
 
 const ids = Object.keys(zmanimOf(calendarAt(PLACES[0], DATES[0])));
-const lines = ["// Made by tools/zmanim_reference.js with kosher-zmanim 0.9.0; not edited by hand.", "// clang-format off"];
+const lines = ["// Made by tools/zmanim_reference.js with kosher-zmanim 0.9.0; not edited by hand.", "#pragma once",
+  "// clang-format off"];
 lines.push("inline constexpr const char* kReferenceIds[] = {");
 for (const id of ids) lines.push(`    "${id}",`);
 lines.push("};", "inline constexpr ReferencePlace kReferencePlaces[] = {");

@@ -2,8 +2,7 @@
 //
 // Absolute day numbers are Rata Die: day 1 is Monday, 1 January of year 1 of the proleptic Gregorian calendar (E. M.
 // Reingold, N. Dershowitz, "Calendrical Calculations").
-#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_DATE_H
-#define TIMES_READINGS_LIBRARIES_CALENDAR_DATE_H
+#pragma once
 
 #include <cstdint>
 
@@ -30,5 +29,3 @@ constexpr Weekday WeekdayOf(int32_t absoluteDay) {
 }
 
 }  // namespace calendar
-
-#endif

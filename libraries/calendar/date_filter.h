@@ -1,6 +1,5 @@
 // A calendar as its filter library offers it: one table of operations each.
-#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_DATE_FILTER_H
-#define TIMES_READINGS_LIBRARIES_CALENDAR_DATE_FILTER_H
+#pragma once
 
 #include <cstdint>
 #include <span>
@@ -25,5 +24,3 @@ extern const DateFilter gregorianFilter;
 extern const DateFilter jewishFilter;
 
 }  // namespace calendar
-
-#endif

@@ -1,7 +1,6 @@
 // The entry points of companion/datefilter.h are compiled into each filter library from date_filter_dll.cpp; the
 // library itself says here which calendar it is.
-#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_DATE_FILTER_DLL_H
-#define TIMES_READINGS_LIBRARIES_CALENDAR_DATE_FILTER_DLL_H
+#pragma once
 
 #include "companion/calendar_date.h"
 #include "libraries/calendar/date_filter.h"
@@ -14,5 +13,3 @@ const DateFilter& FilterOfThisLibrary();
 int32_t AbsoluteFromCalendarDate(const DateFilter& filter, const CalendarDate* date);
 
 }  // namespace calendar
-
-#endif

@@ -1,6 +1,5 @@
 // The proleptic Gregorian calendar, years 1 to 9999.
-#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_GREGORIAN_H
-#define TIMES_READINGS_LIBRARIES_CALENDAR_GREGORIAN_H
+#pragma once
 
 #include <cstdint>
 
@@ -23,5 +22,3 @@ Date GregorianFromAbsolute(int32_t absoluteDay);
 int32_t GregorianEaster(int32_t year);
 
 }  // namespace calendar
-
-#endif

@@ -1,6 +1,5 @@
 // Holidays as data, alike for both calendars: a date of the calendar, moved by the weekday on which it falls.
-#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_HOLIDAY_H
-#define TIMES_READINGS_LIBRARIES_CALENDAR_HOLIDAY_H
+#pragma once
 
 #include <array>
 #include <cstdint>
@@ -61,5 +60,3 @@ std::span<const Holiday> JewishHolidays();
 std::optional<int32_t> JewishBaseDay(const HolidayRule& rule, int32_t year);
 
 }  // namespace calendar
-
-#endif

@@ -2,8 +2,7 @@
 //
 // Months are numbered Nisan = 1 ... Tishri = 7 ... Adar (Adar I in a leap year) = 12, Adar II = 13; the year changes at
 // Tishri.
-#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_JEWISH_H
-#define TIMES_READINGS_LIBRARIES_CALENDAR_JEWISH_H
+#pragma once
 
 #include <cstdint>
 
@@ -66,5 +65,3 @@ int32_t AbsoluteFromJewish(const Date& date);
 Date JewishFromAbsolute(int32_t absoluteDay);
 
 }  // namespace calendar
-
-#endif

@@ -1,6 +1,5 @@
 // The months' names in the languages of the exports.
-#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_MONTH_NAMES_H
-#define TIMES_READINGS_LIBRARIES_CALENDAR_MONTH_NAMES_H
+#pragma once
 
 #include <cstdint>
 
@@ -18,5 +17,3 @@ const char* GregorianMonthName(int32_t month, int32_t year, uint32_t language);
 const char* JewishMonthName(int32_t month, int32_t year, uint32_t language);
 
 }  // namespace calendar
-
-#endif

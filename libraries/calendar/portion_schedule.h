@@ -3,8 +3,7 @@
 // The cycle opens with Bereshit on the first Shabbat after Simchat Torah and closes with Vezot Haberakhah on Simchat
 // Torah itself. A Shabbat that is a festival or Chol haMoed has no portion of the cycle. Years are Jewish years, 1 to
 // 9999; days are absolute days.
-#ifndef TIMES_READINGS_LIBRARIES_CALENDAR_PORTION_SCHEDULE_H
-#define TIMES_READINGS_LIBRARIES_CALENDAR_PORTION_SCHEDULE_H
+#pragma once
 
 #include <cstdint>
 #include <optional>
@@ -100,5 +99,3 @@ std::optional<WeeklyPortion> PortionOfWeek(int32_t absoluteDay, Land land);
 std::vector<int32_t> DaysOfPortion(Portion portion, int32_t jewishYear, Land land);
 
 }  // namespace calendar
-
-#endif

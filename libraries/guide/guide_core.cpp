@@ -1,7 +1,6 @@
 #include "libraries/guide/guide_core.h"
 
 #include <algorithm>
-#include <system_error>
 
 namespace guide {
 namespace {
@@ -30,12 +29,6 @@ const Topic& TopicNamed(std::string_view name) {
   const auto topic = std::ranges::find_if(
       kTopics, [name](const Topic& t) { return std::ranges::equal(t.name, name, {}, LowerCase, LowerCase); });
   return topic == std::end(kTopics) ? kTopics[0] : *topic;
-}
-
-HelpPage PageOf(std::string_view topicName, const std::filesystem::path& programFolder) {
-  const std::filesystem::path file = programFolder / "help" / TopicNamed(topicName).page;
-  std::error_code unreadable;
-  return {file, std::filesystem::is_regular_file(file, unreadable)};
 }
 
 }  // namespace guide

@@ -71,7 +71,7 @@ std::string ChoiceLines(const Choice& choice, std::string_view end) {
 // Makes texts different from all that were taken before.
 class UniqueTexts {
  public:
-  std::string Take(std::string text) {
+  std::string Take(const std::string& text) {
     std::string unique = text;
     for (int number = 2; !taken_.insert(unique).second; ++number) unique = Numbered(text, number);
     return unique;

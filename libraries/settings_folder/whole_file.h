@@ -35,7 +35,8 @@ enum class ReplaceResult { Replaced, ChangedMeanwhile, Failed };
 // end, flushed to the disk, renamed over. old is the stamp by which the caller knows the old file; one that bears
 // another stamp by now has been changed by a program that does not ask for the lock, and is left alone. Unless the
 // result is Replaced, the file is as others left it. A ".new" left by a crash is written over the next time. written:
-// the new file's stamp, whose time is always later than the old one's. The caller holds the lock.
+// the new file's stamp, whose time is always later than the old one's; it may point to what old was copied from. The
+// caller holds the lock.
 ReplaceResult ReplaceWholeFile(const std::wstring& path, std::string_view text, FileStamp old, FileStamp* written);
 
 // Keeps the writers of files, in whatever processes of the machine, from each other's way while it lives. One lock

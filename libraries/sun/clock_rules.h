@@ -1,6 +1,5 @@
 // Clock time by the tz database: the offset from UTC of a zone at a moment, summer time included.
-#ifndef TIMES_READINGS_LIBRARIES_SUN_CLOCK_RULES_H
-#define TIMES_READINGS_LIBRARIES_SUN_CLOCK_RULES_H
+#pragma once
 
 #include <cstdint>
 #include <optional>
@@ -22,5 +21,3 @@ std::optional<int32_t> UtcOffsetSeconds(std::string_view zoneId, int64_t unixSec
 const char* NearestZone(int32_t packedLatitude, int32_t packedLongitude, int32_t zoneHours, int32_t zoneMinutes);
 
 }  // namespace sun
-
-#endif

@@ -1,6 +1,5 @@
 // The layout of the generated table of clock rules. Read by clock_rules.cpp only.
-#ifndef TIMES_READINGS_LIBRARIES_SUN_CLOCK_RULES_TABLE_H
-#define TIMES_READINGS_LIBRARIES_SUN_CLOCK_RULES_TABLE_H
+#pragma once
 
 #include <cstdint>
 #include <span>
@@ -49,5 +48,3 @@ extern const std::span<const uint32_t> changeMoments;  // seconds since 1970-01-
 extern const std::span<const uint8_t> offsetsAfter;    // index into offsetsSeconds, in force from the moment on
 
 }  // namespace sun::clock_rules_table
-
-#endif

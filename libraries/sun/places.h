@@ -1,6 +1,5 @@
 // The places that the program knows without the user's help.
-#ifndef TIMES_READINGS_LIBRARIES_SUN_PLACES_H
-#define TIMES_READINGS_LIBRARIES_SUN_PLACES_H
+#pragma once
 
 #include <cstdint>
 #include <span>
@@ -23,5 +22,3 @@ struct BuiltInPlace {
 std::span<const BuiltInPlace> BuiltInPlaces();
 
 }  // namespace sun
-
-#endif

@@ -1,6 +1,5 @@
 // A calendar filter library bound by name, as the program binds it.
-#ifndef TIMES_READINGS_TESTS_CONTRACT_DATE_FILTER_LIBRARY_H
-#define TIMES_READINGS_TESTS_CONTRACT_DATE_FILTER_LIBRARY_H
+#pragma once
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -61,5 +60,3 @@ class DateFilterLibrary {
 void ExpectSurvivesAnyArgument(const DateFilterLibrary& library);
 void ExpectNamesAreCutToTheirBuffer(const DateFilterLibrary& library);
 void ExpectHolidaysAreConsistent(const DateFilterLibrary& library, uint32_t year);
-
-#endif

@@ -17,6 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 
 struct Opened {
@@ -85,8 +86,10 @@ class GuideContract : public testing::Test {
   void* original_ = nullptr;
 };
 
+using GoCall = void (*)(HWND, const char*);
+
 // The text of the box that the call shows, which is then closed.
-std::wstring TextOfBox(void (*go)(HWND, const char*), const char* topic) {
+std::wstring TextOfBox(GoCall go, const char* topic) {
   std::thread call([=] { go(nullptr, topic); });
   std::wstring text;
   if (const HWND box = WaitForDialog(L"Times / Readings")) {
@@ -125,19 +128,68 @@ TEST_F(GuideContract, PageThatCannotBeOpenedIsNamed) {
   EXPECT_EQ(opened.count, 2);
 }
 
+// A copy of the library in a folder of its own. Paths have the prefix that lifts the limit of their length.
+class LibraryCopy {
+ public:
+  explicit LibraryCopy(const std::wstring& folder) : folder_(L"\\\\?\\" + folder) {
+    MakeFolders(folder_);
+    const std::wstring file = folder_ + L"\\guide_copy.dll";
+    EXPECT_TRUE(CopyFileW(FileOf(GetModuleHandleW(L"guide.dll")).c_str(), file.c_str(), FALSE));
+    library_ = LoadLibraryW(file.c_str());
+    EXPECT_TRUE(library_);
+    if (library_) Replace(ImportSlot(library_, "ShellExecuteW"), reinterpret_cast<void*>(&RecordOpening));
+  }
+  ~LibraryCopy() { FreeLibrary(library_); }
+  LibraryCopy(const LibraryCopy&) = delete;
+  LibraryCopy& operator=(const LibraryCopy&) = delete;
+
+  GoCall Go() const { return reinterpret_cast<GoCall>(reinterpret_cast<void*>(GetProcAddress(library_, "GuideGo"))); }
+
+  void PutPage(const wchar_t* name) const {
+    MakeFolders(folder_ + L"\\help");
+    CloseHandle(CreateFileW((folder_ + L"\\help\\" + name).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
+  }
+
+ private:
+  static void MakeFolders(const std::wstring& folder) {
+    if (CreateDirectoryW(folder.c_str(), nullptr) || GetLastError() != ERROR_PATH_NOT_FOUND) return;
+    MakeFolders(folder.substr(0, folder.rfind(L'\\')));
+    CreateDirectoryW(folder.c_str(), nullptr);
+  }
+
+  std::wstring folder_;
+  HMODULE library_ = nullptr;
+};
+
 TEST_F(GuideContract, MissingPageIsNamedWithWhatToDo) {
   const SettingsHome folder;  // a folder of the test's own, with the library alone in it
-  fs::create_directories(folder.Folder());
-  const fs::path copy = folder.Path("guide_without_help.dll");
-  fs::copy_file(FileOf(GetModuleHandleW(L"guide.dll")), copy);
-  const HMODULE library = LoadLibraryW(copy.c_str());
-  ASSERT_TRUE(library);
-  const auto go =
-      reinterpret_cast<void (*)(HWND, const char*)>(reinterpret_cast<void*>(GetProcAddress(library, "GuideGo")));
-  const std::wstring text = TextOfBox(go, "Zmanim");
+  const LibraryCopy library(folder.Folder().wstring());
+  const std::wstring text = TextOfBox(library.Go(), "Zmanim");
   EXPECT_THAT(text, HasSubstr((folder.Folder() / "help" / "zmanim.html").wstring()));
   EXPECT_THAT(text, HasSubstr(L"Please install the program again."));
-  FreeLibrary(library);
+}
+
+TEST_F(GuideContract, FolderInThePagesPlaceIsNoPage) {
+  const SettingsHome folder;
+  const LibraryCopy library(folder.Folder().wstring());
+  fs::create_directories(folder.Folder() / "help" / "zmanim.html");
+  EXPECT_THAT(TextOfBox(library.Go(), "Zmanim"), HasSubstr(L"Please install the program again."));
+  EXPECT_EQ(opened.count, 0);
+}
+
+TEST_F(GuideContract, ProgramFolderMayHaveANameOfAnyLanguageAndLength) {
+  const SettingsHome folder;
+  const std::wstring longName = std::wstring(100, L'f');
+  for (const std::wstring& name :
+       {std::wstring(L"\x05DC\x05D5\x05D7 \x4E2D \x0159"), longName + L"\\" + longName + L"\\" + longName}) {
+    const std::wstring path = (folder.Folder() / name).wstring();
+    const LibraryCopy library(path);
+    library.PutPage(L"zmanim.html");
+    opened.count = 0;
+    library.Go()(nullptr, "Zmanim");
+    EXPECT_EQ(opened.count, 1);
+    EXPECT_THAT(opened.file, EndsWith(path + L"\\help\\zmanim.html"));
+  }
 }
 
 }  // namespace

@@ -60,16 +60,8 @@ TEST(HelpTopics, UnknownAndEmptyOnesAreTheGeneralPage) {
 
 TEST(HelpTopics, EachHasAPage) {
   for (const guide::Topic& topic : guide::Topics()) {
-    const guide::HelpPage page = guide::PageOf(topic.name, ProgramFolder());
-    EXPECT_TRUE(page.exists) << page.file;
-    EXPECT_EQ(page.file, ProgramFolder() / "help" / topic.page);
+    EXPECT_TRUE(fs::is_regular_file(ProgramFolder() / "help" / topic.page)) << topic.page;
   }
-}
-
-TEST(HelpTopics, PageOfAnotherFolderIsMissing) {
-  const guide::HelpPage page = guide::PageOf("Zmanim", ProgramFolder() / "nowhere");
-  EXPECT_FALSE(page.exists);
-  EXPECT_EQ(page.file, ProgramFolder() / "nowhere" / "help" / "zmanim.html");
 }
 
 TEST(HelpPages, EachIsReachedFromEveryOther) {

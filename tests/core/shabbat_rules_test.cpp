@@ -5,6 +5,8 @@
 
 #include <limits>
 
+#include "shabbat/core/shabbat_record.h"
+
 namespace {
 
 constexpr int32_t kFriday = 732681;  // 5 January 2007

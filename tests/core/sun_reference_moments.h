@@ -1,4 +1,5 @@
 // Made by tools/sun_reference.py; not edited by hand.
+#pragma once
 // clang-format off
 inline constexpr ReferencePlace kReferencePlaces[] = {
     {"Jerusalem", 3147, 3514, 2, 0},

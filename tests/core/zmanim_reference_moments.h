@@ -1,4 +1,5 @@
 // Made by tools/zmanim_reference.js with kosher-zmanim 0.9.0; not edited by hand.
+#pragma once
 // clang-format off
 inline constexpr const char* kReferenceIds[] = {
     "sunrise-baal-hatanya",

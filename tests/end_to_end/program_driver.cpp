@@ -31,6 +31,12 @@ BOOL CALLBACK CollectVisible(HWND window, LPARAM parameter) {
   return TRUE;
 }
 
+fs::path UnusedFolder() {
+  static int count = 0;
+  return fs::temp_directory_path() /
+         ("times_readings_" + std::to_string(GetCurrentProcessId()) + "_" + std::to_string(++count));
+}
+
 }  // namespace
 
 fs::path ProgramFolder() {
@@ -40,10 +46,7 @@ fs::path FakeLibrariesFolder() {
   return BuildFolder() / "fake_libraries";
 }
 
-TemporaryFolder::TemporaryFolder() {
-  static int count = 0;
-  path_ = fs::temp_directory_path() /
-          ("times_readings_" + std::to_string(GetCurrentProcessId()) + "_" + std::to_string(++count));
+TemporaryFolder::TemporaryFolder() : path_(UnusedFolder()) {
   fs::create_directories(path_);
 }
 
