@@ -16,56 +16,48 @@ struct DayQuestion {
   sun::PackedPlace place;
   uint32_t day, month, year;
   hours::ShownSun shown;
+
+  bool operator==(const DayQuestion&) const = default;
 };
-
-bool AreEqual(const sun::PackedPlace& left, const sun::PackedPlace& right) {
-  return left.latitude == right.latitude && left.longitude == right.longitude && left.zoneHours == right.zoneHours &&
-         left.zoneMinutes == right.zoneMinutes;
-}
-
-bool AreEqual(const DayQuestion& left, const DayQuestion& right) {
-  return AreEqual(left.place, right.place) && left.day == right.day && left.month == right.month &&
-         left.year == right.year && left.shown.sunriseMinutes == right.shown.sunriseMinutes &&
-         left.shown.sunsetMinutes == right.shown.sunsetMinutes;
-}
 
 // The settings of the last place and the last day that were asked for: programs ask for all zmanim of a day before they
 // go on to the next. Both are old when the tick has advanced. Guarded by the selection's lock.
-struct KnownPlace {
-  sun::PackedPlace place;
-  DWORD tick;
+struct Known {
+  std::optional<sun::PackedPlace> place;
+  DWORD placeTick = 0;
   sun::PlaceSettings settings;
-};
-struct KnownDay {
   DayQuestion question;
-  DWORD tick;
-  hours::ZmanDay zmanim;
+  DWORD dayTick = 0;
+  std::optional<hours::ZmanDay> zmanim;  // by question and settings
 };
 
-std::optional<KnownPlace> knownPlace;
-std::optional<KnownDay> knownDay;
-
-hours::ZmanDay ComputeDay(const DayQuestion& question) {
-  const int32_t unixDay = sun::UnixDayOfDate(question.day, question.month, question.year);
-  return hours::ZmanDay(unixDay, knownPlace->settings, question.shown);
-}
+Known known;
 
 void ReadSettings(const sun::PackedPlace& place, DWORD tick) {
-  knownPlace = {place, tick, sun::ReadPlaceSettings({ProfileGetInt, ProfileGetString}, place)};
+  known.settings = sun::ReadPlaceSettings({ProfileGetInt, ProfileGetString}, place);
+  known.place = place;
+  known.placeTick = tick;
+}
+
+void ComputeDay(const DayQuestion& question, DWORD tick) {
+  const int32_t unixDay = sun::UnixDayOfDate(question.day, question.month, question.year);
+  known.zmanim.emplace(unixDay, known.settings, question.shown);
+  known.question = question;
+  known.dayTick = tick;
 }
 
 hours::ZmanDay& DayFor(const DayQuestion& question) {
   const DWORD tick = GetTickCount();
-  if (knownDay && tick == knownDay->tick && AreEqual(question, knownDay->question)) return knownDay->zmanim;
+  if (known.zmanim && tick == known.dayTick && question == known.question) return *known.zmanim;
 
-  const bool isPlaceKnown = knownPlace && tick == knownPlace->tick && AreEqual(question.place, knownPlace->place);
+  const bool isPlaceKnown = tick == known.placeTick && question.place == known.place;
   if (!isPlaceKnown) ReadSettings(question.place, tick);
-  knownDay.emplace(KnownDay{question, tick, ComputeDay(question)});
-  if (isPlaceKnown && !knownDay->zmanim.AgreesWithShown()) {
+  ComputeDay(question, tick);
+  if (isPlaceKnown && !known.zmanim->AgreesWithShown()) {
     ReadSettings(question.place, tick);
-    knownDay.emplace(KnownDay{question, tick, ComputeDay(question)});
+    ComputeDay(question, tick);
   }
-  return knownDay->zmanim;
+  return *known.zmanim;
 }
 
 // The text that one of the zmanim has; 0 when there is no such zman.

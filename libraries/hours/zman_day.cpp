@@ -24,6 +24,13 @@ bool IsWhole(int32_t thousandths) {
   return thousandths % 1000 == 0;
 }
 
+constexpr int32_t kNoKey = std::numeric_limits<int32_t>::min();  // far beyond every depression
+
+// Of 256. Spread by the golden ratio's fraction (Knuth), so that the tenths of degrees of one end share no slot.
+size_t SlotOf(int32_t key) {
+  return (static_cast<uint32_t>(key) * 0x9E3779B9u) >> 24;
+}
+
 // The minute nearest to a computed one whose time of day is the shown one.
 int64_t MinuteShown(int64_t computed, int64_t shownOfDay) {
   const int64_t difference = (shownOfDay % kMinutesPerDay - computed % kMinutesPerDay) % kMinutesPerDay;
@@ -35,6 +42,7 @@ int64_t MinuteShown(int64_t computed, int64_t shownOfDay) {
 
 ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSun& shown)
     : unixDay_(unixDay), place_(place), sun_(sun::ComputeSunDay(unixDay, place.site)) {
+  keptKeys_.fill(kNoKey);
   const double before = sun_.noonUtcSeconds - kSecondsPerDay;
   const double after = sun_.noonUtcSeconds + kSecondsPerDay;
   offsetSeconds_ = sun::ClockOffsetSeconds(place_.clock, before);
@@ -75,21 +83,15 @@ double ZmanDay::MeanNoon() const {
 
 std::optional<double> ZmanDay::AtDepression(int32_t thousandthDegrees, End end) {
   const int32_t key = thousandthDegrees * 2 + (end == End::kEnd ? 1 : 0);
-  const auto last = keptKeys_.begin() + static_cast<std::ptrdiff_t>(keptCount_);
-  const auto kept = std::find(keptKeys_.begin(), last, key);
-  double moment;
-  if (kept != last) {
-    moment = keptMoments_[static_cast<size_t>(kept - keptKeys_.begin())];
-  } else {
+  const size_t slot = SlotOf(key);
+  double& moment = keptMoments_[slot];
+  if (keptKeys_[slot] != key) {
     const double degrees = thousandthDegrees / 1000.0;
     const sun::SunEvent event =
         end == End::kStart ? sun::MorningDepression(sun_, degrees) : sun::EveningDepression(sun_, degrees);
     const bool isReached = event.crossing == sun::Crossing::kReached;
     moment = isReached ? event.utcSeconds : std::numeric_limits<double>::quiet_NaN();
-    if (keptCount_ < kMostKept) {
-      keptKeys_[keptCount_] = key;
-      keptMoments_[keptCount_++] = moment;
-    }
+    keptKeys_[slot] = key;
   }
   return std::isnan(moment) ? std::nullopt : std::optional(moment);
 }

@@ -17,6 +17,8 @@ namespace hours {
 struct ShownSun {
   int64_t sunriseMinutes;
   int64_t sunsetMinutes;
+
+  bool operator==(const ShownSun&) const = default;
 };
 
 class ZmanDay {
@@ -61,11 +63,10 @@ class ZmanDay {
   bool hasOneOffset_;
   std::optional<bool> isPesachEve_;
 
-  // Depressions asked for so far; later ones are computed each time.
-  static constexpr size_t kMostKept = 96;
-  size_t keptCount_ = 0;
-  std::array<int32_t, kMostKept> keptKeys_;
-  std::array<double, kMostKept> keptMoments_;  // not a number where the sun does not get there
+  // Depressions asked for so far, each in the slot of its key; of two for one slot the later.
+  static constexpr size_t kSlots = 256;
+  std::array<int32_t, kSlots> keptKeys_;
+  std::array<double, kSlots> keptMoments_;  // not a number where the sun does not get there
 };
 
 }  // namespace hours

@@ -74,6 +74,8 @@ class OwnTimes {
   // text: the whole file.
   explicit OwnTimes(std::string_view text);
 
+  // Of most dates there is nothing to find.
+  bool HasTimesOn(PackedDate date) const { return zmanimOfDate_.contains(date); }
   std::optional<Time> Find(PackedDate date, std::string_view description, std::string_view place) const;
   void Set(Entry entry);
 

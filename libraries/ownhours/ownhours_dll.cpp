@@ -29,7 +29,7 @@ int32_t OwnHoursGet(const OwnHoursHandle* handle, uint32_t day, uint32_t month, 
   const OpenStore* store = StoreOf(handle);
   if (!store || !description || !location || !hour || !minute) return 0;
   const auto date = ownhours::PackDate(day, month, year);
-  if (!date) return 0;
+  if (!date || !store->Times().HasTimesOn(*date)) return 0;
   const auto time = store->Times().Find(*date, description, location);
   if (!time) return 0;
   *hour = time->hour;

@@ -1,4 +1,6 @@
 #include <cstdio>
+#include <mutex>
+#include <optional>
 
 #include "companion/profile.h"
 #include "companion/solar.h"
@@ -11,6 +13,23 @@ namespace {
 
 constexpr uint32_t kApiVersion = 256;
 constexpr size_t kNameSize = 256;
+
+// Programs ask for a day's sunrise and sunset one after the other, for the same place a thousand times.
+struct KnownDay {
+  int32_t unixDay;
+  sun::PackedPlace place;
+  sun::SunDay sun;
+};
+
+std::mutex mutex;  // of both below
+sun::KnownPlace knownPlace;
+std::optional<KnownDay> knownDay;
+
+const sun::SunDay& SunOf(int32_t unixDay, const sun::PackedPlace& place, const sun::Site& site) {
+  const bool isKnown = knownDay && knownDay->unixDay == unixDay && knownDay->place == place;
+  if (!isKnown) knownDay = {unixDay, place, sun::ComputeSunDay(unixDay, site)};
+  return knownDay->sun;
+}
 
 void Put(int32_t* output, int32_t value) {
   if (output) *output = value;
@@ -41,14 +60,16 @@ uint32_t SolarGetBuiltInLocation(uint32_t index, char* name, int32_t* latitude, 
 
 void SolarGetSunsetSunrise(uint32_t day, uint32_t month, uint32_t year, uint32_t event, int32_t latitude,
                            int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes, int32_t* hour,
-                           int32_t* minute) {
-  const sun::PlaceSettings settings =
-      sun::ReadPlaceSettings({ProfileGetInt, ProfileGetString}, {latitude, longitude, timeZoneHours, timeZoneMinutes});
-  const sun::SunDay sunDay = sun::ComputeSunDay(sun::UnixDayOfDate(day, month, year), settings.site);
+                           int32_t* minute) try {
+  const std::lock_guard lock(mutex);
+  const sun::PackedPlace place = {latitude, longitude, timeZoneHours, timeZoneMinutes};
+  const sun::PlaceSettings& settings = knownPlace.Read({ProfileGetInt, ProfileGetString}, place);
+  const sun::SunDay& sunDay = SunOf(sun::UnixDayOfDate(day, month, year), place, settings.site);
   const sun::SunEvent found = event == SOLAR_SUNRISE ? sun::Sunrise(sunDay, settings.elevationMetres)
                                                      : sun::Sunset(sunDay, settings.elevationMetres);
   const int32_t offsetSeconds = sun::ClockOffsetSeconds(settings.clock, found.utcSeconds);
   const sun::ClockTime time = sun::TimeOfDay(sun::NearestMinute(found.utcSeconds, offsetSeconds));
   Put(hour, time.hour);
   Put(minute, time.minute);
+} catch (...) {  // the outputs stay as they are
 }

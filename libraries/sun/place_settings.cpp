@@ -31,6 +31,35 @@ std::array<char, 64> ReadClockText(const SettingsReader& reader, const char* key
   return text;
 }
 
+bool IsOff(const PlaceTexts& texts) {
+  return EqualsIgnoringCase(texts.mode.data(), "Off");
+}
+
+// By the place's key.
+PlaceTexts ReadTexts(const SettingsReader& reader, const PackedPlace& place, const char* key) {
+  const bool hasOwnDefault = place.latitude == 4854 && place.longitude == 842 && place.zoneHours == 1;
+  PlaceTexts texts = {};
+  texts.elevationMetres = reader.readInt(kElevationSection, key, hasOwnDefault ? 263 : 0, kElevationFile);
+  texts.mode = ReadClockText(reader, "Mode");
+  if (!IsOff(texts)) texts.zone = ReadClockText(reader, key);
+  return texts;
+}
+
+PlaceSettings SettingsOf(const PackedPlace& place, const PlaceTexts& texts) {
+  PlaceSettings settings = {SiteFromPacked(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes),
+                            static_cast<double>(std::max(texts.elevationMetres, 0)),
+                            {}};
+  PlaceClock& clock = settings.clock;
+  clock.standardOffsetSeconds = settings.site.standardOffsetMinutes * 60;
+  if (IsOff(texts) || EqualsIgnoringCase(texts.zone.data(), "none")) return settings;
+  if (IsKnownZone(texts.zone.data())) {
+    clock.zoneId = texts.zone;
+  } else if (const char* nearest = NearestZone(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes)) {
+    std::snprintf(clock.zoneId.data(), clock.zoneId.size(), "%s", nearest);
+  }
+  return settings;
+}
+
 }  // namespace
 
 std::array<char, 80> PlaceKey(const PackedPlace& place) {
@@ -41,30 +70,21 @@ std::array<char, 80> PlaceKey(const PackedPlace& place) {
   return key;
 }
 
-double ReadElevationMetres(const SettingsReader& reader, const PackedPlace& place) {
-  const bool hasOwnDefault = place.latitude == 4854 && place.longitude == 842 && place.zoneHours == 1;
-  const int32_t metres =
-      reader.readInt(kElevationSection, PlaceKey(place).data(), hasOwnDefault ? 263 : 0, kElevationFile);
-  return std::max(metres, 0);
-}
-
-PlaceClock ReadPlaceClock(const SettingsReader& reader, const PackedPlace& place) {
-  const Site site = SiteFromPacked(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes);
-  PlaceClock clock = {site.standardOffsetMinutes * 60, {}};
-  if (EqualsIgnoringCase(ReadClockText(reader, "Mode").data(), "Off")) return clock;
-  const std::array<char, 64> named = ReadClockText(reader, PlaceKey(place).data());
-  if (EqualsIgnoringCase(named.data(), "none")) return clock;
-  if (IsKnownZone(named.data())) {
-    clock.zoneId = named;
-  } else if (const char* nearest = NearestZone(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes)) {
-    std::snprintf(clock.zoneId.data(), clock.zoneId.size(), "%s", nearest);
-  }
-  return clock;
-}
-
 PlaceSettings ReadPlaceSettings(const SettingsReader& reader, const PackedPlace& place) {
-  return {SiteFromPacked(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes),
-          ReadElevationMetres(reader, place), ReadPlaceClock(reader, place)};
+  return SettingsOf(place, ReadTexts(reader, place, PlaceKey(place).data()));
+}
+
+const PlaceSettings& KnownPlace::Read(const SettingsReader& reader, const PackedPlace& place) {
+  const bool isSamePlace = place == place_;
+  if (!isSamePlace) {
+    place_.reset();
+    key_ = PlaceKey(place);
+  }
+  const PlaceTexts texts = ReadTexts(reader, place, key_.data());
+  if (!isSamePlace || texts != texts_) settings_ = SettingsOf(place, texts);
+  place_ = place;
+  texts_ = texts;
+  return settings_;
 }
 
 }  // namespace sun

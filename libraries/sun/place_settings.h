@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "libraries/sun/sun_day.h"
 
@@ -21,6 +22,8 @@ struct PackedPlace {
   int32_t longitude;
   int32_t zoneHours;
   int32_t zoneMinutes;
+
+  bool operator==(const PackedPlace&) const = default;
 };
 
 // The settings' readers, as companion/profile.h has them.
@@ -42,17 +45,36 @@ struct PlaceSettings {
   PlaceClock clock;
 };
 
+// What the files say about a place.
+struct PlaceTexts {
+  int32_t elevationMetres;
+  std::array<char, 64> mode;
+  std::array<char, 64> zone;
+
+  bool operator==(const PlaceTexts&) const = default;
+};
+
 std::array<char, 80> PlaceKey(const PackedPlace& place);
 
-// An elevation below the sea counts as none. One place has an elevation where the settings name none: 48 degrees 54'
-// north, 8 degrees 42' east, zone 1, 263 metres.
-double ReadElevationMetres(const SettingsReader& reader, const PackedPlace& place);
-
-// The zone that the settings name; where they name none or one that the tz database does not know, the zone of the
-// nearest built-in place with the same standard offset.
-PlaceClock ReadPlaceClock(const SettingsReader& reader, const PackedPlace& place);
-
 // Everything an answer needs, by at most three reads.
+//
+// An elevation below the sea counts as none. One place has an elevation where the settings name none: 48 degrees 54'
+// north, 8 degrees 42' east, zone 1, 263 metres. The zone is the one that the settings name; where they name none or
+// one that the tz database does not know, that of the nearest built-in place with the same standard offset.
 PlaceSettings ReadPlaceSettings(const SettingsReader& reader, const PackedPlace& place);
+
+// The same for programs that ask for one place many times: the settings are read each time, but what follows from them
+// and the place is worked out only when they are others than the last time. Not for use by several threads at once.
+class KnownPlace {
+ public:
+  // What it answers is good until the next call.
+  const PlaceSettings& Read(const SettingsReader& reader, const PackedPlace& place);
+
+ private:
+  std::optional<PackedPlace> place_;
+  std::array<char, 80> key_;  // of place_
+  PlaceTexts texts_;
+  PlaceSettings settings_;  // by place_ and texts_
+};
 
 }  // namespace sun

@@ -73,12 +73,17 @@ double CrossingDays(const SunDay& day, double high, double low, double sinAltitu
   return days;
 }
 
+// Of at most a quarter turn; exactly -1 there, which the sun does not reach.
+double SinAltitude(double depressionRadians) {
+  return depressionRadians < kTurn / 4 ? -SineOfQuarter(depressionRadians / kTurn) : -1;
+}
+
 enum class Half { kMorning, kEvening };
 
 SunEvent EventAt(const SunDay& day, double depressionRadians, Half half) {
   const SunDay::Culmination& high = day.transit;
   const SunDay::Culmination& low = half == Half::kMorning ? day.midnightBefore : day.midnightAfter;
-  const double sinAltitude = -std::sin(depressionRadians);
+  const double sinAltitude = SinAltitude(depressionRadians);
   if (high.sinAltitude <= sinAltitude) return {UtcSeconds(day, high.days), Crossing::kStaysBelow};
   if (low.sinAltitude >= sinAltitude) return {UtcSeconds(day, low.days), Crossing::kStaysAbove};
 

@@ -1,3 +1,4 @@
+#include <mutex>
 #include <string>
 
 #include "companion/profile.h"
@@ -8,6 +9,14 @@
 #include "libraries/twilight/twilight_core.h"
 
 namespace {
+
+std::mutex mutex;
+sun::KnownPlace knownPlace;
+
+sun::PlaceSettings SettingsOf(const sun::PackedPlace& place) {
+  const std::lock_guard lock(mutex);
+  return knownPlace.Read({ProfileGetInt, ProfileGetString}, place);
+}
 
 // The text of a key, however long it is.
 std::string ReadText(const char* section, const char* key, const char* file) {
@@ -28,13 +37,13 @@ std::string ReadText(const char* section, const char* key, const char* file) {
 
 void TwilightCalculate(uint32_t day, uint32_t month, uint32_t year, double depressionDegrees, int32_t latitude,
                        int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes, int32_t* hours,
-                       int32_t* minutes) {
-  const sun::PlaceSettings settings =
-      sun::ReadPlaceSettings({ProfileGetInt, ProfileGetString}, {latitude, longitude, timeZoneHours, timeZoneMinutes});
+                       int32_t* minutes) try {
+  const sun::PlaceSettings settings = SettingsOf({latitude, longitude, timeZoneHours, timeZoneMinutes});
   const int32_t interval =
       twilight::EveningIntervalMinutes(sun::UnixDayOfDate(day, month, year), settings, depressionDegrees);
   if (hours) *hours = interval / 60;
   if (minutes) *minutes = interval % 60;
+} catch (...) {  // the outputs stay as they are
 }
 
 double TwilightGetProfileDouble(const char* section, const char* key, double defaultValue, const char* file) {

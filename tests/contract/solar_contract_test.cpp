@@ -88,6 +88,14 @@ TEST_F(SolarContract, AnswersForTheDateAskedBeyondTheDateLine) {
   EXPECT_EQ(Sunset({-3651, 17446, 12, 0}, 2026, 7, 16), "17:24");    // 17:23:31
 }
 
+TEST_F(SolarContract, PlacesAskedInTurnAnswerEachForItself) {
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_EQ(Sunset({152, -15729, 14, 0}, 2026, 1, 16), "18:40");    // 18:40:16
+    EXPECT_EQ(Sunset({4734, -5243, -3, -30}, 2026, 1, 16), "16:38");  // 16:38:12
+    EXPECT_EQ(Sunset({2743, 8519, 5, 45}, 2026, 1, 16), "17:31");     // 17:31:19
+  }
+}
+
 TEST_F(SolarContract, ASunsetAfterMidnightAnswersTheSmallHours) {
   EXPECT_EQ(Sunset({6409, -2157, 0, 0}, 2026, 6, 21), "0:04");   // 0:04:08 of the 22nd
   EXPECT_EQ(Sunrise({6409, -2157, 0, 0}, 2026, 6, 21), "2:55");  // 2:55:04

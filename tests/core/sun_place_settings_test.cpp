@@ -37,8 +37,10 @@ class SunPlaceSettings : public testing::Test {
     asked.clear();
   }
 
-  std::string ZoneOf(const sun::PackedPlace& place) { return sun::ReadPlaceClock(reader_, place).zoneId.data(); }
-  double ElevationOf(const sun::PackedPlace& place) { return sun::ReadElevationMetres(reader_, place); }
+  std::string ZoneOf(const sun::PackedPlace& place) {
+    return sun::ReadPlaceSettings(reader_, place).clock.zoneId.data();
+  }
+  double ElevationOf(const sun::PackedPlace& place) { return sun::ReadPlaceSettings(reader_, place).elevationMetres; }
 
   const sun::SettingsReader reader_ = {ReadInt, ReadText};
 };
@@ -85,7 +87,7 @@ TEST_F(SunPlaceSettings, TheNearestPlaceOfTheSameOffsetGivesTheZone) {
 
 TEST_F(SunPlaceSettings, AnOffsetThatNoPlaceHasGivesTheStandardClock) {
   EXPECT_EQ(ZoneOf({5047, 605, 1, 17}), "");
-  EXPECT_EQ(sun::ReadPlaceClock(reader_, {5047, 605, 1, 17}).standardOffsetSeconds, 77 * 60);
+  EXPECT_EQ(sun::ReadPlaceSettings(reader_, {5047, 605, 1, 17}).clock.standardOffsetSeconds, 77 * 60);
 }
 
 TEST_F(SunPlaceSettings, ModeOffGivesTheStandardClockEvenWhereTheSettingsNameAZone) {
@@ -122,6 +124,37 @@ TEST_F(SunPlaceSettings, AZoneThatTheDatabaseDoesNotKnowIsPassedOver) {
   for (const char* unknown : {"Europe/Aachen", "", longName.c_str()}) {
     texts["solar.ini|SummerTime|50-47-6-5-1-0"] = unknown;
     EXPECT_EQ(ZoneOf(kAachen), "Europe/Berlin") << unknown;
+  }
+}
+
+// Each change alone must be seen, whichever order they come in.
+TEST_F(SunPlaceSettings, AKnownPlaceIsAsTheSettingsAreEachTimeItIsAskedFor) {
+  sun::KnownPlace known;
+  const auto expectSame = [&known, this](const sun::PackedPlace& place) {
+    const sun::PlaceSettings& settings = known.Read(reader_, place);
+    const sun::PlaceSettings expected = sun::ReadPlaceSettings(reader_, place);
+    EXPECT_EQ(settings.site.latitudeRadians, expected.site.latitudeRadians);
+    EXPECT_EQ(settings.site.longitudeRadians, expected.site.longitudeRadians);
+    EXPECT_EQ(settings.elevationMetres, expected.elevationMetres);
+    EXPECT_EQ(settings.clock.standardOffsetSeconds, expected.clock.standardOffsetSeconds);
+    EXPECT_STREQ(settings.clock.zoneId.data(), expected.clock.zoneId.data());
+  };
+  const auto change = [&](const char* key, const char* text) {
+    expectSame(kAachen);
+    texts[key] = text;
+    expectSame(kAachen);
+  };
+  change("almanacelevation.ini|Elevation|50-47-6-5-1-0", "173");
+  EXPECT_EQ(known.Read(reader_, kAachen).elevationMetres, 173);
+  change("solar.ini|SummerTime|50-47-6-5-1-0", "Asia/Jerusalem");
+  EXPECT_STREQ(known.Read(reader_, kAachen).clock.zoneId.data(), "Asia/Jerusalem");
+  change("solar.ini|SummerTime|Mode", "Off");
+  EXPECT_STREQ(known.Read(reader_, kAachen).clock.zoneId.data(), "");
+  change("solar.ini|SummerTime|Mode", "Automatic");
+  for (const sun::PackedPlace& place : {sun::PackedPlace{5048, 605, 1, 0}, sun::PackedPlace{5048, 606, 1, 0},
+                                        sun::PackedPlace{5048, 606, 2, 0}, sun::PackedPlace{5048, 606, 2, 1}}) {
+    expectSame(place);
+    EXPECT_EQ(asked.back(), asked[asked.size() - 4]) << "the key of another place";
   }
 }
 
