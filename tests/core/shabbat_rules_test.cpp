@@ -5,6 +5,7 @@
 
 #include <limits>
 
+#include "engine/core/candle_rule.h"
 #include "shabbat/core/shabbat_record.h"
 
 namespace {
