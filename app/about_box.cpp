@@ -5,10 +5,10 @@
 #include <cstdio>
 
 #include "app/program.h"
+#include "app/version.h"
 #include "engine/bound_entries.h"
 #include "engine/string_table.h"
 #include "resources/ids.h"
-#include "resources/version.h"
 #include "win/dialog.h"
 #include "win/message_box.h"
 #include "win/scoped.h"

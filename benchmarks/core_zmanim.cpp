@@ -1,18 +1,18 @@
 #include "benchmarks/core_zmanim.h"
 
 #include "companion/profile.h"
+#include "libraries/calendar/date.h"
 #include "libraries/hours/choice.h"
 #include "libraries/hours/zman_day.h"
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 #include "libraries/sun/place_settings.h"
 
 namespace {
 
-constexpr int32_t kAbsoluteDayOfUnixDay0 = 719163;
 constexpr int64_t kMinutesPerDay = 24 * 60;
 
 int64_t ShownMinute(const sun::SunEvent& event, const sun::PlaceClock& clock) {
-  const sun::ClockTime time =
+  const sun::HourAndMinute time =
       sun::TimeOfDay(sun::NearestMinute(event.utcSeconds, sun::ClockOffsetSeconds(clock, event.utcSeconds)));
   return time.hour * 60 + time.minute;
 }
@@ -25,7 +25,8 @@ std::vector<int32_t> ZmanimByCore(std::string_view choice, const Location& locat
   const sun::PlaceSettings place = sun::ReadPlaceSettings({ProfileGetInt, ProfileGetString}, packed);
   std::vector<int32_t> minutes;
   minutes.reserve(chosen.size() * static_cast<size_t>(days));
-  for (int32_t day = firstDay - kAbsoluteDayOfUnixDay0; day < firstDay - kAbsoluteDayOfUnixDay0 + days; ++day) {
+  const int32_t firstUnixDay = firstDay - calendar::kAbsoluteDayOfUnixDay0;
+  for (int32_t day = firstUnixDay; day < firstUnixDay + days; ++day) {
     const sun::SunDay sun = sun::ComputeSunDay(day, place.site);
     const int64_t sunrise = ShownMinute(sun::Sunrise(sun, place.elevationMetres), place.clock);
     const int64_t sunset = ShownMinute(sun::Sunset(sun, place.elevationMetres), place.clock);

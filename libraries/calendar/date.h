@@ -23,6 +23,8 @@ struct Date {
 
 enum class Weekday : int32_t { kSunday, kMonday, kTuesday, kWednesday, kThursday, kFriday, kSaturday };
 
+constexpr int32_t kAbsoluteDayOfUnixDay0 = 719163;  // Rata Die of 1970-01-01
+
 constexpr Weekday WeekdayOf(int32_t absoluteDay) {
   const int32_t remainder = absoluteDay % 7;
   return static_cast<Weekday>(remainder < 0 ? remainder + 7 : remainder);

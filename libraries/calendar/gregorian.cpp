@@ -1,64 +1,56 @@
 #include "libraries/calendar/gregorian.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace calendar {
 namespace {
 
-constexpr int32_t kMonthDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+using std::chrono::sys_days;
+using std::chrono::year;
+using std::chrono::year_month_day;
 
-// Counted from 1 March the months' lengths run 31 30 31 30 31 and repeat, so month m (March = 0) begins on day
-// (153 m + 2) / 5 of its year, and the leap day comes last (H. Hinnant,
-// "chrono-Compatible Low-Level Date Algorithms").
-constexpr int32_t DaysBeforeMonth(int32_t monthFromMarch) {
-  return (153 * monthFromMarch + 2) / 5;
+constexpr int32_t AbsoluteOf(const year_month_day& date) {
+  return static_cast<int32_t>(sys_days{date}.time_since_epoch().count()) + kAbsoluteDayOfUnixDay0;
 }
 
-// The years that begin in March, year 0 among them: its days since 1 March of year 0.
-constexpr int32_t DaysBeforeMarchYear(int32_t year) {
-  return 365 * year + year / 4 - year / 100 + year / 400;
-}
-
-// Rata Die of 1 March of year 0: 306 days before 1 January of year 1.
-constexpr int32_t kMarchEpoch = -305;
-
-constexpr int32_t kDaysInCycle = 146097;  // 400 years
-
-int32_t AbsoluteOfValid(const Date& date) {
-  const int32_t marchYear = date.month > 2 ? date.year : date.year - 1;
-  return kMarchEpoch + DaysBeforeMarchYear(marchYear) + DaysBeforeMonth((date.month + 9) % 12) + date.day - 1;
+// A year of the same leap days that std::chrono has, whatever the number: they repeat after 400 years.
+constexpr year LikeYear(int32_t number) {
+  return year{number % 400};
 }
 
 }  // namespace
 
-bool IsGregorianLeapYear(int32_t year) {
-  return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+bool IsGregorianLeapYear(int32_t number) {
+  return LikeYear(number).is_leap();
 }
 
-int32_t DaysInGregorianMonth(int32_t month, int32_t year) {
-  if (month < 1 || month > 12) return 0;
-  return month == 2 && IsGregorianLeapYear(year) ? 29 : kMonthDays[month - 1];
+int32_t DaysInGregorianMonth(int32_t number, int32_t ofYear) {
+  if (number < 1 || number > 12) return 0;
+  const auto last = LikeYear(ofYear) / number / std::chrono::last;
+  return static_cast<int32_t>(static_cast<unsigned>(last.day()));
+}
+
+bool IsGregorianDate(uint32_t dayNumber, uint32_t monthNumber, uint32_t yearNumber) {
+  constexpr uint32_t kMostMonths = 12;
+  if (yearNumber < uint32_t{kFirstYear} || yearNumber > uint32_t{kLastYear} || monthNumber > kMostMonths) return false;
+  const int32_t days = DaysInGregorianMonth(static_cast<int32_t>(monthNumber), static_cast<int32_t>(yearNumber));
+  return dayNumber >= 1 && dayNumber <= static_cast<uint32_t>(days);
 }
 
 int32_t AbsoluteFromGregorian(const Date& date) {
-  Date valid;
-  valid.year = std::clamp(date.year, kFirstYear, kLastYear);
-  valid.month = std::clamp(date.month, 1, 12);
-  valid.day = std::clamp(date.day, 1, DaysInGregorianMonth(valid.month, valid.year));
-  return AbsoluteOfValid(valid);
+  const int32_t validYear = std::clamp(date.year, kFirstYear, kLastYear);
+  const int32_t validMonth = std::clamp(date.month, 1, 12);
+  const int32_t validDay = std::clamp(date.day, 1, DaysInGregorianMonth(validMonth, validYear));
+  return AbsoluteOf(year{validYear} / validMonth / validDay);
 }
 
 Date GregorianFromAbsolute(int32_t absoluteDay) {
-  static constexpr int32_t kLastDay = kMarchEpoch + DaysBeforeMarchYear(kLastYear) + 305;  // 31 December
-  const int32_t day = std::clamp(absoluteDay, 1, kLastDay) - kMarchEpoch;
-  const int32_t inCycle = day % kDaysInCycle;
-  // Leap days before this one of the cycle are taken out; what is left are years of 365 days.
-  const int32_t yearOfCycle = (inCycle - inCycle / 1460 + inCycle / 36524 - inCycle / (kDaysInCycle - 1)) / 365;
-  const int32_t marchYear = day / kDaysInCycle * 400 + yearOfCycle;
-  const int32_t dayOfYear = day - DaysBeforeMarchYear(marchYear);
-  const int32_t monthFromMarch = (5 * dayOfYear + 2) / 153;
-  const int32_t month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;
-  return {dayOfYear - DaysBeforeMonth(monthFromMarch) + 1, month, month > 2 ? marchYear : marchYear + 1};
+  constexpr int32_t kLastDay = AbsoluteOf(year{kLastYear} / 12 / 31);
+  const int32_t unixDay = std::clamp(absoluteDay, 1, kLastDay) - kAbsoluteDayOfUnixDay0;
+  const year_month_day date = sys_days{std::chrono::days{unixDay}};
+  return {static_cast<int32_t>(static_cast<unsigned>(date.day())),
+          static_cast<int32_t>(static_cast<unsigned>(date.month())), static_cast<int32_t>(date.year())};
 }
 
 int32_t GregorianEaster(int32_t year) {

@@ -67,19 +67,19 @@ std::string WeekdayComplaint(const calendar::Date& date) {
   return complaint + ".";
 }
 
-enum class Half { None, Morning, Afternoon };
+enum class Half { kNone, kMorning, kAfternoon };
 
 // The half of the day that a text names: "am", "a.m.", "p.m" and so on, or nothing.
 std::optional<Half> HalfIn(std::string_view text) {
-  if (text.empty()) return Half::None;
+  if (text.empty()) return Half::kNone;
   const char letter = text.front();
   text.remove_prefix(1);
   Take(text, '.');
   if (!Take(text, 'm') && !Take(text, 'M')) return std::nullopt;
   Take(text, '.');
   if (!text.empty()) return std::nullopt;
-  if (letter == 'a' || letter == 'A') return Half::Morning;
-  if (letter == 'p' || letter == 'P') return Half::Afternoon;
+  if (letter == 'a' || letter == 'A') return Half::kMorning;
+  if (letter == 'p' || letter == 'P') return Half::kAfternoon;
   return std::nullopt;
 }
 
@@ -132,12 +132,12 @@ std::optional<TypedTime> ReadTime(std::string_view text) {
   if (!minute || lengthBefore - text.size() != 2 || *minute > 59) return std::nullopt;
   const std::optional<Half> half = HalfIn(Trimmed(text));
   if (!half) return std::nullopt;
-  if (*half == Half::None) {
+  if (*half == Half::kNone) {
     if (*hour > 23) return std::nullopt;
     return TypedTime{*hour, *minute, false};
   }
   if (!IsInRange(*hour, 1, 12)) return std::nullopt;
-  return TypedTime{*hour % 12 + (*half == Half::Afternoon ? 12 : 0), *minute, true};
+  return TypedTime{*hour % 12 + (*half == Half::kAfternoon ? 12 : 0), *minute, true};
 }
 
 bool MayMeanEvening(const TypedTime& time) {

@@ -61,8 +61,8 @@ void Keep(const char* file, const char* key, LONG pixels, LONG pixelsOfMostUnits
 }
 
 void Apply(Follow follow, LONG growth, LONG& begin, LONG& end) {
-  if (follow == Follow::Move) begin += growth;
-  if (follow != Follow::No) end += growth;
+  if (follow == Follow::kMove) begin += growth;
+  if (follow != Follow::kNo) end += growth;
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
 namespace dialogs {
 
 // What a control does when the dialog grows: it moves or grows with it, or stays as it is.
-enum class Follow { No, Move, Grow };
+enum class Follow { kNo, kMove, kGrow };
 
 struct Anchor {
   int control;

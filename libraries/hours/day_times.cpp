@@ -4,13 +4,12 @@
 #include <cstdio>
 
 #include "libraries/calendar/gregorian.h"
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 
 namespace hours {
 namespace {
 
 constexpr double kSecondsPerDay = 86400;
-constexpr int32_t kAbsoluteDayOfUnixDay0 = 719163;  // Rata Die of 1970-01-01
 
 int32_t UnixDayAt(const sun::PlaceSettings& place, double utcSeconds) {
   const double clockSeconds = utcSeconds + sun::ClockOffsetSeconds(place.clock, utcSeconds);
@@ -32,7 +31,7 @@ DayTimes::DayTimes(const sun::PlaceSettings& place, double utcSeconds)
     : unixDay_(UnixDayAt(place, utcSeconds)), day_(unixDay_, place, SunShown(unixDay_, place)) {}
 
 std::string DayTimes::DateText() const {
-  const calendar::Date date = calendar::GregorianFromAbsolute(unixDay_ + kAbsoluteDayOfUnixDay0);
+  const calendar::Date date = calendar::GregorianFromAbsolute(unixDay_ + calendar::kAbsoluteDayOfUnixDay0);
   char text[48];
   std::snprintf(text, sizeof text, "%02d.%02d.%04d", date.day, date.month, date.year);
   return text;
@@ -41,7 +40,7 @@ std::string DayTimes::DateText() const {
 std::string DayTimes::TimeOf(const Definition& zman) {
   const std::optional<int64_t> minute = day_.ClockMinute(zman);
   if (!minute) return "----";
-  const sun::ClockTime time = sun::TimeOfDay(*minute);
+  const sun::HourAndMinute time = sun::TimeOfDay(*minute);
   char text[32];
   std::snprintf(text, sizeof text, "%02d:%02d", time.hour, time.minute);
   return text;

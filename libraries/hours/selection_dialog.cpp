@@ -20,13 +20,13 @@ constexpr char kSizeFile[] = "hours.ini";
 constexpr WPARAM kMostTypedLetters = 60;
 
 constexpr Anchor kAnchors[] = {
-    {IDC_OFFERED, Follow::No, Follow::Grow},      {IDC_NEW, Follow::No, Follow::Move},
-    {IDC_CHANGE, Follow::No, Follow::Move},       {IDC_DELETE, Follow::No, Follow::Move},
-    {IDC_PRESET, Follow::Grow, Follow::No},       {IDC_USE_PRESET, Follow::Move, Follow::No},
-    {IDC_CHOSEN, Follow::Grow, Follow::Grow},     {IDC_DEFAULTS, Follow::No, Follow::Move},
-    {IDC_DEFINITION, Follow::Grow, Follow::Move}, {IDC_OWN_LABEL, Follow::No, Follow::Move},
-    {IDC_RULE, Follow::Grow, Follow::Move},       {IDC_DAY, Follow::Grow, Follow::Move},
-    {IDOK, Follow::Move, Follow::Move},           {IDCANCEL, Follow::Move, Follow::Move},
+    {IDC_OFFERED, Follow::kNo, Follow::kGrow},      {IDC_NEW, Follow::kNo, Follow::kMove},
+    {IDC_CHANGE, Follow::kNo, Follow::kMove},       {IDC_DELETE, Follow::kNo, Follow::kMove},
+    {IDC_PRESET, Follow::kGrow, Follow::kNo},       {IDC_USE_PRESET, Follow::kMove, Follow::kNo},
+    {IDC_CHOSEN, Follow::kGrow, Follow::kGrow},     {IDC_DEFAULTS, Follow::kNo, Follow::kMove},
+    {IDC_DEFINITION, Follow::kGrow, Follow::kMove}, {IDC_OWN_LABEL, Follow::kNo, Follow::kMove},
+    {IDC_RULE, Follow::kGrow, Follow::kMove},       {IDC_DAY, Follow::kGrow, Follow::kMove},
+    {IDOK, Follow::kMove, Follow::kMove},           {IDCANCEL, Follow::kMove, Follow::kMove},
 };
 
 // Keys that move the selection of the list while the user types in the edit.

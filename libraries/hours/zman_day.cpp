@@ -6,14 +6,13 @@
 #include <numbers>
 
 #include "libraries/calendar/jewish.h"
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 
 namespace hours {
 namespace {
 
 constexpr double kSecondsPerDay = 86400;
 constexpr int64_t kMinutesPerDay = 24 * 60;
-constexpr int32_t kAbsoluteDayOfUnixDay0 = 719163;  // Rata Die of 1970-01-01
 constexpr double kProportionalMinutesPerDay = 12 * 60;
 
 double Seconds(int32_t thousandthMinutes) {
@@ -68,7 +67,7 @@ int32_t ZmanDay::OffsetSeconds(double utcSeconds) const {
 
 bool ZmanDay::IsPesachEve() {
   if (!isPesachEve_) {
-    const calendar::Date date = calendar::JewishFromAbsolute(unixDay_ + kAbsoluteDayOfUnixDay0);
+    const calendar::Date date = calendar::JewishFromAbsolute(unixDay_ + calendar::kAbsoluteDayOfUnixDay0);
     isPesachEve_ = date.day == 14 && date.month == calendar::kNisan;
   }
   return *isPesachEve_;

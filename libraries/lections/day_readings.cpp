@@ -8,8 +8,7 @@ namespace {
 
 using namespace calendar;
 
-constexpr int32_t kFirstDayOfRebuke = 106;      // 18 Tammuz, counted from 1 Nisan
-constexpr int32_t kLastDayOfConsolation = 176;  // 29 Elul
+constexpr int32_t kFirstDayOfRebuke = 106;  // 18 Tammuz, counted from 1 Nisan
 
 // A date with what the rules ask about it.
 struct Day {
@@ -31,27 +30,28 @@ Day DayOf(const Date& date, Land land, Custom custom) {
 // The month of which a date is Rosh Chodesh, 0 when it is none; Rosh Hashana is none.
 int32_t RoshChodeshOn(const Date& date) {
   if (date.day == 1 && date.month != kTishri) return date.month;
-  if (date.day != 30) return 0;
-  return date.month == MonthsInJewishYear(date.year) ? kNisan : date.month + 1;
+  return date.day == 30 ? date.month + 1 : 0;  // neither Elul nor the last month, Adar or Adar II, has 30 days
 }
 
+// Of a Shabbat that is not Rosh Chodesh itself.
 bool IsMacharChodesh(const Day& day) {
-  return RoshChodeshOn(day.date) == 0 && RoshChodeshOn(JewishFromAbsolute(day.absolute + 1)) != 0;
+  return RoshChodeshOn(JewishFromAbsolute(day.absolute + 1)) != 0;
 }
 
 // 1 to 8, 0 on other days.
 int ChanukahDayOn(const Day& day) {
-  if (day.date.month != kKislev && day.date.month != kTevet) return 0;
   const int32_t number = day.absolute - AbsoluteFromJewish({25, kKislev, day.date.year}) + 1;
   return number >= 1 && number <= 8 ? static_cast<int>(number) : 0;
 }
 
+// Of a Shabbat that is no festival: Rosh Hashana and Yom Kippur have rows of their own.
 bool IsShuva(const Day& day) {
-  return day.date.month == kTishri && day.date.day > 2 && day.date.day < 10;
+  return day.date.month == kTishri && day.date.day < 10;
 }
 
+// The weeks of rebuke and consolation last to the end of the year.
 bool IsInWeeksAroundTishaBeAv(const Day& day) {
-  return day.daysFromNisan >= kFirstDayOfRebuke && day.daysFromNisan <= kLastDayOfConsolation;
+  return day.daysFromNisan >= kFirstDayOfRebuke;
 }
 
 // Chabad reads HaGadol's haftarah only when Pesach begins that night (14 Nisan).
@@ -78,13 +78,13 @@ const Haftarot* HaftarotInsteadOfPortion(const Day& day, const WeeklyPortion& re
 
 // Whether Acharei Mot, on the Shabbat of its own before this one of Kedoshim, gave way to another haftarah.
 bool WasAchareiMotDisplaced(const Day& kedoshim) {
-  constexpr int kLongestGapWeeks = 3;  // Pesach may lie between them
+  constexpr int kLongestGapWeeks = 2;  // a Shabbat of Pesach may lie between them
   for (int weeks = 1; weeks <= kLongestGapWeeks; ++weeks) {
     const int32_t shabbat = kedoshim.absolute - 7 * weeks;
     const std::optional<WeeklyPortion> read = PortionOnShabbat(shabbat, kedoshim.land);
     if (!read) continue;
     const Day day = DayOf(JewishFromAbsolute(shabbat), kedoshim.land, kedoshim.custom);
-    return read->portion == kAchareiMot && HaftarotInsteadOfPortion(day, *read) != nullptr;
+    return HaftarotInsteadOfPortion(day, *read) != nullptr;
   }
   return false;
 }
@@ -191,8 +191,7 @@ void ReadShabbatAfternoon(const Day& day, DayReadings& readings) {
 }  // namespace
 
 bool IsJewishDate(const Date& date) {
-  return date.year >= kFirstYear && date.year <= kLastYear && date.month >= kNisan &&
-         date.month <= MonthsInJewishYear(date.year) && date.day >= 1 &&
+  return date.year >= kFirstYear && date.year <= kLastYear && date.day >= 1 &&
          date.day <= DaysInJewishMonth(date.month, date.year);
 }
 
@@ -221,11 +220,8 @@ bool IsYizkor(const Date& date, Land land) {
 }
 
 int32_t MonthAnnouncedOn(const Date& date) {
-  constexpr int32_t kFirstDayAnnounced = 23;
   const int32_t absolute = AbsoluteFromJewish(date);
-  const bool isAnnounced = WeekdayOf(absolute) == Weekday::kSaturday && date.day >= kFirstDayAnnounced &&
-                           date.month != kElul && RoshChodeshOn(date) == 0;
-  if (!isAnnounced) return 0;
+  if (WeekdayOf(absolute) != Weekday::kSaturday || RoshChodeshOn(date) != 0) return 0;
   for (int32_t ahead = 1; ahead <= 7; ++ahead) {
     if (const int32_t month = RoshChodeshOn(JewishFromAbsolute(absolute + ahead))) return month;
   }

@@ -12,7 +12,7 @@ namespace ownhours {
 std::optional<OpenStore> OpenStore::Load() {
   using namespace settings_folder;
   std::string bytes;
-  if (ReadWholeFile(PathNow(L"ownhours.txt"), Patience::Short, &bytes) == ReadResult::Unreadable) return std::nullopt;
+  if (ReadWholeFile(PathNow(L"ownhours.txt"), Patience::kShort, &bytes) == ReadResult::kUnreadable) return std::nullopt;
   return OpenStore(OwnTimes(EightBitText(std::move(bytes))));
 }
 

@@ -10,6 +10,7 @@
 #include "companion/profile.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/resizable_dialog.h"
+#include "libraries/dialogs/windows_1252.h"
 #include "libraries/placepick/picker_ids.h"
 #include "libraries/settings_folder/settings_folder_win.h"
 
@@ -19,6 +20,7 @@ namespace {
 using dialogs::Anchor;
 using dialogs::Follow;
 using dialogs::ResizableDialog;
+using dialogs::Wide;
 
 constexpr char kSizeFile[] = "placepick.ini";
 
@@ -28,15 +30,10 @@ constexpr char kStartKey[] = "DefaultLocation";
 constexpr wchar_t kCaption[] = L"Times / Readings";
 
 constexpr Anchor kAnchors[] = {
-    {IDC_TYPED, Follow::Grow, Follow::No},    {IDC_COUNT, Follow::Grow, Follow::No},
-    {IDC_PLACES, Follow::Grow, Follow::Grow}, {IDC_START, Follow::Grow, Follow::Move},
-    {IDOK, Follow::Move, Follow::Move},       {IDCANCEL, Follow::Move, Follow::Move},
+    {IDC_TYPED, Follow::kGrow, Follow::kNo},    {IDC_COUNT, Follow::kGrow, Follow::kNo},
+    {IDC_PLACES, Follow::kGrow, Follow::kGrow}, {IDC_START, Follow::kGrow, Follow::kMove},
+    {IDOK, Follow::kMove, Follow::kMove},       {IDCANCEL, Follow::kMove, Follow::kMove},
 };
-
-std::wstring Wide(std::string_view text) {
-  const std::u16string wide = FromWindows1252(text);
-  return {wide.begin(), wide.end()};
-}
 
 std::wstring NameOf(const Place& place) {
   return Wide(place.name);

@@ -3,16 +3,10 @@
 #include <algorithm>
 #include <tuple>
 
+#include "libraries/dialogs/windows_1252.h"
+
 namespace placepick {
 namespace {
-
-// The characters of the bytes 80 to 9F hexadecimal; all others are those of their number.
-constexpr char16_t kHighControls[] = {
-    u'\u20AC', 0x81,      u'\u201A', u'\u0192', u'\u201E', u'\u2026', u'\u2020', u'\u2021',
-    u'\u02C6', u'\u2030', u'\u0160', u'\u2039', u'\u0152', 0x8D,      u'\u017D', 0x8F,
-    0x90,      u'\u2018', u'\u2019', u'\u201C', u'\u201D', u'\u2022', u'\u2013', u'\u2014',
-    u'\u02DC', u'\u2122', u'\u0161', u'\u203A', u'\u0153', 0x9D,      u'\u017E', u'\u0178',
-};
 
 // What a character is searched as. Not letters are:
 constexpr std::u16string_view kSeparator = u" ";
@@ -79,15 +73,6 @@ bool BeginsSomeWord(std::u16string_view word, const FoldedText& name) {
 
 }  // namespace
 
-std::u16string FromWindows1252(std::string_view text) {
-  std::u16string wide;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    wide += IsWithin(byte, 0x80, 0x9F) ? kHighControls[byte - 0x80] : char16_t{byte};
-  }
-  return wide;
-}
-
 FoldedText Fold(std::u16string_view text) {
   FoldedText folded;
   bool startsWord = true;
@@ -112,14 +97,14 @@ FoldedText Fold(std::u16string_view text) {
 PlaceIndex::PlaceIndex(std::vector<Place> places) {
   entries_.reserve(places.size());
   for (Place& place : places) {
-    FoldedText folded = Fold(FromWindows1252(place.name));
+    FoldedText folded = Fold(dialogs::Utf16(place.name));
     entries_.push_back({std::move(place), std::move(folded)});
   }
   std::ranges::sort(entries_, {}, [](const Entry& entry) { return std::tie(entry.folded.text, entry.place.name); });
 }
 
 std::optional<std::size_t> PlaceIndex::Named(std::string_view name) const {
-  const std::u16string folded = Fold(FromWindows1252(name)).text;
+  const std::u16string folded = Fold(dialogs::Utf16(name)).text;
   const auto first = std::ranges::lower_bound(
       entries_, folded, {}, [](const Entry& entry) -> const std::u16string& { return entry.folded.text; });
   if (first == entries_.end() || first->folded.text != folded) return std::nullopt;

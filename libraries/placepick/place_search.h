@@ -12,10 +12,6 @@
 
 namespace placepick {
 
-// windows-1252 as Unicode (the table of the Unicode Consortium). The five bytes that have no character there become
-// the control characters of their number, as in Windows.
-std::u16string FromWindows1252(std::string_view text);
-
 // A text as it is searched: small letters without accents ("\u00DF" as "ss", "\u0152" as "oe") and digits, words apart
 // by one space. Apostrophes are left out, but a new word begins behind one too: "Ra'anana" is found as "raan" and as
 // "anana". Letters outside windows-1252 stay as they are.

@@ -29,7 +29,7 @@ ReadResult WatchedFile::ReadNow(const std::wstring& path, Patience patience, Fil
   *stamp = StampOf(path);
   ReadResult result = ReadWholeFile(path, patience, text);
   const bool wasThere = stamp->exists || (path == path_ && seen_.exists);
-  if (result == ReadResult::Missing && wasThere) {
+  if (result == ReadResult::kMissing && wasThere) {
     Sleep(kGoneWaitMilliseconds);
     *stamp = StampOf(path);
     result = ReadWholeFile(path, patience, text);
@@ -56,9 +56,9 @@ bool WatchedFile::Refresh(std::string* text) {
 
   text->clear();
   FileStamp stamp;
-  const ReadResult result = ReadNow(path, unreadable_ ? Patience::None : Patience::Short, &stamp, text);
+  const ReadResult result = ReadNow(path, unreadable_ ? Patience::kNone : Patience::kShort, &stamp, text);
   path_ = path;
-  unreadable_ = result == ReadResult::Unreadable;
+  unreadable_ = result == ReadResult::kUnreadable;
   if (unreadable_ && isSameFile) return false;
   seen_ = stamp;
   return true;
@@ -66,11 +66,11 @@ bool WatchedFile::Refresh(std::string* text) {
 
 ReplaceResult WatchedFile::EditOnce(const std::wstring& path, const Change& change, FileStamp* seen) const {
   std::string before;
-  if (ReadNow(path, Patience::Short, seen, &before) == ReadResult::Unreadable) return ReplaceResult::Failed;
+  if (ReadNow(path, Patience::kShort, seen, &before) == ReadResult::kUnreadable) return ReplaceResult::kFailed;
   std::string after = before;
-  if (!change(after)) return ReplaceResult::Failed;
-  if (after == before) return ReplaceResult::Replaced;
-  if (isBare_ && !MakeFolder(path.substr(0, path.find_last_of(L'\\')))) return ReplaceResult::Failed;
+  if (!change(after)) return ReplaceResult::kFailed;
+  if (after == before) return ReplaceResult::kReplaced;
+  if (isBare_ && !MakeFolder(path.substr(0, path.find_last_of(L'\\')))) return ReplaceResult::kFailed;
   return ReplaceWholeFile(path, after, *seen, seen);
 }
 
@@ -80,11 +80,11 @@ bool WatchedFile::Edit(const Change& change) {
   std::wstring place = Place();
   std::wstring path = PathNow(name_);
   FileStamp seen;
-  ReplaceResult result = ReplaceResult::ChangedMeanwhile;
-  for (int attempt = 0; attempt < kMostAttempts && result == ReplaceResult::ChangedMeanwhile; ++attempt) {
+  ReplaceResult result = ReplaceResult::kChangedMeanwhile;
+  for (int attempt = 0; attempt < kMostAttempts && result == ReplaceResult::kChangedMeanwhile; ++attempt) {
     result = EditOnce(path, change, &seen);
   }
-  if (result != ReplaceResult::Replaced) return false;
+  if (result != ReplaceResult::kReplaced) return false;
   asked_ = std::chrono::steady_clock::now();
   place_.swap(place);
   path_.swap(path);

@@ -121,12 +121,12 @@ bool WriteNewFile(const std::wstring& path, std::string_view text, const FileSta
 ReplaceResult RenameOver(const std::wstring& from, const std::wstring& to, const FileStamp& old) {
   Retries retries(kWritePatienceMilliseconds);
   do {
-    if (StampOf(to) != old) return ReplaceResult::ChangedMeanwhile;
+    if (StampOf(to) != old) return ReplaceResult::kChangedMeanwhile;
     if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-      return ReplaceResult::Replaced;
+      return ReplaceResult::kReplaced;
     }
   } while (MayPass(GetLastError()) && retries.Wait());
-  return ReplaceResult::Failed;
+  return ReplaceResult::kFailed;
 }
 
 // A mutex of the whole machine, open to every user of it: the same settings may be in use by two sessions, or by an
@@ -149,24 +149,24 @@ FileStamp StampOf(const std::wstring& path) {
 }
 
 ReadResult ReadWholeFile(const std::wstring& path, Patience patience, std::string* text) {
-  Retries retries(patience == Patience::Short ? kReadPatienceMilliseconds : 0);
+  Retries retries(patience == Patience::kShort ? kReadPatienceMilliseconds : 0);
   do {
     const FileHandle file(CreateFileW(path.c_str(), GENERIC_READ,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                       FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (file.IsOpen() && ReadAll(file.Get(), text)) return ReadResult::Read;
-    if (!file.IsOpen() && IsMissing(GetLastError())) return ReadResult::Missing;
+    if (file.IsOpen() && ReadAll(file.Get(), text)) return ReadResult::kRead;
+    if (!file.IsOpen() && IsMissing(GetLastError())) return ReadResult::kMissing;
   } while (!HasAttribute(path, FILE_ATTRIBUTE_DIRECTORY) && retries.Wait());
-  return ReadResult::Unreadable;
+  return ReadResult::kUnreadable;
 }
 
 ReplaceResult ReplaceWholeFile(const std::wstring& path, std::string_view text, FileStamp old, FileStamp* written) {
   // Renaming over these must fail; not every file system sees to it.
-  if (HasAttribute(path, FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) return ReplaceResult::Failed;
+  if (HasAttribute(path, FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) return ReplaceResult::kFailed;
   const std::wstring beside = path + L".new";
   const ReplaceResult result =
-      WriteNewFile(beside, text, old, written) ? RenameOver(beside, path, old) : ReplaceResult::Failed;
-  if (result != ReplaceResult::Replaced) DeleteFileW(beside.c_str());
+      WriteNewFile(beside, text, old, written) ? RenameOver(beside, path, old) : ReplaceResult::kFailed;
+  if (result != ReplaceResult::kReplaced) DeleteFileW(beside.c_str());
   return result;
 }
 

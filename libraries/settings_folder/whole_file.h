@@ -20,21 +20,21 @@ struct FileStamp {
 
 FileStamp StampOf(const std::wstring& path);
 
-enum class ReadResult { Read, Missing, Unreadable };
+enum class ReadResult { kRead, kMissing, kUnreadable };
 
 // Whether to wait some milliseconds for another process that holds the file just now.
-enum class Patience { None, Short };
+enum class Patience { kNone, kShort };
 
-// The file's bytes into text, which only ReadResult::Read touches. What others do with the file meanwhile is not
+// The file's bytes into text, which only ReadResult::kRead touches. What others do with the file meanwhile is not
 // hindered.
 ReadResult ReadWholeFile(const std::wstring& path, Patience patience, std::string* text);
 
-enum class ReplaceResult { Replaced, ChangedMeanwhile, Failed };
+enum class ReplaceResult { kReplaced, kChangedMeanwhile, kFailed };
 
 // Puts a new file in the place of the old one, if there is one: written beside it under the name with ".new" at the
 // end, flushed to the disk, renamed over. old is the stamp by which the caller knows the old file; one that bears
 // another stamp by now has been changed by a program that does not ask for the lock, and is left alone. Unless the
-// result is Replaced, the file is as others left it. A ".new" left by a crash is written over the next time. written:
+// result is kReplaced, the file is as others left it. A ".new" left by a crash is written over the next time. written:
 // the new file's stamp, whose time is always later than the old one's; it may point to what old was copied from. The
 // caller holds the lock.
 ReplaceResult ReplaceWholeFile(const std::wstring& path, std::string_view text, FileStamp old, FileStamp* written);

@@ -4,7 +4,7 @@
 
 #include "companion/profile.h"
 #include "companion/solar.h"
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 #include "libraries/sun/place_settings.h"
 #include "libraries/sun/places.h"
 #include "libraries/sun/sun_day.h"
@@ -68,7 +68,7 @@ void SolarGetSunsetSunrise(uint32_t day, uint32_t month, uint32_t year, uint32_t
   const sun::SunEvent found = event == SOLAR_SUNRISE ? sun::Sunrise(sunDay, settings.elevationMetres)
                                                      : sun::Sunset(sunDay, settings.elevationMetres);
   const int32_t offsetSeconds = sun::ClockOffsetSeconds(settings.clock, found.utcSeconds);
-  const sun::ClockTime time = sun::TimeOfDay(sun::NearestMinute(found.utcSeconds, offsetSeconds));
+  const sun::HourAndMinute time = sun::TimeOfDay(sun::NearestMinute(found.utcSeconds, offsetSeconds));
   Put(hour, time.hour);
   Put(minute, time.minute);
 } catch (...) {  // the outputs stay as they are

@@ -19,7 +19,7 @@ constexpr char kFile[] = "stamp.ini";
 Form RegionalForm() {
   char setting[8] = "";  // "0" is the 12-hour form
   GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_ITIME, setting, sizeof setting);
-  return std::strcmp(setting, "0") == 0 ? Form::TwelveHours : Form::TwentyFourHours;
+  return std::strcmp(setting, "0") == 0 ? Form::kTwelveHours : Form::kTwentyFourHours;
 }
 
 std::string StoredChoice() {

@@ -6,7 +6,7 @@ namespace stamp {
 
 std::string TimeText(int32_t hour, int32_t minute, Form form) {
   const bool isTime = hour >= 0 && hour <= 23 && minute >= 0 && minute <= 59;
-  const bool hasHalves = isTime && form == Form::TwelveHours;
+  const bool hasHalves = isTime && form == Form::kTwelveHours;
   const char* const half = !hasHalves ? "" : hour < 12 ? " a.m." : " p.m.";
   const int32_t shownHour = !hasHalves ? hour : hour % 12 == 0 ? 12 : hour % 12;
   char text[32];
@@ -15,8 +15,8 @@ std::string TimeText(int32_t hour, int32_t minute, Form form) {
 }
 
 Form ChosenForm(std::string_view choice, Form regional) {
-  if (choice == "12") return Form::TwelveHours;
-  if (choice == "24") return Form::TwentyFourHours;
+  if (choice == "12") return Form::kTwelveHours;
+  if (choice == "24") return Form::kTwentyFourHours;
   return regional;
 }
 

@@ -7,7 +7,7 @@
 
 namespace stamp {
 
-enum class Form { TwentyFourHours, TwelveHours };
+enum class Form { kTwentyFourHours, kTwelveHours };
 
 // "18:47", or "06:47 p.m." in 12-hour form, where midnight is "12:00 a.m." and noon "12:00 p.m.". When the hour is not
 // 0 to 23 or the minute not 0 to 59, both are printed as they stand in either form, each to at least two characters, a

@@ -20,7 +20,7 @@ void StampCheck(HINSTANCE, HINSTANCE, LPSTR, int) {
 }
 
 int32_t StampIsAmPm(void) {
-  return FormNow() == stamp::Form::TwelveHours;
+  return FormNow() == stamp::Form::kTwelveHours;
 }
 
 void StampConvert(int32_t hour, int32_t minute, char* text) try {

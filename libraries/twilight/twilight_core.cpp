@@ -1,6 +1,6 @@
 #include "libraries/twilight/twilight_core.h"
 
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 #include "libraries/sun/sun_day.h"
 
 namespace twilight {

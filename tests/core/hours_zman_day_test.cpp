@@ -11,7 +11,7 @@
 
 #include "libraries/hours/catalogue.h"
 #include "libraries/hours/own_zman.h"
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 #include "libraries/sun/places.h"
 
 namespace hours {
@@ -36,7 +36,7 @@ int64_t ShownMinute(const sun::PlaceSettings& place, const sun::SunEvent& event)
 ZmanDay DayAt(int32_t unixDay, const sun::PlaceSettings& place) {
   const sun::SunDay day = sun::ComputeSunDay(unixDay, place.site);
   const auto ofDay = [&](const sun::SunEvent& event) {
-    const sun::ClockTime time = sun::TimeOfDay(ShownMinute(place, event));
+    const sun::HourAndMinute time = sun::TimeOfDay(ShownMinute(place, event));
     return int64_t{time.hour} * 60 + time.minute;
   };
   return ZmanDay(unixDay, place,
@@ -51,7 +51,7 @@ const Definition& Zman(const std::string& id) {
 
 std::string ClockText(std::optional<int64_t> minute) {
   if (!minute) return "----";
-  const sun::ClockTime time = sun::TimeOfDay(*minute);
+  const sun::HourAndMinute time = sun::TimeOfDay(*minute);
   char text[16];
   std::snprintf(text, sizeof text, "%d:%02d", time.hour, time.minute);
   return text;

@@ -21,6 +21,7 @@ constexpr int32_t kFirstJewishYear = 5343;  // 1583
 constexpr int32_t kLastJewishYear = 6760;   // 3000
 constexpr Land kLands[] = {Land::kDiaspora, Land::kIsrael};
 constexpr Custom kCustoms[] = {Custom::kAshkenazi, Custom::kSephardi, Custom::kChabad};
+constexpr Optional kAfternoonToo = {false, true, false};
 
 bool Has(const DayReadings& readings, Occasion occasion) {
   return std::ranges::any_of(readings.occasions, [&](const auto& named) { return named.occasion == occasion; });
@@ -46,6 +47,40 @@ void ForEveryYear(const Check& check) {
 
 DayReadings Read(int32_t absoluteDay, Land land, Custom custom) {
   return ReadingsOn(JewishFromAbsolute(absoluteDay), land, custom, {});
+}
+
+TEST(LectionsSchedule, EveryOccasionHasAName) {
+  ForEveryYear([](int32_t year, Land land, Custom custom) {
+    for (int32_t day = JewishNewYear(year); day < JewishNewYear(year + 1); ++day) {
+      ASSERT_FALSE(Has(Read(day, land, custom), Occasion::kNone)) << day;
+    }
+  });
+}
+
+// Yom Kippur too, which has its own.
+TEST(LectionsSchedule, EveryShabbatHasOneReadingInTheAfternoonOnRequest) {
+  ForEveryYear([](int32_t year, Land land, Custom custom) {
+    for (int32_t day = JewishNewYear(year); day < JewishNewYear(year + 1); ++day) {
+      if (WeekdayOf(day) != Weekday::kSaturday) continue;
+      const DayReadings readings = ReadingsOn(JewishFromAbsolute(day), land, custom, kAfternoonToo);
+      ASSERT_EQ(std::ranges::count(readings.torah, Part::kAfternoon, &Line::part), 1) << day;
+    }
+  });
+}
+
+TEST(LectionsSchedule, AtTheEndOfTheCalendarNoPortionIsToCome) {
+  const int32_t last = AbsoluteFromJewish({29, kElul, kLastYear});
+  const Optional all = {true, true, false};
+  for (int32_t day = last - 13; day <= last; ++day) {
+    const DayReadings readings = ReadingsOn(JewishFromAbsolute(day), Land::kDiaspora, Custom::kAshkenazi, all);
+    const Weekday weekday = WeekdayOf(day);
+    const int32_t daysToShabbat = static_cast<int32_t>(Weekday::kSaturday) - static_cast<int32_t>(weekday);
+    if (weekday == Weekday::kSaturday) {
+      EXPECT_EQ(Has(readings.torah, Part::kAfternoon), day + 7 <= last) << day;
+    } else if (weekday == Weekday::kMonday || weekday == Weekday::kThursday) {
+      EXPECT_EQ(readings.torah.empty(), day + daysToShabbat > last) << day;
+    }
+  }
 }
 
 TEST(LectionsSchedule, EveryShabbatHasTorahAndHaftarah) {

@@ -37,11 +37,6 @@ std::vector<std::string> Found(const PlaceIndex& index, std::u16string_view type
   return names;
 }
 
-TEST(Windows1252, BytesBecomeTheirCharacters) {
-  EXPECT_EQ(FromWindows1252("Z\xFCrich 5\xB0 \x80\x8A\x9F\x92"), u"Zürich 5° €ŠŸ’");
-  EXPECT_EQ(FromWindows1252("\x81\x8D\x8F\x90\x9D"), u"\x81\x8D\x8F\x90\x9D");
-}
-
 TEST(Fold, CaseAndAccentsDoNotCount) {
   EXPECT_EQ(Folded(u"ÀÁÂÃÄÅÇÈÉÊËÌÍÎÏÑÒÓÔÕÖØÙÚÛÜÝŠŽŸ"), u"aaaaaaceeeeiiiinoooooouuuuyszy");
   EXPECT_EQ(Folded(u"àáâãäåçèéêëìíîïñòóôõöøùúûüýšžÿ"), u"aaaaaaceeeeiiiinoooooouuuuyszy");

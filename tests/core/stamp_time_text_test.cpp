@@ -8,38 +8,38 @@ namespace stamp {
 namespace {
 
 TEST(StampTimeText, TwentyFourHourForm) {
-  EXPECT_EQ(TimeText(18, 47, Form::TwentyFourHours), "18:47");
-  EXPECT_EQ(TimeText(0, 0, Form::TwentyFourHours), "00:00");
-  EXPECT_EQ(TimeText(7, 5, Form::TwentyFourHours), "07:05");
-  EXPECT_EQ(TimeText(23, 59, Form::TwentyFourHours), "23:59");
+  EXPECT_EQ(TimeText(18, 47, Form::kTwentyFourHours), "18:47");
+  EXPECT_EQ(TimeText(0, 0, Form::kTwentyFourHours), "00:00");
+  EXPECT_EQ(TimeText(7, 5, Form::kTwentyFourHours), "07:05");
+  EXPECT_EQ(TimeText(23, 59, Form::kTwentyFourHours), "23:59");
 }
 
 TEST(StampTimeText, TwelveHourForm) {
-  EXPECT_EQ(TimeText(18, 47, Form::TwelveHours), "06:47 p.m.");
-  EXPECT_EQ(TimeText(7, 5, Form::TwelveHours), "07:05 a.m.");
-  EXPECT_EQ(TimeText(11, 59, Form::TwelveHours), "11:59 a.m.");
-  EXPECT_EQ(TimeText(13, 0, Form::TwelveHours), "01:00 p.m.");
-  EXPECT_EQ(TimeText(23, 59, Form::TwelveHours), "11:59 p.m.");
+  EXPECT_EQ(TimeText(18, 47, Form::kTwelveHours), "06:47 p.m.");
+  EXPECT_EQ(TimeText(7, 5, Form::kTwelveHours), "07:05 a.m.");
+  EXPECT_EQ(TimeText(11, 59, Form::kTwelveHours), "11:59 a.m.");
+  EXPECT_EQ(TimeText(13, 0, Form::kTwelveHours), "01:00 p.m.");
+  EXPECT_EQ(TimeText(23, 59, Form::kTwelveHours), "11:59 p.m.");
 }
 
 TEST(StampTimeText, MidnightAndNoonAreTwelve) {
-  EXPECT_EQ(TimeText(0, 0, Form::TwelveHours), "12:00 a.m.");
-  EXPECT_EQ(TimeText(0, 30, Form::TwelveHours), "12:30 a.m.");
-  EXPECT_EQ(TimeText(12, 0, Form::TwelveHours), "12:00 p.m.");
-  EXPECT_EQ(TimeText(12, 59, Form::TwelveHours), "12:59 p.m.");
+  EXPECT_EQ(TimeText(0, 0, Form::kTwelveHours), "12:00 a.m.");
+  EXPECT_EQ(TimeText(0, 30, Form::kTwelveHours), "12:30 a.m.");
+  EXPECT_EQ(TimeText(12, 0, Form::kTwelveHours), "12:00 p.m.");
+  EXPECT_EQ(TimeText(12, 59, Form::kTwelveHours), "12:59 p.m.");
 }
 
 TEST(StampTimeText, EveryTimeFillsItsColumn) {
   for (int hour = 0; hour <= 23; ++hour) {
     for (int minute = 0; minute <= 59; ++minute) {
-      ASSERT_EQ(TimeText(hour, minute, Form::TwentyFourHours).size(), 5u);
-      ASSERT_EQ(TimeText(hour, minute, Form::TwelveHours).size(), 10u);
+      ASSERT_EQ(TimeText(hour, minute, Form::kTwentyFourHours).size(), 5u);
+      ASSERT_EQ(TimeText(hour, minute, Form::kTwelveHours).size(), 10u);
     }
   }
 }
 
 TEST(StampTimeText, OtherNumbersArePrintedAsTheyStand) {
-  for (const Form form : {Form::TwentyFourHours, Form::TwelveHours}) {
+  for (const Form form : {Form::kTwentyFourHours, Form::kTwelveHours}) {
     EXPECT_EQ(TimeText(24, 5, form), "24:05");
     EXPECT_EQ(TimeText(19, -3, form), "19:-3");
     EXPECT_EQ(TimeText(-1, 30, form), "-1:30");
@@ -51,9 +51,9 @@ TEST(StampTimeText, OtherNumbersArePrintedAsTheyStand) {
 }
 
 TEST(StampForm, IsTheUsersChoiceElseTheRegions) {
-  for (const Form regional : {Form::TwentyFourHours, Form::TwelveHours}) {
-    EXPECT_EQ(ChosenForm("12", regional), Form::TwelveHours);
-    EXPECT_EQ(ChosenForm("24", regional), Form::TwentyFourHours);
+  for (const Form regional : {Form::kTwentyFourHours, Form::kTwelveHours}) {
+    EXPECT_EQ(ChosenForm("12", regional), Form::kTwelveHours);
+    EXPECT_EQ(ChosenForm("24", regional), Form::kTwentyFourHours);
     for (const char* other : {"", "1", "120", "12h", "am"}) EXPECT_EQ(ChosenForm(other, regional), regional) << other;
   }
 }

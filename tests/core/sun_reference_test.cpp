@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 #include "libraries/sun/sun_day.h"
 #include "libraries/twilight/twilight_core.h"
 

@@ -10,7 +10,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 #include "libraries/sun/sun_day.h"
 #include "libraries/twilight/twilight_core.h"
 
@@ -296,7 +296,7 @@ TEST(SunWhiteNights, EveryAnswerIsATimeOfDayWithinADayOfNoon) {
       const double noon = day.unixDay * kDay + kDay / 2 - offsetSeconds;
       for (const SunEvent& event : {day.sunrise, day.sunset}) {
         EXPECT_LT(std::fabs(event.utcSeconds - noon), 18 * kHour);
-        const sun::ClockTime time = sun::TimeOfDay(sun::NearestMinute(event.utcSeconds, offsetSeconds));
+        const sun::HourAndMinute time = sun::TimeOfDay(sun::NearestMinute(event.utcSeconds, offsetSeconds));
         EXPECT_TRUE(time.hour >= 0 && time.hour <= 23 && time.minute >= 0 && time.minute <= 59);
       }
     });

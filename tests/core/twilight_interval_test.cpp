@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 #include "libraries/twilight/twilight_core.h"
 
 namespace {

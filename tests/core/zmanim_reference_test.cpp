@@ -10,7 +10,7 @@
 
 #include "libraries/hours/catalogue.h"
 #include "libraries/hours/zman_day.h"
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 
 namespace {
 
@@ -48,7 +48,7 @@ struct Comparison {
 };
 
 int64_t ShownMinutes(const sun::SunEvent& event, int32_t offsetSeconds) {
-  const sun::ClockTime time = sun::TimeOfDay(sun::NearestMinute(event.utcSeconds, offsetSeconds));
+  const sun::HourAndMinute time = sun::TimeOfDay(sun::NearestMinute(event.utcSeconds, offsetSeconds));
   return time.hour * 60 + time.minute;
 }
 

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string>
 
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 #include "libraries/sun/place_settings.h"
 #include "libraries/sun/sun_day.h"
 #include "libraries/twilight/twilight_core.h"
@@ -34,7 +34,7 @@ void CheckEvent(const sun::SunDay& day, const sun::SunEvent& event, const sun::P
   const int32_t offset = sun::ClockOffsetSeconds(clock, event.utcSeconds);
   for (const int64_t minute :
        {sun::NearestMinute(event.utcSeconds, offset), sun::MinuteNotBefore(event.utcSeconds, offset)}) {
-    const sun::ClockTime time = sun::TimeOfDay(minute);
+    const sun::HourAndMinute time = sun::TimeOfDay(minute);
     FUZZ_CHECK(time.hour >= 0 && time.hour < 24 && time.minute >= 0 && time.minute < 60);
   }
 }

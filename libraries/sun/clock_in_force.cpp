@@ -1,4 +1,4 @@
-#include "libraries/sun/clock_time.h"
+#include "libraries/sun/clock_in_force.h"
 
 #include <cmath>
 
@@ -20,7 +20,7 @@ int64_t MinuteNotBefore(double utcSeconds, int32_t offsetSeconds) {
   return static_cast<int64_t>(std::ceil((utcSeconds + offsetSeconds) / 60));
 }
 
-ClockTime TimeOfDay(int64_t minutes) {
+HourAndMinute TimeOfDay(int64_t minutes) {
   constexpr int64_t kMinutesPerDay = 24 * 60;
   const int64_t ofDay = ((minutes % kMinutesPerDay) + kMinutesPerDay) % kMinutesPerDay;
   return {static_cast<int32_t>(ofDay / 60), static_cast<int32_t>(ofDay % 60)};

@@ -16,12 +16,12 @@ int32_t ClockOffsetSeconds(const PlaceClock& clock, double utcSeconds);
 int64_t NearestMinute(double utcSeconds, int32_t offsetSeconds);
 int64_t MinuteNotBefore(double utcSeconds, int32_t offsetSeconds);
 
-struct ClockTime {
+struct HourAndMinute {
   int32_t hour;    // 0 to 23
   int32_t minute;  // 0 to 59
 };
 
 // The time of day of a minute counted since some midnight.
-ClockTime TimeOfDay(int64_t minutes);
+HourAndMinute TimeOfDay(int64_t minutes);
 
 }  // namespace sun
