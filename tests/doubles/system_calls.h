@@ -44,6 +44,9 @@ struct SystemScript {
   std::string missingLibrary;     // what LoadLibrary does not find ...
   UINT_PTR missingLibraryHandle;  // ... and answers for it
 
+  DWORD saveDialogError;           // why a save dialog had no answer; 0: it was cancelled
+  int failingWrites;               // of files, that are still to come
+  bool diskIsFull;                 // writes of files end before their last byte
   std::string refusedWindowClass;  // of which no window can be created
 
   // The mouse cursor, and what it was when a file was written last.
