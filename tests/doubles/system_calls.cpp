@@ -53,6 +53,10 @@ BOOL WINAPI FakeGetSaveFileNameA(LPOPENFILENAMEA dialog) {
   return TRUE;
 }
 
+DWORD WINAPI FakeCommDlgExtendedError() {
+  return System().saveDialogError;
+}
+
 void WINAPI FakeFatalAppExitA(UINT action, LPCSTR text) {
   LogCall("fatal exit %u '%s'", action, text);
 }
@@ -165,7 +169,11 @@ HCURSOR WINAPI FakeSetCursor(HCURSOR cursor) {
 BOOL WINAPI NotedWriteFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPOVERLAPPED overlapped) {
   static const auto real = REAL("kernel32.dll", WriteFile);
   System().cursorWhileWriting = System().cursor;
-  return real(file, bytes, count, written, overlapped);
+  if (System().failingWrites > 0) {
+    --System().failingWrites;
+    return FALSE;
+  }
+  return real(file, bytes, System().diskIsFull && count > 0 ? count - 1 : count, written, overlapped);
 }
 
 BOOL WINAPI NotedDrawIconEx(HDC dc, int x, int y, HICON icon, int width, int height, UINT step, HBRUSH brush,
@@ -270,6 +278,7 @@ BOOL WINAPI CountedGlobalUnlock(HGLOBAL block) {
 extern "C" {
 decltype(&MessageBoxA) __imp_MessageBoxA = FakeMessageBoxA;
 decltype(&GetSaveFileNameA) __imp_GetSaveFileNameA = FakeGetSaveFileNameA;
+decltype(&CommDlgExtendedError) __imp_CommDlgExtendedError = FakeCommDlgExtendedError;
 decltype(&FatalAppExitA) __imp_FatalAppExitA = FakeFatalAppExitA;
 decltype(&WinExec) __imp_WinExec = FakeWinExec;
 decltype(&FindWindowA) __imp_FindWindowA = FakeFindWindowA;
@@ -323,6 +332,9 @@ void ResetSystem() {
               .saveDialog = {},
               .missingLibrary = {},
               .missingLibraryHandle = 0,
+              .saveDialogError = 0,
+              .failingWrites = 0,
+              .diskIsFull = false,
               .refusedWindowClass = {},
               .cursor = nullptr,
               .cursorWhileWriting = nullptr,

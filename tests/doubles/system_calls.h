@@ -46,6 +46,9 @@ struct SystemScript {
   std::string missingLibrary;         // what LoadLibrary does not find ...
   UINT_PTR missingLibraryHandle;      // ... and answers for it
 
+  DWORD saveDialogError;           // why a save dialog had no answer; 0: it was cancelled
+  int failingWrites;               // of files, that are still to come
+  bool diskIsFull;                 // writes of files end before their last byte
   std::string refusedWindowClass;  // of which no window can be created
 
   // Which block and which font cannot be made, counted from now on from 1; 0: all can.

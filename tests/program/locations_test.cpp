@@ -64,6 +64,27 @@ TEST_F(LocationsTest, CancellingOverAnotherDocumentTakesItsPlaceWhole) {
   EXPECT_EQ(CurrentLocation.latitude, 5046);
 }
 
+TEST_F(LocationsTest, TheNewDocumentHasTheRangeOfTheActiveOneThoughAnotherIsCurrent) {
+  CurrentRange = {{1, 2, 2003}, {4, 5, 2006}};
+  Manage([](HWND manager) {
+    Select(manager, 1);
+    Click(manager, IDOK);
+  });
+  EXPECT_EQ(TextOf(ActiveDocument()), "Haifa (20.11.2026 - 21.12.2026)");
+}
+
+TEST_F(LocationsTest, CancellingOverJerusalemsDocumentFixesItsCandleMinutes) {
+  Manage([](HWND manager) {
+    Select(manager, 2);
+    Click(manager, IDOK);
+  });
+  CurrentLocation = {"Haifa", 3249, 3459, 2, 0};
+  CandleOverride = {true, 0};
+  Manage([](HWND manager) { Click(manager, IDCANCEL); });
+  EXPECT_STREQ(CurrentLocation.name, "Jerusalem");
+  EXPECT_FALSE(CandleOverride.readSetting);
+}
+
 TEST_F(LocationsTest, WithoutADocumentTheFirstPlaceAndAYearFromTodayAreTaken) {
   SendMessageA(frame_, WM_COMMAND, IDM_WINDOW_CLOSE_ALL, 0);
   Manage([](HWND manager) { Click(manager, IDCANCEL); });

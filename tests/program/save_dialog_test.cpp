@@ -1,6 +1,7 @@
 // What every export asks the system's save dialog for, and which name it offers.
 #include <windows.h>
 
+#include <cderr.h>
 #include <commdlg.h>
 
 #include <filesystem>
@@ -154,4 +155,15 @@ TEST_F(SaveDialogTest, TheTwoDelimitedExportsShareTheNameTheyOffer) {
                EXPECT_EQ(OfferedByBrowse(dialog, ""), chosen);
                Click(dialog, IDCANCEL);
              });
+}
+
+TEST_F(SaveDialogTest, ANameThatIsTooLongIsExplainedAndACancelledDialogIsNot) {
+  CallLog().clear();
+  OfferedBy(IDM_EXPORT_TEXT);
+  EXPECT_THAT(CallsWith("message box"), testing::IsEmpty());
+  System().saveDialogError = FNERR_BUFFERTOOSMALL;
+  OfferedBy(IDM_EXPORT_TEXT);
+  EXPECT_THAT(CallsWith("message box"),
+              ElementsAre("message box 'The file's name and folder together may have 255 characters.\nPlease choose a "
+                          "shorter name or another folder.' caption 'Error' type 0x10 owner yes"));
 }
