@@ -118,6 +118,26 @@ TEST_F(ReadingsEndToEndTest, AnotherLanguageOpensAnotherDocument) {
   EXPECT_THAT(ReadFileText(file), HasSubstr(std::string("{\\f1\\fs24\r\n") + kVayechiInHebrew));
 }
 
+// 10 April 2007 is the eighth day of Pesach in the diaspora, with Yizkor, and an ordinary day in Israel (Hebcal). The
+// settings change as a second running copy changes them.
+TEST_F(ReadingsEndToEndTest, AnOlderDocumentFollowsTheLanguageAndKeepsItsLand) {
+  const HWND document = Start("10.4.2007", "10.4.2007");
+  ASSERT_NE(document, nullptr);
+  EXPECT_TRUE(run_->Eventually([&] { return IsDrawn("10.04.2007") && IsDrawn("Yizkor"); }));
+  Set("[Readings]\r\nLand=Israel\r\nCustom=Ashkenazi\r\nLanguage=4\r\n");
+  constexpr char kFirstLetterOfHebrew = '\xe0';
+  EXPECT_TRUE(run_->Eventually([&] {
+    const std::size_t before = Drawn().size();
+    RedrawWindow(document, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    const auto draws = Drawn();
+    return std::any_of(draws.begin() + static_cast<std::ptrdiff_t>(before), draws.end(), [](const auto& draw) {
+      return !draw.text.empty() &&
+             static_cast<unsigned char>(draw.text[0]) >= static_cast<unsigned char>(kFirstLetterOfHebrew);
+    });
+  }));
+  EXPECT_EQ(Line("10.04.2007").front(), "10.04.2007");
+}
+
 TEST_F(ReadingsEndToEndTest, TheListScrollsByWholeDays) {
   const HWND document = Start("1.1.2007", "31.12.2007");
   ASSERT_NE(document, nullptr);

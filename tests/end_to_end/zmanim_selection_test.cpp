@@ -1,4 +1,4 @@
-// Choosing zmanim in the finished program: what a new document shows, and what an older one goes on showing.
+// Choosing zmanim in the finished program: what a new document shows, and how an older one follows.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -113,7 +113,9 @@ TEST_F(ZmanimSelectionTest, PresetCountsForNewDocumentsAndAfterARestart) {
     // The nineteen begin with 72 minutes before sunrise, the usual zmanim with 16.1 degrees and then that.
     EXPECT_EQ(newRow.at(0), olderRow.at(1));
     EXPECT_NE(newRow.at(0), olderRow.at(0));
-    EXPECT_EQ(FirstRow(ViewOf(program, older)).at(0), olderRow.at(0));
+    // The older document follows as soon as it is seen, with its times under their own numbers.
+    EXPECT_EQ(FirstRow(ViewOf(program, older)), newRow);
+    EXPECT_EQ(ColumnsOf(program, older), 19);
     PostMessageA(program.WaitForTopLevel("ShabbatMain"), WM_CLOSE, 0, 0);
     EXPECT_EQ(program.WaitForExit(), 0u);
   }
@@ -122,6 +124,20 @@ TEST_F(ZmanimSelectionTest, PresetCountsForNewDocumentsAndAfterARestart) {
   const std::vector<RecordedDraw> drawn = ViewOf(program, document);
   EXPECT_EQ(FirstRow(drawn), newRow);
   EXPECT_EQ(ColumnsOf(program, document), 19);
+}
+
+// As a second running copy does.
+TEST_F(ZmanimSelectionTest, SelectionChangedFromOutsideIsShownWithItsOwnTimes) {
+  ProgramRun program(program_.path(), settings_.path());
+  const HWND document = program.WaitForDocuments(1).at(0);
+  const std::vector<std::string> before = FirstRow(ViewOf(program, document));
+  ASSERT_GE(before.size(), 3u);
+  // The usual zmanim begin with dawn by 16.1 degrees and dawn 72 minutes before sunrise.
+  WriteFileText(settings_.path() / "hours.txt", "zman dawn-72-min\r\nzman dawn-16.1\r\n");
+  EXPECT_TRUE(program.Eventually([&] {
+    return FirstRow(ViewOf(program, document)) == std::vector<std::string>{before[1], before[0]};
+  }));
+  EXPECT_EQ(ColumnsOf(program, document), 2);
 }
 
 TEST_F(ZmanimSelectionTest, CancelledSelectionOpensADocumentOfTheSameZmanim) {
