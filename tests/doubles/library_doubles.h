@@ -63,6 +63,7 @@ struct LibraryScript {
   bool unknownSettingsAreMissing = false;
   bool logSettings = false;  // whether reads are logged too; writes always are
   bool writesFail = false;
+  int failingWrites = 0;       // that are still to come
   std::string unwritableFile;  // takes no write, as the only one
 
   // twilight: the interval, whatever is asked, unless set for a depression.

@@ -125,6 +125,10 @@ uint32_t ProfileGetString(const char* section, const char* key, const char* defa
 
 int32_t ProfileWriteString(const char* section, const char* key, const char* value, const char* file) {
   if (!section || !IsName(file) || Libraries().writesFail || file == Libraries().unwritableFile) return 0;
+  if (Libraries().failingWrites > 0) {
+    --Libraries().failingWrites;
+    return 0;
+  }
   IniFiles& settings = Libraries().settings;
   const std::string_view ownSection = Trimmed(section);
   const std::string_view ownKey = TrimmedOrEmpty(key);

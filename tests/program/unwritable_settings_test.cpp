@@ -64,6 +64,27 @@ TEST_F(UnwritableSettingsTest, ARenamedLocationThatCannotBeDeletedIsReported) {
   });
 }
 
+// The old place's section is deleted first, a new place's first key is written first.
+TEST_F(UnwritableSettingsTest, OneWriteThatFailsAmongManyIsReported) {
+  AddUserPlace("Home", {});
+  Manage([](HWND manager) {
+    for (const int button : {104, 102}) {
+      Select(manager, 2);
+      Edit(manager, button, [](HWND editor) {
+        Fill(editor, {.name = "Cottage"});
+        CallLog().clear();
+        System().answer = IDYES;
+        Libraries().failingWrites = 1;
+        Click(editor, IDOK);
+        EXPECT_THAT(CallsWith("message box"), testing::Contains(HasSubstr("could not be saved to the file")));
+        EXPECT_TRUE(IsWindowVisible(editor));
+        Click(editor, IDCANCEL);
+      });
+    }
+    Click(manager, IDCANCEL);
+  });
+}
+
 TEST_F(UnwritableSettingsTest, TheCopiesForTheSiblingMayFailUnheard) {
   for (const char* const copy : {"almanachlp2.ini", "almanachlpl2.ini"}) {
     Libraries().unwritableFile = copy;
