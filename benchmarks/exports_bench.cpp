@@ -116,7 +116,9 @@ void MeasureExports(const SettingsHome& home) {
   CalculateZmanim(document, start.uDay, start.uMonth, start.uYear, end.uDay, end.uMonth, end.uYear);
   MeasureZmanimExports(document);
   FreeBlockProperty(document, property::kZmanimTimes);
+  FreeBlockProperty(document, property::kZmanimLabels);
   MeasureReadings(document);
   FreeBlockProperty(document, property::kParashaReadings);
+  FreeBlockProperty(document, property::kReadingsForm);
   DestroyWindow(document);
 }

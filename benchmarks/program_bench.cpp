@@ -16,10 +16,12 @@
 #include "engine/bound_entries.h"
 #include "engine/current.h"
 #include "engine/library_binding.h"
+#include "engine/optional_entries.h"
 #include "engine/properties.h"
 #include "engine/string_table.h"
 #include "readings/readings_list.h"
 #include "resources/ids.h"
+#include "shabbat/core/shabbat_record.h"
 #include "tests/contract/settings_home.h"
 #include "win/scoped.h"
 #include "zmanim/calculate_zmanim.h"
@@ -118,7 +120,9 @@ void MeasureShabbatTimes(const char* name) {
   if (count != kFridays) std::fprintf(stderr, "%u Fridays instead of %d\n", count, kFridays);
   Report(name, all - zmanim - readings);
   FreeBlockProperty(document, property::kZmanimTimes);
+  FreeBlockProperty(document, property::kZmanimLabels);
   FreeBlockProperty(document, property::kParashaReadings);
+  FreeBlockProperty(document, property::kReadingsForm);
   FreeBlockProperty(document, property::kShabbatTimes);
   FreeBlockProperty(document, property::kCity);
   RemoveRangeProperties(document);
@@ -146,6 +150,7 @@ double NowMilliseconds() {
 
 int main() {
   LoadStringTable(GetModuleHandleA(nullptr));
+  LookUpOptionalEntries();
   if (!BindCivilCalendar() || !BindLunarCalendar() || !BindSolar()) return 1;
   {
     const SettingsHome home;
