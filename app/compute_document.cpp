@@ -10,11 +10,10 @@
 void ComputeDocument(HWND document, const Location& place, const DateRange& range,
                      const CandleOverrideRecord& candles) {
   const ScopedWaitCursor wait;
-  SetPlaceName(document, place.name);
+  SetPlace(document, place);
   SetRangeProperties(document, range);
   ComputeZmanim(document, place, range, LongRange::kReport);
   ComputeReadings(document, range, LongRange::kReport);
-  SetPlaceNumbers(document, place);
   ComputeShabbatTimes(document, place, range, candles);
 }
 

@@ -40,7 +40,10 @@ HGLOBAL GetBlockProperty(HWND window, const char* name) {
 
 void ReplaceBlockProperty(HWND window, const char* name, HGLOBAL block) {
   const HGLOBAL old = GetBlockProperty(window, name);
-  SetPropA(window, name, block);
+  if (!SetPropA(window, name, block)) {  // the window has gone
+    if (block) GlobalFree(block);
+    return;
+  }
   if (old) GlobalFree(old);
 }
 
@@ -54,13 +57,10 @@ std::string DocumentPlace(HWND window) {
   return city ? city.get() : "";
 }
 
-void SetPlaceName(HWND window, const char* name) {
+void SetPlace(HWND window, const Location& place) {
   const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, kTextSize);
-  if (const ScopedGlobalLock<char> city(block); city) lstrcpynA(city.get(), name, kTextSize);
+  if (const ScopedGlobalLock<char> city(block); city) lstrcpynA(city.get(), place.name, kTextSize);
   ReplaceBlockProperty(window, property::kCity, block);
-}
-
-void SetPlaceNumbers(HWND window, const Location& place) {
   SetIntegerProperty(window, property::kLatitude, place.latitude);
   SetIntegerProperty(window, property::kLongitude, place.longitude);
   SetIntegerProperty(window, property::kTimeZone, place.zoneHours);

@@ -63,10 +63,8 @@ void FreeBlockProperty(HWND window, const char* name);
 // The name of the document's place; empty before it was computed.
 std::string DocumentPlace(HWND window);
 
-// The place whole. The name goes by itself, since results that are looked up by it are computed before the numbers are
-// set. Without memory for it the document has no name.
-void SetPlaceName(HWND window, const char* name);
-void SetPlaceNumbers(HWND window, const Location& place);
+// The place whole. Without memory for its name the document has none.
+void SetPlace(HWND window, const Location& place);
 Location GetPlace(HWND window);
 
 HFONT GetFontProperty(HWND window, const char* name);

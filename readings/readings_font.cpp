@@ -8,8 +8,9 @@ constexpr int kPointsPerInch = 72;
 
 }  // namespace
 
-ReadingsFont::ReadingsFont(const LectionsFont& font, HFONT programFont) : programFont_(programFont) {
-  if (font.UseDefaultFont) return;
+ReadingsFont::ReadingsFont(const LectionsFont& font, HFONT programFont)
+    : programFont_(programFont), wantsOwn_(font.UseDefaultFont == 0) {
+  if (!wantsOwn_) return;
   const ScopedWindowDc display(nullptr);
   LOGFONTA record{};
   record.lfHeight = -MulDiv(static_cast<int>(font.PointSize), GetDeviceCaps(display.dc(), LOGPIXELSY), kPointsPerInch);

@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "companion/lections.h"
@@ -101,28 +102,32 @@ HGLOBAL BlockOf(const ReadingsForm& form) {
   return block;
 }
 
-// Readings never stand without their form.
-void Attach(HWND document, HGLOBAL readings, const ReadingsForm& form) {
-  const HGLOBAL formBlock = readings ? BlockOf(form) : nullptr;
-  if (readings && !formBlock) {
-    GlobalFree(readings);
-    readings = nullptr;
-  }
-  ReplaceBlockProperty(document, property::kParashaReadings, readings);
-  ReplaceBlockProperty(document, property::kReadingsForm, formBlock);
+// Readings and the form that they are in; both or none.
+struct FormedReadings {
+  HGLOBAL readings;
+  HGLOBAL form;
+};
+
+void Attach(HWND document, const FormedReadings& built) {
+  ReplaceBlockProperty(document, property::kParashaReadings, built.readings);
+  ReplaceBlockProperty(document, property::kReadingsForm, built.form);
   RefreshReadingsView(document);
 }
 
 // The form comes first: should the language change while the readings are asked for, the form is not that which is set,
-// and the next look tells.
-void Compute(HWND document, const DateRange& range, LongRange longRange, uint32_t choice) {
+// and the next look tells. Nothing for a range without readings.
+std::optional<FormedReadings> Build(const DateRange& range, LongRange longRange, uint32_t choice) {
   const ReadingsForm form = ReadingsFormNow(choice);
   const auto source = std::make_unique<ReadingsSource>(choice);
   const int32_t first = AbsoluteFromDate(range.start);
   const int32_t last = AbsoluteFromDate(range.end);
   const uint32_t count = CountReadingDays(*source, first, last, longRange);
-  if (count == 0) return;
-  Attach(document, BuildList(*source, first, last, count, form.language), form);
+  if (count == 0) return std::nullopt;
+  FormedReadings built{BuildList(*source, first, last, count, form.language), nullptr};
+  if (built.readings) built.form = BlockOf(form);
+  if (built.form) return built;
+  if (built.readings) GlobalFree(built.readings);
+  return FormedReadings{};
 }
 
 bool IsOutdated(HWND document) {
@@ -133,7 +138,7 @@ bool IsOutdated(HWND document) {
 }  // namespace
 
 void ComputeReadings(HWND document, const DateRange& range, LongRange longRange) {
-  Compute(document, range, longRange, ReadingsChoiceNow());
+  if (const auto built = Build(range, longRange, ReadingsChoiceNow())) Attach(document, *built);
 }
 
 void BuildReadingsList(HWND document, uint32_t startDay, uint32_t startMonth, uint32_t startYear, uint32_t endDay,
@@ -144,6 +149,12 @@ void BuildReadingsList(HWND document, uint32_t startDay, uint32_t startMonth, ui
 bool RenewReadings(HWND document) {
   if (!IsOutdated(document)) return false;
   const ScopedWaitCursor wait;
-  Compute(document, GetRangeProperties(document), LongRange::kCutSilently, ReadingsFormOf(document).choice);
+  // A language that goes on changing meanwhile is left to the next look.
+  constexpr int kMostTries = 3;
+  for (int tries = 0; tries < kMostTries && IsOutdated(document); ++tries) {
+    const auto built = Build(GetRangeProperties(document), LongRange::kCutSilently, ReadingsFormOf(document).choice);
+    if (built && !built->readings) return tries > 0;
+    Attach(document, built.value_or(FormedReadings{}));
+  }
   return true;
 }

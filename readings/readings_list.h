@@ -18,5 +18,5 @@ void BuildReadingsList(HWND document, uint32_t startDay, uint32_t startMonth, ui
 
 // Asks for the document's readings anew, of its own range and land and customs and without a word, when the language or
 // font of readings is another than the document's; whether it did. Called before they are shown or exported. A document
-// without readings is left alone.
+// without readings is left alone; without memory it keeps what it has, form and all, until the next call.
 bool RenewReadings(HWND document);

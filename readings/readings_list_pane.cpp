@@ -72,6 +72,7 @@ void PaintList(HWND pane, HDC dc, const RECT&) {
   if (!list) return;
   const ReadingsForm form = ReadingsFormOf(document);
   const ReadingsFont textFont(form.font, programFont);
+  if (!textFont.CanDraw()) return;
   const Painter painter{dc, programFont, textFont.get(), MeasureReadings(pane, textFont.get(), programFont),
                         form.yizkor};
   const ScopedTextColors colors(dc, kBlack, kWhite);
@@ -83,8 +84,8 @@ void PaintList(HWND pane, HDC dc, const RECT&) {
   }
 }
 
-void Prepare(HWND pane) {
-  RenewReadings(DocumentOf(pane));
+bool Prepare(HWND pane) {
+  return RenewReadings(DocumentOf(pane));
 }
 
 // The titles stand over the columns, which move when the scroll bar comes or goes.

@@ -31,6 +31,8 @@ std::vector<ShabbatTimeEntry> EntriesOf(HWND document) {
 // Asks for a file and has it written from a copy of the document's times.
 template <typename Writer>
 void Export(HWND frame, HWND document, ExportFormat format, Writer write) {
+  const auto file = AskForExportFile(frame, format);
+  if (!file) return;
   const std::vector<ShabbatTimeEntry> entries = EntriesOf(document);
   const ShabbatExport data{.title = TitleOf(document),
                            .dateTitle = TableString(IDS_DATE),
@@ -39,8 +41,6 @@ void Export(HWND frame, HWND document, ExportFormat format, Writer write) {
                            .entries = entries,
                            .formatTime = StampConvert,
                            .amPm = StampIsAmPm() != 0};
-  const auto file = AskForExportFile(frame, format);
-  if (!file) return;
   bool written = false;
   {
     const ScopedWaitCursor wait;

@@ -20,9 +20,9 @@ bool CreateChildPane(HWND parent, const ChildPane& child);
 void PlaceChildPane(HWND parent, int id, const PaneRect& rect);
 
 // How a pane paints. prepare, if there is one, runs before the painting begins and may change what is shown, in other
-// panes too.
+// panes too; what it answers does not matter here.
 struct PanePainting {
-  void (*prepare)(HWND pane);
+  bool (*prepare)(HWND pane);
   void (*paint)(HWND pane, HDC dc, const RECT& area);
 };
 

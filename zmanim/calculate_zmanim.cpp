@@ -94,6 +94,28 @@ HGLOBAL BuildBlock(HWND document, const Location& place, const DateRange& range,
   return handle;
 }
 
+// Times and the labels that say whose they are; both or none.
+struct LabelledTimes {
+  HGLOBAL times;
+  HGLOBAL labels;
+};
+
+LabelledTimes BuildLabelledTimes(HWND document, const Location& place, const DateRange& range, LongRange longRange) {
+  LabelledTimes built{nullptr, DescribeZmanimInUse()};
+  if (const ScopedGlobalLock<const ZmanimLabels> labels(built.labels); labels) {
+    built.times = BuildBlock(document, place, range, longRange, *labels.get());
+  }
+  if (built.times) return built;
+  if (built.labels) GlobalFree(built.labels);
+  return {};
+}
+
+void Attach(HWND document, const LabelledTimes& built) {
+  ReplaceBlockProperty(document, property::kZmanimTimes, built.times);
+  ReplaceBlockProperty(document, property::kZmanimLabels, built.labels);
+  RefreshZmanimView(document);
+}
+
 bool IsOutdated(HWND document) {
   const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
   return labels && !AreInUse(*labels.get());
@@ -102,14 +124,7 @@ bool IsOutdated(HWND document) {
 }  // namespace
 
 void ComputeZmanim(HWND document, const Location& place, const DateRange& range, LongRange longRange) {
-  const HGLOBAL labelsBlock = DescribeZmanimInUse();
-  HGLOBAL block = nullptr;
-  if (const ScopedGlobalLock<const ZmanimLabels> labels(labelsBlock); labels) {
-    block = BuildBlock(document, place, range, longRange, *labels.get());
-  }
-  ReplaceBlockProperty(document, property::kZmanimTimes, block);
-  ReplaceBlockProperty(document, property::kZmanimLabels, labelsBlock);
-  RefreshZmanimView(document);
+  Attach(document, BuildLabelledTimes(document, place, range, longRange));
 }
 
 void CalculateZmanim(HWND document, uint32_t startDay, uint32_t startMonth, uint32_t startYear, uint32_t endDay,
@@ -125,7 +140,13 @@ bool RenewZmanim(HWND document) {
   // A selection that goes on changing while it is computed is left to the next look.
   constexpr int kMostTries = 3;
   for (int tries = 0; tries < kMostTries && IsOutdated(document); ++tries) {
-    ComputeZmanim(document, GetPlace(document), GetRangeProperties(document), LongRange::kCutSilently);
+    const LabelledTimes built =
+        BuildLabelledTimes(document, GetPlace(document), GetRangeProperties(document), LongRange::kCutSilently);
+    if (!built.times) return tries > 0;
+    Attach(document, built);
+  }
+  if (const ScopedGlobalLock<ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels)); labels) {
+    labels->renewedAt = GetTickCount();
   }
   return true;
 }

@@ -12,11 +12,12 @@
 // Without memory the document has no zmanim.
 void ComputeZmanim(HWND document, const Location& place, const DateRange& range, LongRange longRange);
 
-// The same at CurrentLocation, reporting too long a range. Custom times are those of the document's place.
+// The same at CurrentLocation, reporting too long a range. Custom times are those of the document's place, which, like
+// its range, is that of the document's properties.
 void CalculateZmanim(HWND document, uint32_t startDay, uint32_t startMonth, uint32_t startYear, uint32_t endDay,
                      uint32_t endMonth, uint32_t endYear);
 
 // Computes the document's zmanim anew, from its own place and range and without a word, when the zmanim in use are not
 // those that it has; whether it did. Called before they are shown, clicked, exported or printed. A document that was
-// never computed is left alone.
+// never computed is left alone; without memory it keeps what it has, times and labels alike, until the next call.
 bool RenewZmanim(HWND document);

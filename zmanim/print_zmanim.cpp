@@ -113,11 +113,11 @@ std::vector<ZmanimDay> DaysOf(HWND document) {
 
 void PrintPages(HDC printer, HWND document) {
   const ScopedWaitCursor wait;
-  RenewZmanim(document);
   const std::vector<ZmanimDay> days = DaysOf(document);
   ZmanimExport data = DescribeZmanim(document);
   data.days = days;
   PrinterSurface surface(printer, data.hebrewFont.c_str());
+  data.hebrew = data.hebrew && surface.CanDrawHebrew();
   ZmanTexts texts(data.formatTime);
   const PrintJob job{printer, MeasurePage(printer), data, surface, texts};
   unsigned number = 0;
@@ -148,6 +148,7 @@ void PrintZmanim(HWND owner, HWND document) {
   const PrinterChoice choice =
       RunPrintDialog(owner, PD_RETURNDC | PD_NOSELECTION | PD_NOPAGENUMS | PD_USEDEVMODECOPIESANDCOLLATE);
   if (!choice.printer) return;
+  RenewZmanim(document);
   OpenPrintAbortDialog(owner);
   if (StartDocument(owner, choice)) {
     PrintPages(choice.printer, document);

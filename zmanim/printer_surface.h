@@ -14,6 +14,9 @@ class PrinterSurface : public PageSurface {
   PrinterSurface(HDC printer, const char* hebrewFace);
   ~PrinterSurface() override;
 
+  // Whether there is a font for Hebrew names.
+  bool CanDrawHebrew() const { return hebrew_.get() != nullptr; }
+
   void UseFont(PrintFont font) override;
   int LineHeight() override;
   int AverageCharacterWidth() override;

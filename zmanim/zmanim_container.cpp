@@ -41,10 +41,16 @@ constexpr ChildPane kPanes[] = {
 };
 constexpr PaneContainer kContainer{kPanes, LayOut, IDC_ZMANIM_TABLE};
 
-// The usual case, decided with one look at the document.
-bool IsUpToDate(HWND document) {
+struct ViewState {
+  bool hasTimesInUse;
+  bool isLaidOut;  // for the form of times
+};
+
+// One look at the document decides the usual case. One without zmanim has nothing to bring up to date.
+ViewState StateOf(HWND document) {
   const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
-  return !labels || (labels->amPm == FormOfTimes() && AreInUse(*labels.get()));
+  if (!labels) return {true, true};
+  return {AreInUse(*labels.get()), labels->amPm == FormOfTimes()};
 }
 
 void RememberForm(HWND document) {
@@ -71,7 +77,11 @@ void RefreshZmanimView(HWND document) {
   RedrawWindow(container, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-void PrepareZmanimPane(HWND pane) {
+bool PrepareZmanimPane(HWND pane) {
   const HWND document = GetParent(GetParent(pane));
-  if (!IsUpToDate(document) && !RenewZmanim(document)) RefreshZmanimView(document);
+  const ViewState state = StateOf(document);
+  if (!state.hasTimesInUse && RenewZmanim(document)) return true;  // which lays the view out, too
+  if (state.isLaidOut) return false;
+  RefreshZmanimView(document);
+  return true;
 }

@@ -1,7 +1,6 @@
 #include "zmanim/zmanim_in_use.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "companion/hours.h"
 #include "engine/optional_entries.h"
@@ -61,6 +60,7 @@ HGLOBAL DescribeZmanimInUse() {
   labels->selection = selection;
   labels->fromLibrary = fromLibrary ? 1 : 0;
   labels->amPm = 0;
+  labels->renewedAt = 0;
   labels->count = count;
   ZmanLabel* const zmanim = labels->zmanim;
   for (uint32_t zman = 0; zman < count; ++zman) {

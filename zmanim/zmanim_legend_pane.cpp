@@ -24,10 +24,12 @@ int WordWidth(HDC dc, std::string_view word) {
   return size.cx;
 }
 
-void PaintHebrewLegend(HDC dc, const RECT& client, const ZmanimLabels& labels) {
+// Whether there is a font for it.
+bool PaintHebrewLegend(HDC dc, const RECT& client, const ZmanimLabels& labels) {
   char face[LF_FACESIZE];
   GlyphsGetHebrewFontName(face);
   const ScopedGdiObject<HFONT> font(MakeFont(face, kHebrewFontPoints, FW_DONTCARE));
+  if (!font.get()) return false;
   const ScopedSelect selectedFont(dc, font.get());
   RightToLeftFlow flow(
       {0, 0, client.right, client.bottom}, MeasureFont(dc, font.get()).lineHeight,
@@ -36,6 +38,7 @@ void PaintHebrewLegend(HDC dc, const RECT& client, const ZmanimLabels& labels) {
         GlyphsTextOut(dc, x, y, word.data(), static_cast<int>(word.size()));
       });
   FlowHebrewLegend(flow, NamesOf(labels, &ZmanLabel::hebrew));
+  return true;
 }
 
 void PaintEnglishLegend(HDC dc, RECT client, HFONT font, const ZmanimLabels& labels) {
@@ -51,17 +54,15 @@ void PaintLegend(HWND pane, HDC dc, const RECT&) {
   if (!labels) return;
   RECT client;
   GetClientRect(pane, &client);
-  if (IsLegendHebrew(*labels.get())) {
-    PaintHebrewLegend(dc, client, *labels.get());
-  } else {
-    PaintEnglishLegend(dc, client, GetFontProperty(document, property::kBoldZmanimFont), *labels.get());
-  }
+  if (IsLegendHebrew(*labels.get()) && PaintHebrewLegend(dc, client, *labels.get())) return;
+  PaintEnglishLegend(dc, client, GetFontProperty(document, property::kBoldZmanimFont), *labels.get());
 }
 
 // The legend is one text, in one language: it is never painted in part.
-void Prepare(HWND pane) {
-  PrepareZmanimPane(pane);
+bool Prepare(HWND pane) {
+  const bool changed = PrepareZmanimPane(pane);
   InvalidateRect(pane, nullptr, TRUE);
+  return changed;
 }
 
 constexpr PanePainting kPainting{Prepare, PaintLegend};

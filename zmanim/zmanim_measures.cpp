@@ -1,7 +1,6 @@
 #include "zmanim/zmanim_measures.h"
 
 #include "companion/glyphs.h"
-#include "companion/stamp.h"
 #include "win/scoped.h"
 #include "win/text_metrics.h"
 #include "zmanim/core/zmanim_block.h"
@@ -29,7 +28,7 @@ ZmanimGeometry MeasureZmanimTable(HWND table, HDC dc, HFONT font, HGLOBAL block,
           .rowHeight = measure.lineHeight,
           .dateWidth = DateWidth(dc, font),
           .textIndent = measure.averageCharacterWidth,
-          .visibleColumns = StampIsAmPm() ? kColumnsOf12HourTimes : kColumnsOf24HourTimes,
+          .visibleColumns = zmanim && zmanim->amPm ? kColumnsOf12HourTimes : kColumnsOf24HourTimes,
           .firstDay = static_cast<uint32_t>(GetScrollPos(table, SB_VERT)),
           .firstZman = static_cast<uint32_t>(GetScrollPos(table, SB_HORZ)),
           .dayCount = days ? days->count : 0,

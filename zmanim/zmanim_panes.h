@@ -19,5 +19,5 @@ void SetupZmanimScroll(HWND table, int width, int height);
 void RefreshZmanimView(HWND document);
 
 // What each pane of the view does before it paints: where the zmanim in use are others than the document's, they are
-// computed anew; where the form of times is another, the view is laid out anew.
-void PrepareZmanimPane(HWND pane);
+// computed anew; where the form of times is another, the view is laid out anew. Whether what is to be seen has changed.
+bool PrepareZmanimPane(HWND pane);

@@ -10,8 +10,8 @@
 #include "win/list_pane_scroll.h"
 #include "win/pane.h"
 #include "win/scoped.h"
-#include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/zmanim_block.h"
+#include "zmanim/core/zmanim_labels.h"
 #include "zmanim/edit_custom_zman.h"
 #include "zmanim/zmanim_measures.h"
 #include "zmanim/zmanim_panes.h"
@@ -112,10 +112,18 @@ bool TakeSidewaysKey(HWND table, WPARAM key) {
   return true;
 }
 
-// A click beside the times does nothing. A click on times that are no longer those in use only has the new ones shown:
-// the user has not seen them yet.
+// Whether the user has seen what is under the mouse now: the table is painted, and was not replaced while the click
+// waited in the queue.
+bool IsSeen(HWND table) {
+  if (GetUpdateRect(table, nullptr, FALSE)) return false;
+  const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(DocumentOf(table), property::kZmanimLabels));
+  if (!labels || labels->renewedAt == 0) return true;
+  return static_cast<int32_t>(static_cast<uint32_t>(GetMessageTime()) - labels->renewedAt) >= 0;
+}
+
+// A click beside the times does nothing. A click on times that are no longer those in use only has the new ones shown.
 LRESULT OnLeftButtonUp(HWND table, int x, int y) {
-  if (RenewZmanim(DocumentOf(table))) return 0;
+  if (PrepareZmanimPane(table) || !IsSeen(table)) return 0;
   const std::optional<ZmanimCell> cell = GeometryOf(table).CellAt(x, y);
   if (!cell || !EditCustomZman(DocumentOf(table), *cell)) return 0;
   InvalidateRect(table, nullptr, TRUE);

@@ -80,7 +80,7 @@ PickerRun::~PickerRun() {
 }
 
 void PickerRun::Show(Owner owner) {
-  if (owner == Owner::Window) {
+  if (owner == Owner::kWindow) {
     owner_ = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 300, 200, nullptr,
                              nullptr, nullptr, nullptr);
   }

@@ -21,10 +21,10 @@ std::wstring WindowText(HWND window);
 
 class PickerRun {
  public:
-  enum class Owner { None, Window };
+  enum class Owner { kNone, kWindow };
 
   // name: what the buffer holds at first.
-  explicit PickerRun(const std::string& name, Owner owner = Owner::None);
+  explicit PickerRun(const std::string& name, Owner owner = Owner::kNone);
   ~PickerRun();  // cancels a dialog that is still open
   PickerRun(const PickerRun&) = delete;
   PickerRun& operator=(const PickerRun&) = delete;

@@ -271,7 +271,7 @@ TEST_F(PlacePickContract, WhenTheStartCannotBeWrittenAMessageNamesTheFileAndTheP
 }
 
 TEST_F(PlacePickContract, DialogIsModalToItsOwner) {
-  PickerRun picker("Jerusalem", PickerRun::Owner::Window);
+  PickerRun picker("Jerusalem", PickerRun::Owner::kWindow);
   EXPECT_EQ(GetWindow(picker.Dialog(), GW_OWNER), picker.OwnerWindow());
   EXPECT_FALSE(IsWindowEnabled(picker.OwnerWindow()));
   picker.Press(VK_ESCAPE);

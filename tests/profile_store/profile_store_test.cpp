@@ -17,8 +17,8 @@
 namespace {
 
 // Which of the calls that change a file is to fail, and as what.
-enum class Failing { Nothing, Lock, Read, Create, Write, PartOfWrite, Flush, Rename };
-Failing failing = Failing::Nothing;
+enum class Failing { kNothing, kLock, kRead, kCreate, kWrite, kPartOfWrite, kFlush, kRename };
+Failing failing = Failing::kNothing;
 
 // What another program does, once: between our reading and our renaming, or just after we found no file.
 std::function<void()> doneMeanwhile;
@@ -35,7 +35,7 @@ Function Real(const char* name) {
 
 HANDLE WINAPI CreateFileDouble(LPCWSTR name, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security, DWORD creation,
                                DWORD flags, HANDLE model) {
-  if (failing == Failing::Create && (access & GENERIC_WRITE)) {
+  if (failing == Failing::kCreate && (access & GENERIC_WRITE)) {
     SetLastError(ERROR_DISK_FULL);
     return INVALID_HANDLE_VALUE;
   }
@@ -48,21 +48,21 @@ HANDLE WINAPI CreateFileDouble(LPCWSTR name, DWORD access, DWORD share, LPSECURI
 }
 
 HANDLE WINAPI CreateMutexDouble(LPSECURITY_ATTRIBUTES security, BOOL owned, LPCWSTR name) {
-  if (failing != Failing::Lock) return Real<decltype(&CreateMutexW)>("CreateMutexW")(security, owned, name);
+  if (failing != Failing::kLock) return Real<decltype(&CreateMutexW)>("CreateMutexW")(security, owned, name);
   SetLastError(ERROR_ACCESS_DENIED);
   return nullptr;
 }
 
 BOOL WINAPI ReadFileDouble(HANDLE file, LPVOID bytes, DWORD size, LPDWORD count, LPOVERLAPPED overlapped) {
-  if (failing != Failing::Read) return Real<decltype(&ReadFile)>("ReadFile")(file, bytes, size, count, overlapped);
+  if (failing != Failing::kRead) return Real<decltype(&ReadFile)>("ReadFile")(file, bytes, size, count, overlapped);
   SetLastError(ERROR_CRC);
   return FALSE;
 }
 
 BOOL WINAPI WriteFileDouble(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD count, LPOVERLAPPED overlapped) {
   const auto real = Real<decltype(&WriteFile)>("WriteFile");
-  if (failing == Failing::PartOfWrite) return real(file, bytes, size / 2, count, overlapped);
-  if (failing != Failing::Write) return real(file, bytes, size, count, overlapped);
+  if (failing == Failing::kPartOfWrite) return real(file, bytes, size / 2, count, overlapped);
+  if (failing != Failing::kWrite) return real(file, bytes, size, count, overlapped);
   SetLastError(ERROR_DISK_FULL);
   return FALSE;
 }
@@ -76,13 +76,13 @@ BOOL WINAPI GetFileAttributesExDouble(LPCWSTR name, GET_FILEEX_INFO_LEVELS level
 
 BOOL WINAPI FlushFileBuffersDouble(HANDLE file) {
   Do(doneMeanwhile);
-  if (failing != Failing::Flush) return Real<decltype(&FlushFileBuffers)>("FlushFileBuffers")(file);
+  if (failing != Failing::kFlush) return Real<decltype(&FlushFileBuffers)>("FlushFileBuffers")(file);
   SetLastError(ERROR_IO_DEVICE);
   return FALSE;
 }
 
 BOOL WINAPI MoveFileExDouble(LPCWSTR from, LPCWSTR to, DWORD flags) {
-  if (failing != Failing::Rename) return Real<decltype(&MoveFileExW)>("MoveFileExW")(from, to, flags);
+  if (failing != Failing::kRename) return Real<decltype(&MoveFileExW)>("MoveFileExW")(from, to, flags);
   SetLastError(ERROR_DISK_FULL);
   return FALSE;
 }
@@ -127,7 +127,7 @@ std::string KeyOf(int writer, int write) {
 
 class ProfileStore : public testing::Test {
  protected:
-  ~ProfileStore() override { failing = Failing::Nothing; }
+  ~ProfileStore() override { failing = Failing::kNothing; }
 
   SettingsHome home_;
   Store store_;
@@ -135,12 +135,12 @@ class ProfileStore : public testing::Test {
 
 TEST_F(ProfileStore, FailingCallLeavesTheOldFileWhole) {
   home_.Put("a.ini", "[A]\r\nx=1\r\n");
-  for (const Failing call : {Failing::Lock, Failing::Read, Failing::Create, Failing::Write, Failing::PartOfWrite,
-                             Failing::Flush, Failing::Rename}) {
+  for (const Failing call : {Failing::kLock, Failing::kRead, Failing::kCreate, Failing::kWrite, Failing::kPartOfWrite,
+                             Failing::kFlush, Failing::kRename}) {
     SCOPED_TRACE(static_cast<int>(call));
     failing = call;
     EXPECT_FALSE(Set(store_, "x", "2"));
-    failing = Failing::Nothing;
+    failing = Failing::kNothing;
     EXPECT_EQ(home_.Bytes("a.ini"), "[A]\r\nx=1\r\n");
     EXPECT_FALSE(std::filesystem::exists(home_.Path("a.ini.new")));
     EXPECT_EQ(Number(store_, "x"), 1);
@@ -150,7 +150,7 @@ TEST_F(ProfileStore, FailingCallLeavesTheOldFileWhole) {
 }
 
 TEST_F(ProfileStore, FailingFirstWriteLeavesNoFile) {
-  failing = Failing::Flush;
+  failing = Failing::kFlush;
   EXPECT_FALSE(Set(store_, "x", "1"));
   EXPECT_FALSE(std::filesystem::exists(home_.Path("a.ini")));
 }

@@ -161,3 +161,9 @@ void LabelsTest::ClickCell(const ZmanimCell& cell) {
   const POINT point = CellPoint(cell);
   SendMessageA(table_, WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
 }
+
+void LabelsTest::PostClick(const ZmanimCell& cell) {
+  const POINT point = CellPoint(cell);
+  PostMessageA(table_, WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+  DispatchPendingMessages();
+}

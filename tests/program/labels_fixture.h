@@ -34,6 +34,8 @@ class LabelsTest : public PrintingFixture {
 
   POINT CellPoint(const ZmanimCell& cell);
   void ClickCell(const ZmanimCell& cell);
+  // The same by a message that has a time, as the mouse's have.
+  void PostClick(const ZmanimCell& cell);
 
   std::filesystem::path folder_;
 };

@@ -3,6 +3,7 @@
 #include "tests/program/labels_fixture.h"
 
 #include "app/active_document.h"
+#include "app/compute_document.h"
 #include "app/program.h"
 #include "engine/current.h"
 #include "engine/optional_entries.h"
@@ -95,13 +96,56 @@ TEST_P(ChangedZmanimTest, IsPaintedWithItsOwnNames) {
   ExpectPainted(Expected());
 }
 
-TEST_P(ChangedZmanimTest, AClickOnlyRepaintsAndTheNextOneMeansWhatIsSeen) {
+TEST_P(ChangedZmanimTest, AClickOnlyRepaints) {
   GetParam().happens();
   ClickCell({0, 1});
   EXPECT_THAT(CallsWith("message box"), IsEmpty());
   EXPECT_TRUE(GetUpdateRect(table_, nullptr, FALSE));
   EXPECT_TRUE(GetUpdateRect(legend_, nullptr, FALSE));
+  ClickCell({0, 1});  // the second click of a double click: nobody has seen yet what it would mean
+  EXPECT_THAT(CallsWith("message box"), IsEmpty());
   ExpectPainted(Expected());
+}
+
+TEST_P(ChangedZmanimTest, TheNextClickMeansWhatIsSeenAndOkStoresIt) {
+  GetParam().happens();
+  ExpectPainted(Expected());
+  CallLog().clear();
+  if (GetParam().times.empty()) {
+    WithDialog(
+        [this] {
+          PostClick({0, 1});
+        },
+        [](HWND dialog) {
+          EXPECT_EQ(FieldText(dialog, 102), GetParam().names[1]);
+          SetField(dialog, 103, "4");
+          SetField(dialog, 104, "44");
+          Click(dialog, IDOK);
+        });
+    EXPECT_THAT(CallsWith("own time set"),
+                ElementsAre("own time set Aachen|" + GetParam().names[1] + "|5.1.2007 = 4:44"));
+    Columns columns = Expected();
+    columns.times[1] = "<4:44>";
+    ExpectPainted(columns);
+  } else {  // built-in zmanim take no times
+    PostClick({0, 1});
+    EXPECT_THAT(CallsWith("message box"), SizeIs(1));
+    EXPECT_THAT(CallsWith("own time set"), IsEmpty());
+  }
+}
+
+// A click that waited while the calculation ran was meant for what was seen before.
+TEST_P(ChangedZmanimTest, AClickFromBeforeTheChangeMeansNothing) {
+  const POINT point = CellPoint({0, 1});
+  PostMessageA(table_, WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+  const DWORD posted = GetTickCount();
+  while (GetTickCount() == posted) continue;
+  GetParam().happens();
+  ExpectPainted(Expected());
+  CallLog().clear();
+  DispatchPendingMessages();
+  EXPECT_THAT(CallsWith("message box"), IsEmpty());
+  EXPECT_THAT(CallsWith("own time"), IsEmpty());
 }
 
 TEST_P(ChangedZmanimTest, IsExportedWithItsOwnNames) {
@@ -262,22 +306,55 @@ TEST_F(LabelsTest, OkRefusesATimeOfAZmanThatIsGone) {
   };
   editWhile([] { UseNames({"Beta", "Gamma"}); });
   UseNames({"Alpha"});
-  PaintAll();
-  CallLog().clear();
+  ExpectPainted(ColumnsOf({"Alpha"}));
   editWhile([] { Libraries().settings["shab30.ini|Settings|EnableZmanim"] = "0"; });
 }
 
-TEST_F(LabelsTest, WithoutMemoryADocumentHasNoZmanimAndNothingElseHappens) {
-  for (int failing = 1; failing <= 4; ++failing) {
+// The columns under the mouse are those that are painted, whatever the form of times is by now.
+TEST_F(LabelsTest, AClickAfterAnotherFormOfTimesOnlyRepaints) {
+  Libraries().amPm = true;
+  ClickCell({0, 1});
+  EXPECT_THAT(CallsWith("message box"), IsEmpty());
+  EXPECT_TRUE(GetUpdateRect(table_, nullptr, FALSE));
+  EXPECT_TRUE(GetUpdateRect(heading_, nullptr, FALSE));
+}
+
+TEST_F(LabelsTest, WithoutMemoryADocumentKeepsTimesAndNamesUntilThereIsSome) {
+  for (int failing = 1; failing <= 2; ++failing) {
     Select({"Alpha", "Beta"});
     ComputeDays(1);
     Select({"Beta", "Alpha"});
     System().failingBlock = failing;
-    PaintAll();
-    System().failingBlock = 0;
+    EXPECT_FALSE(RenewZmanim(document_)) << failing;
+    EXPECT_EQ(System().failingBlock, 0) << failing;
     EXPECT_EQ(System().locks, 0) << failing;
     EXPECT_THAT(CallsWith("freed"), IsEmpty()) << failing;
-    const bool hasZmanim = GetBlockProperty(document_, property::kZmanimTimes) != nullptr;
-    EXPECT_EQ(DrawsOf(table_).empty(), !hasZmanim) << failing;
+    ExpectPainted(ColumnsOf({"Beta", "Alpha"}));
   }
+}
+
+TEST_F(LabelsTest, ADocumentThatIsComputedWithoutMemoryIsEmptyAndHarmless) {
+  const std::size_t blocks = System().blocks.size();
+  for (int failing = 1; failing <= 4; ++failing) {
+    System().failingBlock = failing;
+    CalculateShabbatTimes(document_, 5, 1, 2007, 6, 1, 2007);
+    EXPECT_EQ(System().failingBlock, 0) << failing;
+    PaintAll();
+    EXPECT_EQ(System().locks, 0) << failing;
+    EXPECT_THAT(CallsWith("freed"), IsEmpty()) << failing;
+    EXPECT_LT(System().blocks.size(), blocks) << failing;
+    CalculateShabbatTimes(document_, 5, 1, 2007, 6, 1, 2007);
+    EXPECT_EQ(System().blocks.size(), blocks) << failing;
+  }
+}
+
+// Bytes of the display font in another font would be other letters.
+TEST_F(LabelsTest, WithoutTheHebrewFontTheLegendIsEnglish) {
+  Libraries().settings["shab30.ini|Zmanim|Hebrew"] = "1";
+  Libraries().brokenTexts.clear();
+  System().failingFont = 1;
+  DrawsOf(legend_);
+  EXPECT_EQ(System().failingFont, 0);
+  ASSERT_THAT(Libraries().brokenTexts, SizeIs(1));
+  EXPECT_THAT(Libraries().brokenTexts[0].text, testing::StartsWith("1 = Alpha"));
 }

@@ -177,6 +177,23 @@ TEST_F(PrintJobTest, OneJobIsPrintedAtATime) {
   EXPECT_THAT(CallsWith("print dialog"), SizeIs(1));
 }
 
+// Cancel lets the frame have input again before the job has ended.
+TEST_F(PrintJobTest, NoOtherJobStartsAfterCancelWhileTheFirstHasNotEnded) {
+  Printer().onStartPage = [this](int) {
+    SendMessageA(PrintAbort.dialog, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_TRUE(IsWindowEnabled(frame_));
+    SendMessageA(frame_, WM_COMMAND, IDM_PRINT, 0);
+  };
+  Printer().startPageAnswer = 0;
+  PrintPages(2);
+  EXPECT_THAT(CallsWith("print dialog"), SizeIs(1));
+  EXPECT_EQ(CallLog().back(), kCancelled);
+  Printer().onStartPage = nullptr;
+  Printer().startPageAnswer = 1;
+  Print();
+  EXPECT_THAT(CallsWith("print dialog"), SizeIs(2)) << "the next job is free to start";
+}
+
 TEST_F(PrintJobTest, ADocumentClosedMeanwhileIsPrintedWhole) {
   Printer().onStartPage = [this](int) { SendMessageA(frame_, WM_COMMAND, IDM_WINDOW_CLOSE_ALL, 0); };
   PrintPages(2);

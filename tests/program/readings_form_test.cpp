@@ -187,15 +187,34 @@ TEST_F(ReadingsFormTest, TheReadingsAreAskedForOfTheDocumentsRangeAndWithoutAWor
   EXPECT_THAT(CallsWith("message box"), IsEmpty());
 }
 
-TEST_F(ReadingsFormTest, WithoutMemoryForTheFormADocumentHasNoReadings) {
+TEST_F(ReadingsFormTest, WithoutMemoryADocumentKeepsReadingsAndFontUntilThereIsSome) {
   for (int failing = 1; failing <= 2; ++failing) {
+    Libraries().readings = {{"6.1.5767", {kEnglish}}};
     Libraries().readingsLanguage = 1;
+    Libraries().readingsFont = {};
     Compute();
     ChooseHebrew();
     System().failingBlock = failing;
-    EXPECT_THAT(DrawsOf(list_), IsEmpty()) << failing;
-    System().failingBlock = 0;
+    EXPECT_THAT(DrawsOf(list_), Drawn(kEnglish, "Times New Roman 0")) << failing;
+    EXPECT_EQ(System().failingBlock, 0) << failing;
     EXPECT_EQ(System().locks, 0) << failing;
     EXPECT_THAT(CallsWith("freed"), IsEmpty()) << failing;
+    EXPECT_THAT(DrawsOf(list_), Drawn(kHebrew, "David 0")) << failing;
   }
+}
+
+TEST_F(ReadingsFormTest, WithoutTheirFontReadingsAreNotDrawn) {
+  ChooseHebrew();
+  Compute();
+  System().failingFont = 1;
+  EXPECT_THAT(DrawsOf(list_), Not(Contains(Field(&Draw::text, kHebrew))));
+  EXPECT_EQ(System().failingFont, 0);
+  EXPECT_THAT(DrawsOf(list_), Drawn(kHebrew, "David 0"));
+}
+
+TEST_F(ReadingsFormTest, ALanguageWithoutReadingsInTheRangeLeavesNoneOfTheOther) {
+  Libraries().readings.clear();
+  Libraries().readingsLanguage = 4;
+  EXPECT_THAT(DrawsOf(list_), Not(Contains(Field(&Draw::text, kEnglish))));
+  EXPECT_FALSE(RenewReadings(document_));
 }

@@ -8,8 +8,7 @@
 #include "engine/core/clock_time.h"
 #include "engine/core/records.h"
 
-// A day has room for this many zmanim. Those beyond the number in use hold kNoTime, so that a document computed before
-// the selection grew shows none there.
+// A day has room for this many zmanim. Those beyond the number of the document's zmanim hold kNoTime.
 inline constexpr uint32_t kMostZmanim = 100;
 
 // Hours that are none, to be looked for in this order. The minute beside them means nothing.

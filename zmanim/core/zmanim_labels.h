@@ -18,11 +18,12 @@ struct ZmanLabel {
 struct ZmanimLabels {
   uint64_t selection;    // fingerprint of the user's selection; 0 for the built-in zmanim
   uint32_t fromLibrary;  // 1: the user's selection; 0: the built-in zmanim
-  uint32_t amPm;         // 1: the view is laid out for times of 12 hours
+  uint32_t amPm;         // 1: the view is laid out for times of 12 hours, whose columns are wider
+  uint32_t renewedAt;    // the tick at which the document got these labels in place of others; 0: it had none before
   uint32_t count;
   ZmanLabel zmanim[1];
 };
-static_assert(offsetof(ZmanimLabels, zmanim) == 20);
+static_assert(offsetof(ZmanimLabels, zmanim) == 24);
 
 // The size in bytes of a block of count zmanim.
 constexpr std::size_t ZmanimLabelsSize(uint32_t count) {
