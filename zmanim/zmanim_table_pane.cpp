@@ -30,13 +30,24 @@ HWND HeadingOf(HWND table) {
   return GetDlgItem(GetParent(table), IDC_ZMANIM_HEADING);
 }
 
+// What a document's view is measured and drawn by; properties are slow to get.
+struct ShownBlocks {
+  HGLOBAL times;
+  HGLOBAL labels;
+};
+
+ShownBlocks BlocksOf(HWND document) {
+  return {GetBlockProperty(document, property::kZmanimTimes), GetBlockProperty(document, property::kZmanimLabels)};
+}
+
 // The geometry in the font of the table, or, by its bold font, of the heading.
-ZmanimGeometry GeometryOf(HWND table, const char* font = property::kZmanimFont) {
-  const HWND document = DocumentOf(table);
+ZmanimGeometry GeometryOf(HWND table, const ShownBlocks& blocks, const char* font = property::kZmanimFont) {
   const ScopedWindowDc dc(table);
-  return MeasureZmanimTable(table, dc.dc(), GetFontProperty(document, font),
-                            GetBlockProperty(document, property::kZmanimTimes),
-                            GetBlockProperty(document, property::kZmanimLabels));
+  return MeasureZmanimTable(table, dc.dc(), GetFontProperty(DocumentOf(table), font), blocks.times, blocks.labels);
+}
+
+ZmanimGeometry GeometryOf(HWND table) {
+  return GeometryOf(table, BlocksOf(DocumentOf(table)));
 }
 
 void DrawText(HDC dc, const ZmanimGeometry& geometry, const PaneRect& cell, const std::string& text) {
@@ -56,13 +67,12 @@ void DrawDay(HDC dc, const ZmanimGeometry& geometry, uint32_t index, const Zmani
 void PaintTable(HWND table, HDC dc, const RECT& update) {
   const HWND document = DocumentOf(table);
   const HFONT font = GetFontProperty(document, property::kZmanimFont);
-  const HGLOBAL handle = GetBlockProperty(document, property::kZmanimTimes);
-  const ZmanimGeometry geometry =
-      MeasureZmanimTable(table, dc, font, handle, GetBlockProperty(document, property::kZmanimLabels));
+  const ShownBlocks blocks = BlocksOf(document);
+  const ZmanimGeometry geometry = MeasureZmanimTable(table, dc, font, blocks.times, blocks.labels);
   const PaneRect area{update.left, update.top, update.right - update.left, update.bottom - update.top};
   const ScopedSelect selectedFont(dc, font);
   const ScopedTextColors colors(dc, kBlack, kWhite);
-  const ScopedGlobalLock<const ZmanimBlock> block(handle);
+  const ScopedGlobalLock<const ZmanimBlock> block(blocks.times);
   const IndexRange days = geometry.DaysIn(area);
   for (uint32_t day = days.begin; day < days.end; ++day) DrawDay(dc, geometry, day, block->days[day], area);
 }
@@ -97,8 +107,9 @@ LRESULT OnHorizontalScroll(HWND table, int code, int thumb) {
   const int position = ScrolledPosition(*request, state);
   if (position == state.position) return 0;
   const HWND heading = HeadingOf(table);
-  MoveColumns(table, GeometryOf(table), state.position - position);
-  MoveColumns(heading, GeometryOf(table, property::kBoldZmanimFont), state.position - position);
+  const ShownBlocks blocks = BlocksOf(DocumentOf(table));
+  MoveColumns(table, GeometryOf(table, blocks), state.position - position);
+  MoveColumns(heading, GeometryOf(table, blocks, property::kBoldZmanimFont), state.position - position);
   SetScrollPos(table, SB_HORZ, position, TRUE);
   UpdateWindow(table);
   UpdateWindow(heading);

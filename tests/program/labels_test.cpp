@@ -290,7 +290,7 @@ TEST_F(LabelsTest, OkRefusesATimeOfAZmanThatIsGone) {
     CallLog().clear();
     WithDialog(
         [this] {
-          ClickCell({0, 0});
+          PostClick({0, 0});
         },
         [happens](HWND dialog) {
           happens();
