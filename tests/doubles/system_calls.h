@@ -39,12 +39,12 @@ struct SystemScript {
   HWND foundWindow;  // answer of FindWindow
   HWND foregroundWindow;
   int beeps;
-  int answer;                         // of message boxes with a question
-  std::string savedFile;              // chosen in a save dialog; empty: cancelled
-  SaveDialog saveDialog;              // the last one
+  int answer;                           // of message boxes with a question
+  std::string savedFile;                // chosen in a save dialog; empty: cancelled
+  SaveDialog saveDialog;                // the last one
   std::function<void()> whileSaving{};  // what happens while it is open
-  std::string missingLibrary;         // what LoadLibrary does not find ...
-  UINT_PTR missingLibraryHandle;      // ... and answers for it
+  std::string missingLibrary;           // what LoadLibrary does not find ...
+  UINT_PTR missingLibraryHandle;        // ... and answers for it
 
   DWORD saveDialogError;           // why a save dialog had no answer; 0: it was cancelled
   int failingWrites;               // of files, that are still to come
