@@ -300,6 +300,7 @@ BOOL GlyphsExtTextOut(HDC dc, int x, int y, UINT options, const RECT* rectangle,
 }
 
 int GlyphsDrawText(HDC dc, const char* text, int count, RECT* rectangle, UINT format) {
+  GetClipBox(dc, &Libraries().lastPaintedArea);
   Libraries().brokenTexts.push_back({rectangle->right - rectangle->left, rectangle->bottom - rectangle->top, format,
                                      std::string(text, static_cast<std::size_t>(count)), FontOf(dc)});
   return kDoubledTextHeight;

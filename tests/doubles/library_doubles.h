@@ -109,7 +109,7 @@ struct LibraryScript {
   std::vector<Draw> printedDraws;  // on the doubled printer, a device context of memory
   std::vector<BrokenText> brokenTexts;
   RECT lastClip{};         // of the last clipped draw
-  RECT lastPaintedArea{};  // what could be painted at it
+  RECT lastPaintedArea{};  // what could be painted at it, or at the last text that the library broke into lines
 };
 
 LibraryScript& Libraries();

@@ -198,8 +198,9 @@ BOOL WINAPI NotedGrayStringA(HDC dc, HBRUSH brush, GRAYSTRINGPROC procedure, LPA
 
 BOOL WINAPI CountedSetPropA(HWND window, LPCSTR name, HANDLE value) {
   static const auto real = REAL("user32.dll", SetPropA);
-  System().properties.insert(PropertyKey(window, name));
-  return real(window, name, value);
+  const BOOL set = real(window, name, value);
+  if (set) System().properties.insert(PropertyKey(window, name));
+  return set;
 }
 
 HANDLE WINAPI CountedRemovePropA(HWND window, LPCSTR name) {

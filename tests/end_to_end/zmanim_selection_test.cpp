@@ -1,4 +1,5 @@
 // Choosing zmanim in the finished program: what a new document shows, and how an older one follows.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -6,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/end_to_end/command_steps.h"
 #include "tests/end_to_end/program_driver.h"
 #include "tests/end_to_end/recorded_drawing.h"
 
@@ -15,6 +17,7 @@ namespace {
 
 constexpr unsigned kZmanimSelection = 1014;
 constexpr unsigned kZmanimView = 1112;
+constexpr unsigned kExportText = 1005;
 constexpr int kPreset = 111;
 constexpr int kUsePreset = 112;
 constexpr int kNineteen = 5;  // of the presets, from 0
@@ -84,6 +87,7 @@ class ZmanimSelectionTest : public testing::Test {
 
   TemporaryFolder settings_;
   TemporaryFolder program_;
+  TemporaryFolder exports_;
 };
 
 }  // namespace
@@ -138,6 +142,14 @@ TEST_F(ZmanimSelectionTest, SelectionChangedFromOutsideIsShownWithItsOwnTimes) {
     return FirstRow(ViewOf(program, document)) == std::vector<std::string>{before[1], before[0]};
   }));
   EXPECT_EQ(ColumnsOf(program, document), 2);
+
+  // Changed again and exported before anything is painted.
+  WriteFileText(settings_.path() / "hours.txt", "zman dawn-16.1\r\nzman dawn-72-min\r\n");
+  const fs::path file = exports_.path() / "zmanim.txt";
+  program.PostCommand(kExportText);
+  SaveAs(program, file);
+  EXPECT_TRUE(program.Eventually([&] { return ReadFileText(file).ends_with("\r\n\r\n"); }));
+  EXPECT_THAT(ReadFileText(file), testing::HasSubstr(" " + before[0] + " " + before[1] + "\r\n"));
 }
 
 TEST_F(ZmanimSelectionTest, CancelledSelectionOpensADocumentOfTheSameZmanim) {

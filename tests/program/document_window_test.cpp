@@ -243,6 +243,14 @@ TEST_F(DocumentWindowTest, DestructionFreesBlocksAndFontsAndRemovesEveryProperty
   EXPECT_THAT(CallsWith("freed"), IsEmpty());
 }
 
+// As when it was closed in a box that its calculation showed.
+TEST_F(DocumentWindowTest, AResultForADocumentThatHasGoneIsFreed) {
+  DestroyWindow(document_);
+  ReplaceBlockProperty(document_, property::kZmanimTimes, GlobalAlloc(GMEM_MOVEABLE, 4));
+  EXPECT_THAT(System().blocks, IsEmpty());
+  EXPECT_THAT(System().properties, IsEmpty());
+}
+
 TEST_F(DocumentWindowTest, DestroyedBeforeAnyCalculationItFreesNothingAndRemovesAllProperties) {
   const std::size_t blocks = System().blocks.size();
   const HWND second = OpenDocument(frame_);

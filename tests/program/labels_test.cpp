@@ -259,6 +259,15 @@ TEST_F(LabelsTest, AnotherFormOfTimesMovesNumbersAndTimesTogetherWhoeverSetIt) {
   EXPECT_EQ(numbers[2].x - numbers[1].x, ColumnWidth(10));
 }
 
+// Half of it could else be in the language of before.
+TEST_F(LabelsTest, TheLegendIsPaintedWhole) {
+  const RECT corner{0, 0, 5, 5};
+  RedrawWindow(legend_, &corner, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+  RECT client;
+  GetClientRect(legend_, &client);
+  EXPECT_TRUE(EqualRect(&Libraries().lastPaintedArea, &client));
+}
+
 TEST_F(LabelsTest, ShabbatTimesStayThoughTheirRulesHaveChanged) {
   const auto before = ShabbatTimesOf(document_);
   Libraries().settings["shabbat2.ini|Shabbat|CandleLighting"] = "40";
