@@ -24,7 +24,7 @@ Text Decoded(std::string_view bytes) {
   for (const char c : bytes) {
     const unsigned byte = static_cast<unsigned char>(c);
     const char16_t character = IsInTable(byte) ? kCharacters[byte - kFirst] : static_cast<char16_t>(byte);
-    text += static_cast<Text::value_type>(character);
+    text += static_cast<typename Text::value_type>(character);
   }
   return text;
 }
