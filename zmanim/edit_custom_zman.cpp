@@ -54,8 +54,8 @@ void ShowUnstored(HWND document, const ShownZman& zman, ClockTime time) {
 void ShowGone(HWND document, const ShownZman& zman, ClockTime time) {
   const std::string text = "The time " + ZmanTimeText(time) + " for \"" + zman.description + "\" on " +
                            DayText(zman.date) +
-                           " was not stored, because this zman is no longer in your selection.\nPlease add it to the "
-                           "selection and set the time again.";
+                           " was not stored, because this zman is not in use any more.\nPlease put it into your "
+                           "selection again, or leave the built-in zmanim, and set the time anew.";
   ShowStop(document, text.c_str(), "Error");
 }
 

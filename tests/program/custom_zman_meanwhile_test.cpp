@@ -71,7 +71,7 @@ TEST_F(CustomZmanMeanwhileTest, OfAZmanThatHasMovedItIsStoredAndShownByItsDescri
 TEST_F(CustomZmanMeanwhileTest, OfAZmanThatIsNoLongerSelectedItIsNotStoredAndTheUserIsTold) {
   EditWhile({3, 3}, [] { Libraries().zmanimCount = 2; });
   EXPECT_THAT(CallsWith("own time"), IsEmpty());
-  EXPECT_THAT(CallsWith("message box"), ElementsAre(testing::HasSubstr("is no longer in your selection")));
+  EXPECT_THAT(CallsWith("message box"), ElementsAre(testing::HasSubstr("is not in use any more")));
   EXPECT_EQ(TimeInBlock({3, 3}), (ClockTime{6, 30}));
 }
 

@@ -307,10 +307,13 @@ TEST_F(LabelsTest, OkRefusesATimeOfAZmanThatIsGone) {
           SetField(dialog, 104, "44");
           Click(dialog, IDOK);
         });
-    EXPECT_THAT(CallLog(),
-                ElementsAre("message box 'The time <4:44> for \"Alpha\" on 5.1.2007 was not stored, because this zman "
-                            "is no longer in your selection.\nPlease add it to the selection and set the time again.' "
-                            "caption 'Error' type 0x10 owner yes"));
+    EXPECT_THAT(
+        CallLog(),
+        ElementsAre(
+            "message box 'The time <4:44> for \"Alpha\" on 5.1.2007 was not stored, because this zman "
+            "is not in use any more.\nPlease put it into your selection again, or leave the built-in zmanim, and set "
+            "the time anew.' "
+            "caption 'Error' type 0x10 owner yes"));
     EXPECT_THAT(Libraries().ownTimes, IsEmpty());
   };
   editWhile([] { UseNames({"Beta", "Gamma"}); });
