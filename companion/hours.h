@@ -36,10 +36,10 @@ void HoursGetFingerprint(uint32_t fingerprint[2]);
 
 /* The zman in minutes after midnight of the Gregorian date, 0 to 1439, on the clock in force there, or HOURS_NONE.
  * A zman after midnight answers the clock time of the next civil day. Coordinates are packed (degrees * 100 + minutes,
- * negative for south and west); the zone is hours and minutes from UTC, both signed, of standard time. Sunrise and
- * sunset are the solar library's for the same day and place: sunrise, sunset and zmanim of whole minutes from them are
- * counted from these, all others from the exact moments. document is not used and may be null. Shows no window, writes
- * no file. */
+ * negative for south and west); the zone is hours and minutes from UTC of standard time, read as in solar.h. Sunrise
+ * and sunset are the solar library's for the same day and place: sunrise, sunset and zmanim of whole minutes from them
+ * are counted from these, all others from the exact moments. document is not used and may be null. Shows no window,
+ * writes no file. */
 int32_t HoursCalculate2(HWND document, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes,
                         uint32_t day, uint32_t month, uint32_t year, uint32_t index, int32_t sunriseHour,
                         int32_t sunriseMinute, int32_t sunsetHour, int32_t sunsetMinute);

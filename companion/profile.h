@@ -3,9 +3,10 @@
  * A file given by bare name lives in the program's settings folder; a name with a path is used as it stands. Texts are
  * 8-bit bytes and pass through unchanged; a file saved as UTF-16 is read as text of the code page. Section and key
  * names are compared without regard to ASCII letter case; blanks around names and values mean nothing; of several
- * sections or keys of a name the first counts. Own writes are seen at once, those of other processes after at most
- * 50 ms; a file that cannot be read answers the defaults, or what was last seen of it. Writes are atomic and serialised
- * between processes. No operation shows a window. */
+ * sections or keys of a name the first counts, but the first of exactly the spelling asked for before all others. Own
+ * writes are seen at once, those of other processes after at most 50 ms; a file that cannot be read answers the
+ * defaults, or what was last seen of it. Writes are atomic and serialised between processes. No operation shows a
+ * window. */
 #ifndef TIMES_READINGS_COMPANION_PROFILE_H
 #define TIMES_READINGS_COMPANION_PROFILE_H
 

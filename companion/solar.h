@@ -1,7 +1,8 @@
 /* SOLAR.DLL: sunrise and sunset, and the built-in places. The program binds it by name (interface version 256).
  *
  * Places: latitude and longitude are packed, degrees x 100 + minutes, negative for south and west (-3352 is 33 degrees
- * 52 minutes south). The zone is its standard offset from UTC, hours x 60 + minutes, both signed (St. John's: -3, -30).
+ * 52 minutes south). The zone is its standard offset from UTC in hours and minutes; the hours' sign leads, so that (-3,
+ * 30) and (-3, -30) are both 3:30 behind (St. John's: -3, 30); with hours 0 the minutes' own sign counts.
  *
  * Every operation survives any argument: a date that does not exist means the nearest one of its month and year (years
  * 1 to 9999), a latitude beyond a pole the pole, a longitude wraps, a zone ends at 24 hours. None shows a window; none

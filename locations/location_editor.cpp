@@ -1,5 +1,7 @@
 #include "locations/location_editor.h"
 
+#include <commctrl.h>
+
 #include <cstdlib>
 #include <cstring>
 #include <optional>
@@ -9,6 +11,7 @@
 #include "engine/string_table.h"
 #include "locations/core/location_texts.h"
 #include "locations/core/packed_coordinate.h"
+#include "locations/core/place_names.h"
 #include "locations/location_lookup.h"
 #include "locations/location_store.h"
 #include "resources/ids.h"
@@ -23,6 +26,7 @@ constexpr uint32_t kFirstRefusedLatitude = 66;
 struct Editing {
   char* name;  // of kTextSize bytes
   bool adding;
+  int32_t builtInZoneMinutes;  // what the field of the zone's minutes means while it is empty
 };
 
 Editing& EditingOf(HWND dialog) {
@@ -45,26 +49,24 @@ void ShowUserLocation(HWND dialog, const char* name) {
                 {IDC_LOCATION_LONGITUDE_MINUTES, "LongitudeHours"},
                 {IDC_LOCATION_ZONE_HOURS, "TimeZone"},
                 {IDC_LOCATION_ZONE_MINUTES, "TimeZoneMin"}};
-  int32_t numbers[std::size(fields)];
-  for (std::size_t i = 0; i < std::size(fields); ++i) {
-    const std::string text = ReadLocationText(name, fields[i].key);
-    SetDlgItemTextA(dialog, fields[i].field, text.c_str());
-    numbers[i] = LeadingInteger(text);
-  }
+  for (const auto& [field, key] : fields) SetDlgItemTextA(dialog, field, ReadLocationText(name, key).c_str());
   CheckHemispheres(dialog, LeadingInteger(ReadLocationText(name, "LatitudeFlag")) != 0,
                    LeadingInteger(ReadLocationText(name, "LongitudeFlag")) != 0);
 
   // Deliberate: the default elevation is looked for without regard to hemispheres here.
-  const auto number = [&numbers](std::size_t i) { return static_cast<uint32_t>(numbers[i]); };
-  const std::string key = ElevationKey(number(0), number(1), number(2), number(3), numbers[4], numbers[5]);
-  const int32_t byDefault = DefaultElevation(PackCoordinate(numbers[0], numbers[1], false),
-                                             PackCoordinate(numbers[2], numbers[3], false), numbers[4]);
-  SetDlgItemInt(dialog, IDC_LOCATION_ELEVATION, static_cast<UINT>(ReadElevation(key, byDefault)), FALSE);
+  const ElevationPlace place = ReadElevationPlace(name);
+  const auto packed = [](uint32_t degrees, uint32_t minutes) {
+    return PackCoordinate(static_cast<int32_t>(degrees), static_cast<int32_t>(minutes), false);
+  };
+  const int32_t byDefault = DefaultElevation(packed(place.latitudeDegrees, place.latitudeMinutes),
+                                             packed(place.longitudeDegrees, place.longitudeMinutes), place.zoneHours);
+  SetDlgItemInt(dialog, IDC_LOCATION_ELEVATION, static_cast<UINT>(ReadElevation(place, byDefault)), FALSE);
 }
 
-void ShowBuiltInLocation(HWND dialog, const char* name) {
+// The field of the zone's minutes stays empty, but tells what it then means.
+void ShowBuiltInLocation(HWND dialog, Editing& editing) {
   Location location{};
-  std::strcpy(location.name, name);
+  std::strcpy(location.name, editing.name);
   LookUpLocation(location);
   const auto show = [dialog](int degreesField, int minutesField, int32_t packed) {
     SetDlgItemInt(dialog, degreesField, static_cast<UINT>(std::abs(packed / 100)), FALSE);
@@ -74,12 +76,16 @@ void ShowBuiltInLocation(HWND dialog, const char* name) {
   show(IDC_LOCATION_LONGITUDE_DEGREES, IDC_LOCATION_LONGITUDE_MINUTES, location.longitude);
   CheckHemispheres(dialog, location.latitude < 0, location.longitude < 0);
   SetDlgItemInt(dialog, IDC_LOCATION_ZONE_HOURS, static_cast<UINT>(location.zoneHours), TRUE);
+  editing.builtInZoneMinutes = location.zoneMinutes;
+  const std::wstring minutes = std::to_wstring(location.zoneMinutes);
+  SendDlgItemMessageW(dialog, IDC_LOCATION_ZONE_MINUTES, EM_SETCUEBANNER, TRUE,
+                      reinterpret_cast<LPARAM>(minutes.c_str()));
   SetDlgItemInt(dialog, IDC_LOCATION_ELEVATION, 0, FALSE);
 }
 
 LRESULT OnInitDialog(HWND dialog, LPARAM parameter) {
   SetWindowLongPtrA(dialog, DWLP_USER, parameter);
-  const Editing& editing = EditingOf(dialog);
+  Editing& editing = EditingOf(dialog);
   SetWindowTextA(dialog, TableString(editing.adding ? IDS_ADD_LOCATION : IDS_CHANGE_LOCATION));
   SendDlgItemMessageA(dialog, IDC_LOCATION_NAME, EM_LIMITTEXT, kTextSize - 1, 0);
   SetDlgItemTextA(dialog, IDC_LOCATION_NAME, editing.name);
@@ -88,13 +94,26 @@ LRESULT OnInitDialog(HWND dialog, LPARAM parameter) {
   } else if (IsUserLocation(editing.name)) {
     ShowUserLocation(dialog, editing.name);
   } else {
-    ShowBuiltInLocation(dialog, editing.name);
+    ShowBuiltInLocation(dialog, editing);
   }
   return TRUE;
 }
 
-// Deliberate: a field that holds no number stops the save without a message; only the latitude's range is reported, and
-// zone fields that hold no number are 0.
+// Empty, the field means the minutes that the place had; what is no number is not taken for one.
+std::optional<int32_t> ReadZoneMinutes(HWND dialog) {
+  if (GetWindowTextLengthA(GetDlgItem(dialog, IDC_LOCATION_ZONE_MINUTES)) == 0) {
+    return EditingOf(dialog).builtInZoneMinutes;
+  }
+  const auto minutes = ReadSigned(dialog, IDC_LOCATION_ZONE_MINUTES);
+  if (!minutes) {
+    ShowFieldError(dialog, IDC_LOCATION_ZONE_MINUTES,
+                   "The minutes of the time zone are not a number. Please type 0, 30 or 45, for instance.");
+  }
+  return minutes;
+}
+
+// Deliberate: most fields that hold no number stop the save without a message, and hours of the zone that are no number
+// are 0.
 std::optional<StoredLocation> ReadFields(HWND dialog) {
   const auto latitudeDegrees = ReadUnsigned(dialog, IDC_LOCATION_LATITUDE_DEGREES);
   if (!latitudeDegrees) return std::nullopt;
@@ -106,6 +125,8 @@ std::optional<StoredLocation> ReadFields(HWND dialog) {
   const auto longitudeDegrees = ReadUnsigned(dialog, IDC_LOCATION_LONGITUDE_DEGREES);
   const auto longitudeMinutes = ReadUnsigned(dialog, IDC_LOCATION_LONGITUDE_MINUTES);
   if (!latitudeMinutes || !longitudeDegrees || !longitudeMinutes) return std::nullopt;
+  const auto zoneMinutes = ReadZoneMinutes(dialog);
+  if (!zoneMinutes) return std::nullopt;
   return StoredLocation{.latitudeDegrees = *latitudeDegrees,
                         .latitudeMinutes = *latitudeMinutes,
                         .south = IsDlgButtonChecked(dialog, IDC_LOCATION_NORTH) != BST_CHECKED,
@@ -113,7 +134,7 @@ std::optional<StoredLocation> ReadFields(HWND dialog) {
                         .longitudeMinutes = *longitudeMinutes,
                         .west = IsDlgButtonChecked(dialog, IDC_LOCATION_EAST) != BST_CHECKED,
                         .zoneHours = ReadSigned(dialog, IDC_LOCATION_ZONE_HOURS).value_or(0),
-                        .zoneMinutes = ReadSigned(dialog, IDC_LOCATION_ZONE_MINUTES).value_or(0)};
+                        .zoneMinutes = *zoneMinutes};
 }
 
 // The name becomes a key and a section of the settings files.
@@ -122,29 +143,51 @@ bool IsStorableName(const char* name) {
          name[std::strlen(name) - 1] != ' ';
 }
 
-void OnSave(HWND dialog) {
-  Editing& editing = EditingOf(dialog);
+// The name as typed; nothing, after a message, when no place may have it. Names stand in RTF files, where some
+// characters are commands; a place that has them in its name already keeps it.
+std::optional<std::string> ReadName(HWND dialog, const char* previous) {
   char name[kTextSize];
   GetDlgItemTextA(dialog, IDC_LOCATION_NAME, name, sizeof name);
+  const char* complaint = nullptr;
   if (!IsStorableName(name)) {
-    ShowFieldError(dialog, IDC_LOCATION_NAME,
-                   "Please type a name of the location that does not begin or end with a space, does not begin with ; "
-                   "and does not contain = [ or ].");
-    return;
+    complaint =
+        "Please type a name of the location that does not begin or end with a space, does not begin with ; and does "
+        "not contain = [ or ].";
+  } else if (std::strpbrk(name, "{}\\") && std::strcmp(name, previous) != 0) {
+    complaint = "Please type a name of the location that does not contain { } or \\.";
   }
-  if (editing.adding && IsUserLocation(name) && !Ask(dialog, TableString(IDS_OVERWRITE_CITY), TableString(IDS_TITLE))) {
-    return;
-  }
+  if (!complaint) return name;
+  ShowFieldError(dialog, IDC_LOCATION_NAME, complaint);
+  return std::nullopt;
+}
+
+// The name that the place will have; nothing when the user does not want to replace the place that has it. A place
+// whose name differs from the typed one in letter case alone is the one that the settings files would answer for.
+std::optional<std::string> NameToSave(HWND dialog, const Editing& editing, const std::string& typed) {
+  const std::string name = SpellingInStore(typed, editing.name, UserLocationNames(), BuiltInLocationNames());
+  const bool replaces = name != typed || (editing.adding && IsUserLocation(name.c_str()));
+  if (replaces && !Ask(dialog, TableString(IDS_OVERWRITE_CITY), TableString(IDS_TITLE))) return std::nullopt;
+  return name;
+}
+
+void OnSave(HWND dialog) {
+  Editing& editing = EditingOf(dialog);
+  const auto typed = ReadName(dialog, editing.name);
+  if (!typed) return;
+  const auto name = NameToSave(dialog, editing, *typed);
+  if (!name) return;
   const auto location = ReadFields(dialog);
+  if (!location) return;
   const auto elevation = ReadUnsigned(dialog, IDC_LOCATION_ELEVATION);
-  if (!location || !elevation) return;
+  if (!elevation) return;
 
   bool written = editing.name[0] == '\0' || DeleteUserLocation(editing.name);
-  std::strcpy(editing.name, name);
-  written = WriteUserLocation(name, *location) && written;
-  const std::string key = ElevationKey(location->latitudeDegrees, location->latitudeMinutes, location->longitudeDegrees,
-                                       location->longitudeMinutes, location->zoneHours, location->zoneMinutes);
-  if (!written || !WriteElevation(key, *elevation)) {
+  std::strcpy(editing.name, name->c_str());
+  editing.adding = false;  // should a write fail, the next try changes what this one has left
+  written = WriteUserLocation(editing.name, *location) && written;
+  const ElevationPlace elevated = {location->latitudeDegrees,  location->latitudeMinutes, location->longitudeDegrees,
+                                   location->longitudeMinutes, location->zoneHours,       location->zoneMinutes};
+  if (!written || !WriteElevation(elevated, *elevation)) {
     ShowUnwritableSettings(dialog, written ? kElevationFile : kLocationsFile);
     return;
   }
@@ -170,6 +213,6 @@ LRESULT Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 bool RunLocationEditor(HWND owner, char (&name)[kTextSize]) {
-  Editing editing{.name = name, .adding = name[0] == '\0'};
+  Editing editing{.name = name, .adding = name[0] == '\0', .builtInZoneMinutes = 0};
   return RunDialog<Handle>(owner, "EDITLOC", reinterpret_cast<LPARAM>(&editing)) == 1;
 }

@@ -4,45 +4,61 @@
 #include <cstring>
 
 #include "engine/bound_entries.h"
+#include "locations/core/place_names.h"
 #include "locations/location_store.h"
 
 namespace {
 
-// The settings do not tell letter case apart, names of places do: a place of the user's own whose name differs in
-// letter case is another place.
-bool IsOverridden(const char* name) {
-  if (!IsUserLocation(name)) return false;
-  const std::vector<std::string> names = UserLocationNames();
-  return std::find(names.begin(), names.end(), name) != names.end();
+// Numbers and name of a built-in place.
+void ReadBuiltIn(uint32_t index, char (&name)[kTextSize], Location& location) {
+  name[0] = '\0';
+  Solar.SolarGetBuiltInLocation(index, name, &location.latitude, &location.longitude, &location.zoneHours,
+                                &location.zoneMinutes);
 }
 
 bool FindBuiltIn(Location& location) {
   const uint32_t count = Solar.SolarGetCountOfBuiltInLocations();
   for (uint32_t index = 0; index < count; ++index) {
-    char name[kTextSize] = "";
-    Solar.SolarGetBuiltInLocation(index, name, &location.latitude, &location.longitude, &location.zoneHours,
-                                  &location.zoneMinutes);
-    if (std::strcmp(name, location.name) == 0) return !IsOverridden(location.name);
+    char name[kTextSize];
+    ReadBuiltIn(index, name, location);
+    if (std::strcmp(name, location.name) == 0) return true;
   }
   return false;
 }
 
-bool FindUserLocation(Location& location) {
-  for (const std::string& name : UserLocationNames()) {
+// The own place of exactly the wanted name is the last one read, or the last of all when there is none.
+bool FindUserLocation(const std::vector<std::string>& names, Location& location) {
+  for (const std::string& name : names) {
     ReadUserLocation(name.c_str(), location);
     if (name == location.name) return true;
   }
-  return false;
+  const std::string* const meant = NameMeant(names, location.name);
+  if (!meant) return false;
+  ReadUserLocation(meant->c_str(), location);
+  std::strcpy(location.name, meant->c_str());
+  return true;
 }
 
 }  // namespace
 
 LocationSource LookUpLocation(Location& location) {
-  if (FindBuiltIn(location)) return LocationSource::kBuiltIn;
-  return FindUserLocation(location) ? LocationSource::kUser : LocationSource::kNowhere;
+  const std::vector<std::string> names = UserLocationNames();
+  const bool isOverridden = std::ranges::find(names, location.name) != names.end();
+  if (FindBuiltIn(location) && !isOverridden) return LocationSource::kBuiltIn;
+  return FindUserLocation(names, location) ? LocationSource::kUser : LocationSource::kNowhere;
+}
+
+std::vector<std::string> BuiltInLocationNames() {
+  std::vector<std::string> names(Solar.SolarGetCountOfBuiltInLocations());
+  for (uint32_t index = 0; index < names.size(); ++index) {
+    char name[kTextSize];
+    Location location{};
+    ReadBuiltIn(index, name, location);
+    names[index] = name;
+  }
+  return names;
 }
 
 void TakeFirstBuiltInLocation(Location& location) {
-  Solar.SolarGetBuiltInLocation(0, location.name, &location.latitude, &location.longitude, &location.zoneHours,
-                                &location.zoneMinutes);
+  ReadBuiltIn(0, location.name, location);
 }

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <cstring>
-#include <set>
 #include <string>
+#include <vector>
 
-#include "engine/bound_entries.h"
 #include "engine/current.h"
 #include "engine/properties.h"
 #include "engine/string_table.h"
@@ -17,8 +16,11 @@
 #include "win/dialog.h"
 #include "win/local_date.h"
 #include "win/message_box.h"
+#include "win/scoped.h"
 
 namespace {
+
+constexpr int kParameterLineUnits = 10;  // the height of its static in the template
 
 LRESULT ListMessage(HWND dialog, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
   return SendDlgItemMessageA(dialog, IDC_LOCATIONS_LIST, message, wParam, lParam);
@@ -32,12 +34,15 @@ int SelectedIndex(HWND dialog) {
   return static_cast<int>(ListMessage(dialog, LB_GETCURSEL));
 }
 
-bool ReadSelectedName(HWND dialog, char (&name)[kTextSize]) {
-  const int index = SelectedIndex(dialog);
+bool ReadName(HWND dialog, int index, char (&name)[kTextSize]) {
   if (index == LB_ERR || ListMessage(dialog, LB_GETTEXTLEN, static_cast<WPARAM>(index)) >= LRESULT{kTextSize}) {
     return false;
   }
   return ListMessage(dialog, LB_GETTEXT, static_cast<WPARAM>(index), name) != LB_ERR;
+}
+
+bool ReadSelectedName(HWND dialog, char (&name)[kTextSize]) {
+  return ReadName(dialog, SelectedIndex(dialog), name);
 }
 
 // The place is taken whole, numbers included, so that its name never stands over the numbers of another place.
@@ -54,18 +59,27 @@ void TakeSettingsOf(HWND document) {
 }
 
 void AddNames(HWND dialog) {
-  std::set<std::string> builtIn;
-  const uint32_t count = Solar.SolarGetCountOfBuiltInLocations();
-  for (uint32_t index = 0; index < count; ++index) {
-    Location place{};
-    Solar.SolarGetBuiltInLocation(index, place.name, &place.latitude, &place.longitude, &place.zoneHours,
-                                  &place.zoneMinutes);
-    builtIn.insert(place.name);
-    ListMessage(dialog, LB_ADDSTRING, 0, place.name);
-  }
+  const std::vector<std::string> builtIn = BuiltInLocationNames();
+  for (const std::string& name : builtIn) ListMessage(dialog, LB_ADDSTRING, 0, name.c_str());
   for (const std::string& name : UserLocationNames()) {
-    if (!builtIn.contains(name)) ListMessage(dialog, LB_ADDSTRING, 0, name.c_str());
+    if (std::ranges::find(builtIn, name) == builtIn.end()) ListMessage(dialog, LB_ADDSTRING, 0, name.c_str());
   }
+}
+
+// The index of the name spelled exactly so, else of the first that the list finds whatever its letter case; LB_ERR when
+// there is neither.
+int FindName(HWND dialog, const char* name) {
+  const auto find = [&](int after) {
+    return static_cast<int>(ListMessage(dialog, LB_FINDSTRINGEXACT, static_cast<WPARAM>(after), name));
+  };
+  const int first = find(-1);
+  int index = first;
+  do {
+    char found[kTextSize];
+    if (index != LB_ERR && ReadName(dialog, index, found) && std::strcmp(found, name) == 0) return index;
+    index = find(index);
+  } while (index != first);
+  return first;
 }
 
 // A hidden button must not keep the focus, nor answer to its mnemonic.
@@ -78,14 +92,45 @@ void ShowRemoveButton(HWND dialog, bool show) {
   ShowWindow(button, show ? SW_SHOW : SW_HIDE);
 }
 
+RECT PlaceInDialog(HWND dialog, int control) {
+  RECT place;
+  GetWindowRect(GetDlgItem(dialog, control), &place);
+  MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+// As the parameter line's static breaks it.
+int HeightOfText(HWND text, const std::string& line, int width) {
+  const ScopedWindowDc window(text);
+  const ScopedSelect font(window.dc(), reinterpret_cast<HFONT>(SendMessageA(text, WM_GETFONT, 0, 0)));
+  RECT area{0, 0, width, 0};
+  DrawTextA(window.dc(), line.c_str(), -1, &area, DT_CALCRECT | DT_WORDBREAK | DT_EDITCONTROL | DT_NOPREFIX);
+  return area.bottom;
+}
+
+// A line that is too long for the static gets the height that it needs; the list above gives way.
+void ShowParameterLine(HWND dialog, const std::string& line) {
+  const HWND text = GetDlgItem(dialog, IDC_LOCATIONS_PARAMETERS);
+  const RECT list = PlaceInDialog(dialog, IDC_LOCATIONS_LIST);
+  const RECT old = PlaceInDialog(dialog, IDC_LOCATIONS_PARAMETERS);
+  RECT usual{0, 0, 0, kParameterLineUnits};
+  MapDialogRect(dialog, &usual);
+  const int width = old.right - old.left;
+  const int height = std::max<int>(HeightOfText(text, line, width), usual.bottom);
+  const int listHeight = list.bottom - list.top + (old.bottom - old.top) - height;
+  MoveWindow(text, old.left, old.bottom - height, width, height, TRUE);
+  MoveWindow(GetDlgItem(dialog, IDC_LOCATIONS_LIST), list.left, list.top, list.right - list.left, listHeight, TRUE);
+  SetWindowTextA(text, line.c_str());
+}
+
 void RefreshParameterLine(HWND dialog) {
   Location location{};
   if (!ReadSelectedName(dialog, location.name)) return;
   const LocationSource source = LookUpLocation(location);
   ShowRemoveButton(dialog, source != LocationSource::kBuiltIn);
-  const int32_t elevation = ReadElevation(ElevationKey(location),
+  const int32_t elevation = ReadElevation(ElevationPlaceOf(location),
                                           DefaultElevation(location.latitude, location.longitude, location.zoneHours));
-  SetDlgItemTextA(dialog, IDC_LOCATIONS_PARAMETERS, ParameterLine(location, elevation).c_str());
+  ShowParameterLine(dialog, ParameterLine(location, elevation));
 }
 
 HWND DocumentOf(HWND dialog) {
@@ -97,7 +142,7 @@ void FillList(HWND dialog) {
   ListMessage(dialog, LB_RESETCONTENT);
   AddNames(dialog);
   TakeSettingsOf(DocumentOf(dialog));
-  const LRESULT index = ListMessage(dialog, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), CurrentLocation.name);
+  const int index = FindName(dialog, CurrentLocation.name);
   if (index != LB_ERR) ListMessage(dialog, LB_SETCURSEL, static_cast<WPARAM>(index));
   ListMessage(dialog, WM_SETREDRAW, TRUE);
   InvalidateRect(GetDlgItem(dialog, IDC_LOCATIONS_LIST), nullptr, TRUE);
@@ -137,12 +182,11 @@ void OnEdit(HWND dialog, bool adding) {
 
 void OnRemove(HWND dialog) {
   const int index = SelectedIndex(dialog);
-  Location location{};
-  if (!ReadSelectedName(dialog, location.name)) return;
+  char name[kTextSize];
+  if (!ReadSelectedName(dialog, name)) return;
   if (!Ask(dialog, TableString(IDS_REMOVE_CITY), TableString(IDS_TITLE))) return;
-  ReadUserLocation(location.name, location);
-  const bool elevation = WriteElevation(ElevationKey(location), 0);
-  if (!DeleteUserLocation(location.name) || !elevation) ShowUnwritableSettings(dialog, kLocationsFile);
+  const bool elevation = WriteElevation(ReadElevationPlace(name), 0);
+  if (!DeleteUserLocation(name) || !elevation) ShowUnwritableSettings(dialog, kLocationsFile);
   RefillList(dialog, index);
 }
 

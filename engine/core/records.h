@@ -12,7 +12,8 @@ static_assert(sizeof(CalendarDate) == 12);
 inline constexpr std::size_t kTextSize = 256;
 
 // A place for which times are computed. Coordinates are packed, degrees x 100 + minutes, negative for south and west;
-// the zone's offset from UTC is zoneHours x 60 + zoneMinutes minutes, both signed. The solar library wants them so.
+// the zone's offset from UTC is zoneHours x 60 minutes and zoneMinutes more in the direction of the hours' sign
+// (without hours, of their own). The solar library wants them so.
 struct Location {
   char name[kTextSize];
   int32_t latitude;

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "libraries/calendar/gregorian.h"
+#include "libraries/sun/places.h"
 
 namespace candles {
 namespace {
@@ -148,7 +149,10 @@ std::string PlaceMeant(const std::string& typed, const std::vector<std::string>&
   const auto isKnown = [&known](std::string_view place) { return std::ranges::find(known, place) != known.end(); };
   if (isKnown(typed)) return typed;
   const std::string_view trimmed = Trimmed(typed);
-  return isKnown(trimmed) ? std::string(trimmed) : typed;
+  if (isKnown(trimmed)) return std::string(trimmed);
+  const auto like = [trimmed](const std::string& place) { return sun::DifferInCaseOnly(place, trimmed); };
+  const auto found = std::ranges::find_if(known, like);
+  return found == known.end() ? typed : *found;
 }
 
 }  // namespace candles

@@ -51,8 +51,8 @@ std::optional<TypedTime> ReadTime(std::string_view text);
 // the north end Shabbat after midnight, so earlier ones may be meant as they stand.
 bool MayMeanEvening(const TypedTime& time);
 
-// The place that a typed text names: without the blanks around it when that is one of the known places, else as it
-// stands.
+// The place that a typed text names, the blanks around it aside: the known place spelled so, else the first one that
+// differs from it in ASCII letter case alone. What names no known place stands as typed.
 std::string PlaceMeant(const std::string& typed, const std::vector<std::string>& known);
 
 }  // namespace candles

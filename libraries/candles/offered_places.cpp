@@ -32,14 +32,18 @@ std::vector<char> KeyList() {
 }  // namespace
 
 std::vector<std::string> OfferedPlaces(const Entries& entries) {
-  std::set<std::string> places;
-  for (const sun::BuiltInPlace& place : sun::BuiltInPlaces()) places.insert(place.name);
+  std::vector<std::string> places;
+  std::set<std::string> known;
+  const auto add = [&](const std::string& place) {
+    if (known.insert(place).second) places.push_back(place);
+  };
   const std::vector<char> keys = KeyList();
   for (const char* key = keys.data(); *key; key += std::strlen(key) + 1) {
-    if (HasValue(key)) places.insert(key);
+    if (HasValue(key)) add(key);
   }
-  for (const auto& [occasion, times] : entries) places.insert(occasion.place);
-  return {places.begin(), places.end()};
+  for (const sun::BuiltInPlace& place : sun::BuiltInPlaces()) add(place.name);
+  for (const auto& [occasion, times] : entries) add(occasion.place);
+  return places;
 }
 
 }  // namespace candles

@@ -8,8 +8,8 @@
 
 namespace candles {
 
-// The built-in places, those of the user's own ("shabbat2.ini", section "Locations", keys that have a value), and those
-// of the entries, each once, as spelled.
+// The places of the user's own ("shabbat2.ini", section "Locations", keys that have a value), then the built-in ones
+// and those of the entries, each once, as spelled.
 std::vector<std::string> OfferedPlaces(const Entries& entries);
 
 }  // namespace candles

@@ -9,6 +9,7 @@
 #include <unordered_set>
 
 #include "libraries/sun/places.h"
+#include "libraries/sun/zone_offset.h"
 
 namespace placepick {
 namespace {
@@ -20,13 +21,6 @@ constexpr char kPlacesFile[] = "shabloc2.ini";
 
 // The list of keys is read in one piece of this many bytes; keys beyond it are not seen.
 constexpr uint32_t kKeyListSize = 20480;
-
-std::string LowerCase(std::string text) {
-  for (char& c : text) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return text;
-}
 
 std::string ReadText(const sun::SettingsReader& reader, const char* section, const char* key, const char* file) {
   std::array<char, kNameSize> text = {};
@@ -88,10 +82,10 @@ std::vector<Place> KnownPlaces(const sun::SettingsReader& reader) {
   std::unordered_set<std::string> names;
   for (const std::string& name : ReadKeys(reader)) {
     if (name.size() >= kNameSize || ReadText(reader, kListSection, name.c_str(), kListFile).empty()) continue;
-    if (names.insert(LowerCase(name)).second) places.push_back(ReadUsersPlace(reader, name));
+    if (names.insert(name).second) places.push_back(ReadUsersPlace(reader, name));
   }
   for (const sun::BuiltInPlace& place : sun::BuiltInPlaces()) {
-    if (names.contains(LowerCase(place.name))) continue;
+    if (names.contains(place.name)) continue;
     places.push_back(
         {place.name, place.packedLatitude, place.packedLongitude, place.zoneHours, place.zoneMinutes, false});
   }
@@ -107,7 +101,7 @@ std::string LongitudeText(int32_t packedLongitude) {
 }
 
 std::string ZoneText(int32_t zoneHours, int32_t zoneMinutes) {
-  const int64_t offsetMinutes = int64_t{zoneHours} * 60 + zoneMinutes;
+  const int64_t offsetMinutes = sun::StandardOffsetMinutes(zoneHours, zoneMinutes);
   if (offsetMinutes == 0) return "GMT";
   const int64_t magnitude = std::abs(offsetMinutes);
   char text[32];

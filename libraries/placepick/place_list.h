@@ -20,14 +20,14 @@ struct Place {
   // Packed as degrees x 100 + minutes of arc, negative for south and west; of the user's own any numbers.
   int32_t packedLatitude;
   int32_t packedLongitude;
-  // Both signed, their sum is the standard offset from UTC.
+  // The standard zone, read as zone_offset.h says.
   int32_t zoneHours;
   int32_t zoneMinutes;
   bool isUsersOwn;
 };
 
-// The user's places in the order of their list, then the built-in ones; each name once, ASCII letter case aside,
-// because INI files do not tell such names apart and a place of the user's own takes precedence.
+// The user's places in the order of their list, then the built-in ones; each name once, as spelled: a place of
+// the user's own takes precedence over the built-in one of its name.
 std::vector<Place> KnownPlaces(const sun::SettingsReader& reader);
 
 // "50°47' N" and "6°05' E".

@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include "libraries/dialogs/windows_1252.h"
+#include "libraries/sun/places.h"
 
 namespace placepick {
 namespace {
@@ -108,11 +109,14 @@ std::optional<std::size_t> PlaceIndex::Named(std::string_view name) const {
   const auto first = std::ranges::lower_bound(
       entries_, folded, {}, [](const Entry& entry) -> const std::u16string& { return entry.folded.text; });
   if (first == entries_.end() || first->folded.text != folded) return std::nullopt;
-  auto found = first;
-  for (auto like = first; like != entries_.end() && like->folded.text == folded; ++like) {
-    if (like->place.name == name) found = like;
+  const auto end = std::find_if(first, entries_.end(), [&](const Entry& entry) { return entry.folded.text != folded; });
+  auto found = std::find_if(first, end, [name](const Entry& entry) { return entry.place.name == name; });
+  if (found == end) {
+    found = std::find_if(first, end, [name](const Entry& entry) {
+      return entry.place.isUsersOwn && sun::DifferInCaseOnly(entry.place.name, name);
+    });
   }
-  return static_cast<std::size_t>(found - entries_.begin());
+  return static_cast<std::size_t>((found == end ? first : found) - entries_.begin());
 }
 
 std::vector<std::size_t> PlaceIndex::Matching(std::u16string_view typed) const {

@@ -30,7 +30,8 @@ class PlaceIndex {
   std::size_t Size() const { return entries_.size(); }
   const Place& operator[](std::size_t number) const { return entries_[number].place; }
 
-  // The place of that name; if there is none, the one whose name differs in letters' case and accents only.
+  // The place of that name; if there is none, the one of the user's own whose name differs in ASCII letter case only,
+  // or one whose name differs in letters' case and accents only.
   std::optional<std::size_t> Named(std::string_view name) const;
 
   // The numbers of the places of which each typed word begins some word; all when no word is typed.

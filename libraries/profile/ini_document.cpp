@@ -85,7 +85,10 @@ IniDocument::Line IniDocument::LineAt(size_t begin) const {
 
 void IniDocument::AddSection(const Line& line, std::string_view name, size_t commentsAbove) {
   if (!sections_.empty()) sections_.back().end = commentsAbove;
-  if (!name.empty()) sectionByName_.emplace(name, sections_.size());
+  if (!name.empty()) {
+    const auto first = sectionByName_.emplace(name, sections_.size()).first;
+    if (first->first != name) sectionByOtherSpelling_.emplace(name, sections_.size());
+  }
   sections_.push_back({name, line, text_.size(), keys_.size(), keys_.size()});
 }
 
@@ -95,20 +98,36 @@ void IniDocument::AddKey(const Line& line, size_t equalsSign) {
   if (name.empty()) return;
   const size_t valueBegin = std::min(upToLineEnd.find_first_not_of(kBlanks, equalsSign + 1), line.end);
   const std::string_view value = Trimmed(upToLineEnd.substr(valueBegin));
-  keyById_.emplace(KeyId{sections_.size() - 1, name}, keys_.size());
+  const KeyId id{sections_.size() - 1, name};
+  const auto first = keyById_.emplace(id, keys_.size()).first;
+  if (first->first.name != name) keyByOtherSpelling_.emplace(std::pair(id.section, name), keys_.size());
   keys_.push_back({name, value, line, valueBegin});
   sections_.back().keysEnd = keys_.size();
 }
 
+std::optional<size_t> IniDocument::FindSectionIndex(std::string_view name) const {
+  name = Trimmed(name);
+  if (const auto exact = sectionByOtherSpelling_.find(name); exact != sectionByOtherSpelling_.end()) {
+    return exact->second;
+  }
+  const auto found = sectionByName_.find(name);
+  if (found == sectionByName_.end()) return std::nullopt;
+  return found->second;
+}
+
 const IniDocument::Section* IniDocument::FindSection(std::string_view name) const {
-  const auto found = sectionByName_.find(Trimmed(name));
-  return found == sectionByName_.end() ? nullptr : &sections_[found->second];
+  const auto found = FindSectionIndex(name);
+  return found ? &sections_[*found] : nullptr;
 }
 
 const IniDocument::Key* IniDocument::FindKey(std::string_view section, std::string_view key) const {
-  const auto inSection = sectionByName_.find(Trimmed(section));
-  if (inSection == sectionByName_.end()) return nullptr;
-  const auto found = keyById_.find({inSection->second, Trimmed(key)});
+  const auto inSection = FindSectionIndex(section);
+  if (!inSection) return nullptr;
+  key = Trimmed(key);
+  if (const auto exact = keyByOtherSpelling_.find({*inSection, key}); exact != keyByOtherSpelling_.end()) {
+    return &keys_[exact->second];
+  }
+  const auto found = keyById_.find({*inSection, key});
   return found == keyById_.end() ? nullptr : &keys_[found->second];
 }
 

@@ -11,15 +11,18 @@
 //   nothing.
 // - In other lines the name before the first "=" and the value behind it stand without the blanks around them. Names
 //   are never empty.
-// - Names are told apart without regard to ASCII letter case; the first section and the first key of a name counts.
+// - Names are told apart without regard to ASCII letter case, and the first section and the first key of a name counts;
+//   but where a name stands in several spellings, the first of exactly the spelling asked for does.
 // - Names and values end at a zero byte. All other bytes pass through as they are.
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace profile {
@@ -83,6 +86,7 @@ class IniDocument {
   Line LineAt(size_t begin) const;
   void AddSection(const Line& line, std::string_view name, size_t commentsAbove);
   void AddKey(const Line& line, size_t equalsSign);
+  std::optional<size_t> FindSectionIndex(std::string_view name) const;
   const Section* FindSection(std::string_view name) const;
   const Key* FindKey(std::string_view section, std::string_view key) const;
   std::string WithLine(size_t at, std::string_view line) const;
@@ -93,6 +97,9 @@ class IniDocument {
   std::vector<Key> keys_;
   std::unordered_map<std::string_view, size_t, NameHash, SameName> sectionByName_;
   std::unordered_map<KeyId, size_t, NameHash, SameName> keyById_;
+  // By further spellings of a name that the indexes above know in its first one; keys by section and spelling.
+  std::map<std::string_view, size_t> sectionByOtherSpelling_;
+  std::map<std::pair<size_t, std::string_view>, size_t> keyByOtherSpelling_;
 };
 
 }  // namespace profile

@@ -8,6 +8,7 @@
 
 #include "libraries/sun/clock_rules_table.h"
 #include "libraries/sun/places.h"
+#include "libraries/sun/zone_offset.h"
 
 namespace sun {
 namespace {
@@ -92,14 +93,14 @@ std::optional<int32_t> UtcOffsetSeconds(std::string_view zoneId, int64_t unixSec
 }
 
 const char* NearestZone(int32_t packedLatitude, int32_t packedLongitude, int32_t zoneHours, int32_t zoneMinutes) {
-  const int64_t offsetMinutes = int64_t{zoneHours} * 60 + zoneMinutes;
+  const int64_t offsetMinutes = StandardOffsetMinutes(zoneHours, zoneMinutes);
   const UnitVector here = DirectionOf(packedLatitude, packedLongitude);
   const std::span<const BuiltInPlace> places = BuiltInPlaces();
   const std::vector<UnitVector>& directions = PlaceDirections();
   const char* nearest = nullptr;
   double greatestCosine = -2;  // of the angle between the two places; below every cosine
   for (size_t i = 0; i < places.size(); ++i) {
-    if (places[i].zoneHours * 60 + places[i].zoneMinutes != offsetMinutes) continue;
+    if (StandardOffsetMinutes(places[i].zoneHours, places[i].zoneMinutes) != offsetMinutes) continue;
     const double cosine = here.x * directions[i].x + here.y * directions[i].y + here.z * directions[i].z;
     if (cosine > greatestCosine) {
       greatestCosine = cosine;

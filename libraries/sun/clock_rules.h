@@ -15,8 +15,8 @@ bool IsKnownZone(std::string_view zoneId);
 // unknown zone or a moment before 1970. Takes about 0.1 microseconds.
 std::optional<int32_t> UtcOffsetSeconds(std::string_view zoneId, int64_t unixSeconds);
 
-// The zone of the built-in place that is nearest by great circle among those whose standard offset (hours * 60 +
-// minutes) is the given one; null when there is none. Coordinates are packed as in BuiltInPlace; any numbers are
+// The zone of the built-in place that is nearest by great circle among those whose standard offset is the given one
+// (zone_offset.h); null when there is none. Coordinates are packed as in BuiltInPlace; any numbers are
 // survived.
 const char* NearestZone(int32_t packedLatitude, int32_t packedLongitude, int32_t zoneHours, int32_t zoneMinutes);
 

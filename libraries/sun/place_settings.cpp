@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 #include <string_view>
 
 #include "libraries/sun/clock_rules.h"
@@ -35,13 +36,27 @@ bool IsOff(const PlaceTexts& texts) {
   return EqualsIgnoringCase(texts.mode.data(), "Off");
 }
 
-// By the place's key.
-PlaceTexts ReadTexts(const SettingsReader& reader, const PackedPlace& place, const char* key) {
+int32_t ReadElevation(const SettingsReader& reader, const PackedPlace& place, const PlaceKey& key,
+                      const PlaceKey& otherKey) {
   const bool hasOwnDefault = place.latitude == 4854 && place.longitude == 842 && place.zoneHours == 1;
+  const int32_t byDefault = hasOwnDefault ? 263 : 0;
+  const auto read = [&reader](const PlaceKey& of, int32_t otherwise) {
+    return reader.readInt(kElevationSection, of.data(), otherwise, kElevationFile);
+  };
+  if (otherKey[0] == '\0') return read(key, byDefault);
+  constexpr int32_t kMissing = std::numeric_limits<int32_t>::min();
+  const int32_t metres = read(key, kMissing);
+  return metres != kMissing ? metres : read(otherKey, byDefault);
+}
+
+PlaceTexts ReadTexts(const SettingsReader& reader, const PackedPlace& place, const PlaceKey& key,
+                     const PlaceKey& otherKey) {
   PlaceTexts texts = {};
-  texts.elevationMetres = reader.readInt(kElevationSection, key, hasOwnDefault ? 263 : 0, kElevationFile);
+  texts.elevationMetres = ReadElevation(reader, place, key, otherKey);
   texts.mode = ReadClockText(reader, "Mode");
-  if (!IsOff(texts)) texts.zone = ReadClockText(reader, key);
+  if (IsOff(texts)) return texts;
+  texts.zone = ReadClockText(reader, key.data());
+  if (texts.zone[0] == '\0' && otherKey[0] != '\0') texts.zone = ReadClockText(reader, otherKey.data());
   return texts;
 }
 
@@ -62,25 +77,34 @@ PlaceSettings SettingsOf(const PackedPlace& place, const PlaceTexts& texts) {
 
 }  // namespace
 
-std::array<char, 80> PlaceKey(const PackedPlace& place) {
-  std::array<char, 80> key = {};
+PlaceKey KeyOf(const PackedPlace& place) {
+  PlaceKey key = {};
   std::snprintf(key.data(), key.size(), "%d-%d-%d-%d-%d-%d", std::abs(place.latitude / 100),
                 std::abs(place.latitude % 100), std::abs(place.longitude / 100), std::abs(place.longitude % 100),
                 place.zoneHours, place.zoneMinutes);
   return key;
 }
 
+PlaceKey OtherKeyOf(const PackedPlace& place) {
+  constexpr int32_t kHasNoOpposite = std::numeric_limits<int32_t>::min();
+  if (place.zoneHours == 0 || place.zoneMinutes == 0 || place.zoneMinutes == kHasNoOpposite) return {};
+  PackedPlace other = place;
+  other.zoneMinutes = -place.zoneMinutes;
+  return KeyOf(other);
+}
+
 PlaceSettings ReadPlaceSettings(const SettingsReader& reader, const PackedPlace& place) {
-  return SettingsOf(place, ReadTexts(reader, place, PlaceKey(place).data()));
+  return SettingsOf(place, ReadTexts(reader, place, KeyOf(place), OtherKeyOf(place)));
 }
 
 const PlaceSettings& KnownPlace::Read(const SettingsReader& reader, const PackedPlace& place) {
   const bool isSamePlace = place == place_;
   if (!isSamePlace) {
     place_.reset();
-    key_ = PlaceKey(place);
+    key_ = KeyOf(place);
+    otherKey_ = OtherKeyOf(place);
   }
-  const PlaceTexts texts = ReadTexts(reader, place, key_.data());
+  const PlaceTexts texts = ReadTexts(reader, place, key_, otherKey_);
   if (!isSamePlace || texts != texts_) settings_ = SettingsOf(place, texts);
   place_ = place;
   texts_ = texts;

@@ -4,7 +4,9 @@
 //   solar.ini             [SummerTime]  Mode=Automatic|Off   <place key>=zone id of the tz database, or none
 //
 // The place key is "%d-%d-%d-%d-%d-%d" of latitude degrees and minutes, longitude degrees and minutes (without their
-// signs), zone hours and zone minutes (with theirs).
+// signs), zone hours and zone minutes (with theirs). What is missing under a place's key is looked for under that of
+// the same zone with the minutes' other sign: (-3, 30) and (-3, -30) are one zone, and built-in places once had the
+// second form.
 #pragma once
 
 #include <array>
@@ -16,7 +18,7 @@
 namespace sun {
 
 // A place as programs hand it over: coordinates packed as degrees x 100 + minutes, negative for south and west; the
-// standard zone as hours and minutes, both signed. Any numbers.
+// standard zone as hours and minutes, read as zone_offset.h says. Any numbers.
 struct PackedPlace {
   int32_t latitude;
   int32_t longitude;
@@ -54,9 +56,13 @@ struct PlaceTexts {
   bool operator==(const PlaceTexts&) const = default;
 };
 
-std::array<char, 80> PlaceKey(const PackedPlace& place);
+using PlaceKey = std::array<char, 80>;
 
-// Everything an answer needs, by at most three reads.
+PlaceKey KeyOf(const PackedPlace& place);
+// With the minutes' other sign; empty when that would be another zone, or the same key.
+PlaceKey OtherKeyOf(const PackedPlace& place);
+
+// Everything an answer needs, by at most three reads, or five for zones of hours and minutes.
 //
 // An elevation below the sea counts as none. One place has an elevation where the settings name none: 48 degrees 54'
 // north, 8 degrees 42' east, zone 1, 263 metres. The zone is the one that the settings name; where they name none or
@@ -72,7 +78,8 @@ class KnownPlace {
 
  private:
   std::optional<PackedPlace> place_;
-  std::array<char, 80> key_;  // of place_
+  PlaceKey key_;       // of place_
+  PlaceKey otherKey_;  // of place_
   PlaceTexts texts_;
   PlaceSettings settings_;  // by place_ and texts_
 };

@@ -1,10 +1,12 @@
 #include "libraries/sun/places.h"
 
+#include <algorithm>
+
 namespace sun {
 namespace {
 
 // Coordinates: GeoNames (geonames.org, CC BY 4.0), the centre of the place to the minute of arc. Zones: the tz
-// database, release 2026f, and the standard offset that it gives for 2027. Where neighbours of the same offset follow
+// database, release 2026f, and the lower offset of their standing rules. Where neighbours of the same offset follow
 // different rules of summer time (Phoenix and Albuquerque, Palermo and Tunis, Las Palmas and Dakar), both are listed,
 // because a place of the user's own takes the rules of the nearest one here.
 // clang-format off
@@ -88,7 +90,7 @@ constexpr BuiltInPlace kPlaces[] = {
     {"Halifax", 4439, -6334, -4, 0, "America/Halifax"},
     {"Hamburg", 5333, 1000, 1, 0, "Europe/Berlin"},
     {"Hamilton (Bermuda)", 3218, -6447, -4, 0, "Atlantic/Bermuda"},
-    {"Havana", 2308, -8223, -4, 0, "America/Havana"},
+    {"Havana", 2308, -8223, -5, 0, "America/Havana"},
     {"Helsinki", 6010, 2456, 2, 0, "Europe/Helsinki"},
     {"Hobart", -4253, 14720, 10, 0, "Australia/Hobart"},
     {"Hong Kong", 2217, 11409, 8, 0, "Asia/Hong_Kong"},
@@ -197,7 +199,7 @@ constexpr BuiltInPlace kPlaces[] = {
     {"Shanghai", 3113, 12127, 8, 0, "Asia/Shanghai"},
     {"Singapore", 117, 10351, 8, 0, "Asia/Singapore"},
     {"Sofia", 4242, 2319, 2, 0, "Europe/Sofia"},
-    {"St. John's", 4734, -5243, -3, -30, "America/St_Johns"},
+    {"St. John's", 4734, -5243, -3, 30, "America/St_Johns"},
     {"St. Louis", 3838, -9012, -6, 0, "America/Chicago"},
     {"St. Petersburg", 5956, 3019, 3, 0, "Europe/Moscow"},
     {"Stockholm", 5920, 1804, 1, 0, "Europe/Stockholm"},
@@ -241,6 +243,11 @@ constexpr BuiltInPlace kPlaces[] = {
 
 std::span<const BuiltInPlace> BuiltInPlaces() {
   return kPlaces;
+}
+
+bool DifferInCaseOnly(std::string_view left, std::string_view right) {
+  constexpr auto lowerCase = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  return left != right && std::ranges::equal(left, right, {}, lowerCase, lowerCase);
 }
 
 }  // namespace sun

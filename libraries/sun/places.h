@@ -3,11 +3,13 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 namespace sun {
 
 // Latitude and longitude are packed: degrees * 100 + minutes of arc, negative for south and west. The standard zone is
-// hours and minutes east of UTC, both signed (St. John's -3 and -30). zoneId is the zone's name in the tz database.
+// hours east of UTC with their sign, and minutes without one (St. John's -3 and 30; zone_offset.h). zoneId is the
+// zone's name in the tz database.
 struct BuiltInPlace {
   const char* name;  // windows-1252, plain ASCII as it happens
   int32_t packedLatitude;
@@ -20,5 +22,9 @@ struct BuiltInPlace {
 // In alphabetical order of the names, letters' case aside. Never empty; the first serves where a place is unknown. All
 // lie between 65 degrees south and north.
 std::span<const BuiltInPlace> BuiltInPlaces();
+
+// Whether names of places differ in ASCII letter case alone. Such names are two places; but a name that no place has
+// exactly means the place of the user's own that differs from it so, since the settings files, too, answer for that.
+bool DifferInCaseOnly(std::string_view left, std::string_view right);
 
 }  // namespace sun

@@ -7,6 +7,7 @@
 #include "libraries/sun/angles.h"
 #include "libraries/sun/fast_sine.h"
 #include "libraries/sun/solar_position.h"
+#include "libraries/sun/zone_offset.h"
 
 namespace sun {
 namespace {
@@ -119,7 +120,7 @@ Site SiteFromPacked(int32_t packedLatitude, int32_t packedLongitude, int32_t zon
   constexpr int64_t kMostOffsetMinutes = 24 * 60;
   const double latitudeDegrees = std::clamp(DegreesFromPacked(packedLatitude), -90.0, 90.0);
   const double longitudeDegrees = std::remainder(DegreesFromPacked(packedLongitude), 360.0);
-  const int64_t offsetMinutes = int64_t{zoneHours} * 60 + zoneMinutes;
+  const int64_t offsetMinutes = StandardOffsetMinutes(zoneHours, zoneMinutes);
   return {kRadiansPerDegree * latitudeDegrees, kRadiansPerDegree * longitudeDegrees,
           static_cast<int32_t>(std::clamp(offsetMinutes, -kMostOffsetMinutes, kMostOffsetMinutes))};
 }

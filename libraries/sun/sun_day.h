@@ -19,8 +19,9 @@ struct Site {
   int32_t standardOffsetMinutes;  // of the standard clock from UTC
 };
 
-// Latitude and longitude packed as degrees x 100 + minutes, negative for south and west; zone hours x 60 + minutes,
-// both signed. Any numbers: latitudes beyond a pole mean the pole, longitudes wrap, offsets end at 24 hours.
+// Latitude and longitude packed as degrees x 100 + minutes, negative for south and west; the zone
+// read as zone_offset.h says. Any numbers: latitudes beyond a pole mean the pole, longitudes wrap, offsets end at 24
+// hours.
 Site SiteFromPacked(int32_t packedLatitude, int32_t packedLongitude, int32_t zoneHours, int32_t zoneMinutes);
 
 // Days since 1970-01-01 of a Gregorian date. Any numbers: years end at 1 and 9999, months at 1 and 12, days at 1 and

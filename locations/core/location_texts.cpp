@@ -2,6 +2,8 @@
 
 #include <cinttypes>
 #include <cstdio>
+#include <cstdlib>
+#include <limits>
 
 namespace {
 
@@ -15,12 +17,14 @@ Degrees Unpack(int32_t packed) {
   return {magnitude / 100, magnitude % 100};
 }
 
-std::string ZoneText(int32_t hours, int32_t minutes) {
+// The hours' sign holds for the minutes too, whatever theirs is; without hours they have their own.
+std::string ZoneText(int32_t hours, int32_t signedMinutes) {
+  const int64_t minutes = hours != 0 ? std::abs(int64_t{signedMinutes}) : signedMinutes;
   char text[48];
   int length = 0;
   if (hours != 0) length = std::snprintf(text, sizeof text, hours > 0 ? "+%" PRId32 : "%" PRId32, hours);
   if (minutes != 0) {
-    std::snprintf(text + length, sizeof text - static_cast<std::size_t>(length), ":%02" PRId32, minutes);
+    std::snprintf(text + length, sizeof text - static_cast<std::size_t>(length), ":%02" PRId64, minutes);
   } else {
     text[length] = '\0';
   }
@@ -29,19 +33,27 @@ std::string ZoneText(int32_t hours, int32_t minutes) {
 
 }  // namespace
 
-std::string ElevationKey(uint32_t latitudeDegrees, uint32_t latitudeMinutes, uint32_t longitudeDegrees,
-                         uint32_t longitudeMinutes, int32_t zoneHours, int32_t zoneMinutes) {
+ElevationPlace ElevationPlaceOf(const Location& location) {
+  const Degrees latitude = Unpack(location.latitude);
+  const Degrees longitude = Unpack(location.longitude);
+  return {latitude.degrees,  latitude.minutes,   longitude.degrees,
+          longitude.minutes, location.zoneHours, location.zoneMinutes};
+}
+
+std::string ElevationKey(const ElevationPlace& place) {
   char key[96];
   std::snprintf(key, sizeof key, "%" PRIu32 "-%" PRIu32 "-%" PRIu32 "-%" PRIu32 "-%" PRId32 "-%" PRId32,
-                latitudeDegrees, latitudeMinutes, longitudeDegrees, longitudeMinutes, zoneHours, zoneMinutes);
+                place.latitudeDegrees, place.latitudeMinutes, place.longitudeDegrees, place.longitudeMinutes,
+                place.zoneHours, place.zoneMinutes);
   return key;
 }
 
-std::string ElevationKey(const Location& location) {
-  const Degrees latitude = Unpack(location.latitude);
-  const Degrees longitude = Unpack(location.longitude);
-  return ElevationKey(latitude.degrees, latitude.minutes, longitude.degrees, longitude.minutes, location.zoneHours,
-                      location.zoneMinutes);
+std::string OtherElevationKey(const ElevationPlace& place) {
+  constexpr int32_t kHasNoOpposite = std::numeric_limits<int32_t>::min();
+  if (place.zoneHours == 0 || place.zoneMinutes == 0 || place.zoneMinutes == kHasNoOpposite) return {};
+  ElevationPlace other = place;
+  other.zoneMinutes = -place.zoneMinutes;
+  return ElevationKey(other);
 }
 
 int32_t DefaultElevation(int32_t packedLatitude, int32_t packedLongitude, int32_t zoneHours) {

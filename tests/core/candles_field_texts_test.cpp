@@ -125,7 +125,14 @@ TEST(CandlesFieldTexts, BlanksAroundAPlaceCountOnlyWhereNoneIsKnownWithoutThem) 
   EXPECT_EQ(PlaceMeant(" Jerusalem ", known), "Jerusalem");
   EXPECT_EQ(PlaceMeant(" Odd ", known), " Odd ");
   EXPECT_EQ(PlaceMeant(" Elsewhere ", known), " Elsewhere ");
-  EXPECT_EQ(PlaceMeant("jerusalem", known), "jerusalem");
+}
+
+TEST(CandlesFieldTexts, APlaceInOtherLettersIsTheFirstKnownOneThatDiffersInTheirCaseAlone) {
+  const std::vector<std::string> known = {"jerusalem", "Z\xFCrich", "Jerusalem"};
+  EXPECT_EQ(PlaceMeant("Jerusalem", known), "Jerusalem");
+  EXPECT_EQ(PlaceMeant("JERUSALEM ", known), "jerusalem");
+  EXPECT_EQ(PlaceMeant("z\xFCRICH", known), "Z\xFCrich");
+  EXPECT_EQ(PlaceMeant("Z\xDCRICH", known), "Z\xDCRICH");
 }
 
 }  // namespace

@@ -77,10 +77,21 @@ TEST(IniDocument, FirstOfSeveralKeysOrSectionsCounts) {
   EXPECT_EQ(ValueOf(text, "A", "y"), "(none)");
 }
 
+TEST(IniDocument, OfSeveralSpellingsTheOneAskedForCounts) {
+  const std::string text = "[Home]\r\nx=1\r\nX=2\r\nx=3\r\nX=4\r\n[HOME]\r\nx=5\r\n[home]\r\nx=6\r\n[HOME]\r\nx=7\r\n";
+  EXPECT_EQ(ValueOf(text, "Home", "x"), "1");
+  EXPECT_EQ(ValueOf(text, "Home", "X"), "2");
+  EXPECT_EQ(ValueOf(text, "HOME", "x"), "5");
+  EXPECT_EQ(ValueOf(text, "HOME", "X"), "5");
+  EXPECT_EQ(ValueOf(text, "home", "x"), "6");
+  EXPECT_EQ(ValueOf(text, "hOME", "x"), "1");
+}
+
 TEST(IniDocument, ListsNamesInOrderWithRepeats) {
   const IniDocument document("[A]\r\nx=1\r\nX=2\r\ny=\r\n[B]\r\n[a]\r\nz=3\r\n");
   EXPECT_EQ(document.SectionNames(), "A\0B\0a\0"s);
-  EXPECT_EQ(document.KeyNames("a"), "x\0X\0y\0"s);
+  EXPECT_EQ(document.KeyNames("A"), "x\0X\0y\0"s);
+  EXPECT_EQ(document.KeyNames("a"), "z\0"s);
   EXPECT_EQ(document.KeyNames("B"), "");
   EXPECT_EQ(document.KeyNames("C"), std::nullopt);
 }

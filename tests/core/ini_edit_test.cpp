@@ -34,6 +34,14 @@ TEST(IniEdit, ReplacesTheFirstOfSeveral) {
   EXPECT_EQ(Set("[A]\r\nx=1\r\nx=2\r\n[A]\r\nx=3\r\n", "A", "x", "9"), "[A]\r\nx=9\r\nx=2\r\n[A]\r\nx=3\r\n");
 }
 
+TEST(IniEdit, OfSeveralSpellingsTouchesTheOneAskedFor) {
+  const std::string text = "[A]\r\nhome=1\r\nHome=2\r\n[a]\r\nx=3\r\n";
+  EXPECT_EQ(Set(text, "A", "Home", "5"), "[A]\r\nhome=1\r\nHome=5\r\n[a]\r\nx=3\r\n");
+  EXPECT_EQ(Set(text, "a", "x", "5"), "[A]\r\nhome=1\r\nHome=2\r\n[a]\r\nx=5\r\n");
+  EXPECT_EQ(DropKey(text, "A", "Home"), "[A]\r\nhome=1\r\n[a]\r\nx=3\r\n");
+  EXPECT_EQ(DropSection(text, "a"), "[A]\r\nhome=1\r\nHome=2\r\n");
+}
+
 TEST(IniEdit, AddsAKeyAfterTheLastOfItsSection) {
   EXPECT_EQ(Set("[A]\r\nx=1\r\n\r\n; about B\r\n[B]\r\ny=2\r\n", "A", "n", "v"),
             "[A]\r\nx=1\r\nn=v\r\n\r\n; about B\r\n[B]\r\ny=2\r\n");

@@ -4,11 +4,24 @@
 #include <gtest/gtest.h>
 
 TEST(ElevationKey, HasDegreesAndMinutesWithoutHemispheres) {
-  EXPECT_EQ(ElevationKey({"A", 3249, 3459, 2, 0}), "32-49-34-59-2-0");
-  EXPECT_EQ(ElevationKey({"B", -3249, -3459, 2, 0}), "32-49-34-59-2-0");
-  EXPECT_EQ(ElevationKey({"C", 4734, -5243, -3, -30}), "47-34-52-43--3--30");
-  EXPECT_EQ(ElevationKey({"D", -30, 5, 0, 0}), "0-30-0-5-0-0");
-  EXPECT_EQ(ElevationKey({"E", INT32_MIN, INT32_MAX, 0, 0}), "21474836-48-21474836-47-0-0");
+  const auto keyOf = [](const Location& location) { return ElevationKey(ElevationPlaceOf(location)); };
+  EXPECT_EQ(keyOf({"A", 3249, 3459, 2, 0}), "32-49-34-59-2-0");
+  EXPECT_EQ(keyOf({"B", -3249, -3459, 2, 0}), "32-49-34-59-2-0");
+  EXPECT_EQ(keyOf({"C", 4734, -5243, -3, -30}), "47-34-52-43--3--30");
+  EXPECT_EQ(keyOf({"D", -30, 5, 0, 0}), "0-30-0-5-0-0");
+  EXPECT_EQ(keyOf({"E", INT32_MIN, INT32_MAX, 0, 0}), "21474836-48-21474836-47-0-0");
+}
+
+TEST(ElevationKey, HasAnotherFormWithTheMinutesOtherSign) {
+  EXPECT_EQ(OtherElevationKey({47, 34, 52, 43, -3, 30}), "47-34-52-43--3--30");
+  EXPECT_EQ(OtherElevationKey({47, 34, 52, 43, -3, -30}), "47-34-52-43--3-30");
+  EXPECT_EQ(OtherElevationKey({19, 4, 72, 53, 5, 30}), "19-4-72-53-5--30");
+}
+
+TEST(ElevationKey, HasNoOtherFormWhereThatIsTheSameOrAnotherZone) {
+  EXPECT_EQ(OtherElevationKey({32, 49, 34, 59, 2, 0}), "");
+  EXPECT_EQ(OtherElevationKey({32, 49, 34, 59, 0, 30}), "");
+  EXPECT_EQ(OtherElevationKey({32, 49, 34, 59, 1, INT32_MIN}), "");
 }
 
 TEST(DefaultElevation, IsKnownForOnePlaceNorthAndEast) {
@@ -26,7 +39,12 @@ TEST(ParameterLine, TellsCoordinatesZoneAndElevation) {
 
 TEST(ParameterLine, MinutesOfTheZoneStandWhateverTheHours) {
   EXPECT_EQ(ParameterLine({"Home", 3249, 3459, 0, 30}, 0), "Home: 32,49N  34,59E  GMT:30, no elevation");
-  EXPECT_EQ(ParameterLine({"Home", 3249, 3459, -3, -30}, 0), "Home: 32,49N  34,59E  GMT-3:-30, no elevation");
+  EXPECT_EQ(ParameterLine({"Home", 3249, 3459, 0, -30}, 0), "Home: 32,49N  34,59E  GMT:-30, no elevation");
+}
+
+TEST(ParameterLine, MinutesOfTheZoneGoTheWayOfItsHours) {
+  EXPECT_EQ(ParameterLine({"Home", 3249, 3459, -3, -30}, 0), "Home: 32,49N  34,59E  GMT-3:30, no elevation");
+  EXPECT_EQ(ParameterLine({"Home", 3249, 3459, 5, -30}, 0), "Home: 32,49N  34,59E  GMT+5:30, no elevation");
 }
 
 TEST(ParameterLine, HoldsTheLongestName) {

@@ -207,16 +207,25 @@ TEST_F(PlaceList, NumbersThatAreMissingOrNoneAreZeroAndHugeOnesAreCut) {
   EXPECT_EQ(places[0].zoneMinutes, INT32_MIN);
 }
 
-TEST_F(PlaceList, PlaceOfTheUsersOwnTakesTheBuiltInOnesPlaceWhateverItsCase) {
-  settings.locations = {{"Jerusalem", "Available"}, {"lonDON", "Available"}};
+TEST_F(PlaceList, PlaceOfTheUsersOwnTakesTheBuiltInOnesPlace) {
+  settings.locations = {{"Jerusalem", "Available"}};
   const std::vector<Place> places = Known();
   EXPECT_EQ(places.size(), sun::BuiltInPlaces().size());
-  for (const char* name : {"Jerusalem", "lonDON"}) {
-    const auto isIt = [name](const Place& place) { return place.name == name; };
-    EXPECT_EQ(std::ranges::count_if(places, isIt), 1) << name;
-    EXPECT_TRUE(std::ranges::find_if(places, isIt)->isUsersOwn) << name;
+  const auto isIt = [](const Place& place) { return place.name == "Jerusalem"; };
+  EXPECT_EQ(std::ranges::count_if(places, isIt), 1);
+  EXPECT_TRUE(std::ranges::find_if(places, isIt)->isUsersOwn);
+}
+
+TEST_F(PlaceList, PlaceOfTheUsersOwnInOtherLettersStandsBesideTheBuiltInOne) {
+  settings.locations = {{"jerusalem", "Available"}, {"Home", "Available"}, {"HOME", "Available"}};
+  EXPECT_EQ(Known().size(), sun::BuiltInPlaces().size() + 3);
+  const PlaceIndex index(Known());
+  for (const char* name : {"jerusalem", "Jerusalem", "Home", "HOME"}) {
+    ASSERT_TRUE(index.Named(name)) << name;
+    EXPECT_EQ(index[*index.Named(name)].name, name);
   }
-  EXPECT_FALSE(std::ranges::any_of(places, [](const Place& place) { return place.name == "London"; }));
+  EXPECT_EQ(index[*index.Named("JERUSALEM")].name, "jerusalem");
+  EXPECT_EQ(index[*index.Named("LONDON")].name, "London");
 }
 
 TEST_F(PlaceList, KeyWithAnEmptyValueIsNoPlaceAndHidesNone) {
@@ -226,7 +235,7 @@ TEST_F(PlaceList, KeyWithAnEmptyValueIsNoPlaceAndHidesNone) {
 }
 
 TEST_F(PlaceList, RepeatedNameIsListedOnce) {
-  settings.locations = {{"Home", "Available"}, {"Home", "Available"}, {"HOME", "Available"}};
+  settings.locations = {{"Home", "Available"}, {"Home", "Available"}};
   const std::vector<Place> places = UsersOwn();
   ASSERT_EQ(places.size(), 1u);
   EXPECT_EQ(places[0].name, "Home");
@@ -276,7 +285,8 @@ TEST(PlaceTexts, ZoneIsTheOffsetThatTheTimesAreToldIn) {
   EXPECT_EQ(ZoneText(-3, -30), "GMT-3:30");
   EXPECT_EQ(ZoneText(0, 30), "GMT+0:30");
   EXPECT_EQ(ZoneText(0, -5), "GMT-0:05");
-  EXPECT_EQ(ZoneText(-3, 30), "GMT-2:30");
+  EXPECT_EQ(ZoneText(-3, 30), "GMT-3:30");
+  EXPECT_EQ(ZoneText(5, -30), "GMT+5:30");
   EXPECT_EQ(ZoneText(INT32_MIN, INT32_MIN), "GMT-2183275042:08");
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <limits>
 #include <map>
@@ -46,15 +47,14 @@ class SunPlaceSettings : public testing::Test {
 };
 
 TEST_F(SunPlaceSettings, TheKeyHasUnsignedCoordinatesAndASignedZone) {
-  EXPECT_STREQ(sun::PlaceKey({3147, 3514, 2, 0}).data(), "31-47-35-14-2-0");
-  EXPECT_STREQ(sun::PlaceKey({4734, -5243, -3, -30}).data(), "47-34-52-43--3--30");
-  EXPECT_STREQ(sun::PlaceKey({-5, -9, 0, 0}).data(), "0-5-0-9-0-0");
+  EXPECT_STREQ(sun::KeyOf({3147, 3514, 2, 0}).data(), "31-47-35-14-2-0");
+  EXPECT_STREQ(sun::KeyOf({4734, -5243, -3, -30}).data(), "47-34-52-43--3--30");
+  EXPECT_STREQ(sun::KeyOf({-5, -9, 0, 0}).data(), "0-5-0-9-0-0");
 }
 
 TEST_F(SunPlaceSettings, TheKeyOfTheLeastNumbersIsWhole) {
   constexpr int32_t kLeast = std::numeric_limits<int32_t>::min();
-  EXPECT_STREQ(sun::PlaceKey({kLeast, kLeast, kLeast, kLeast}).data(),
-               "21474836-48-21474836-48--2147483648--2147483648");
+  EXPECT_STREQ(sun::KeyOf({kLeast, kLeast, kLeast, kLeast}).data(), "21474836-48-21474836-48--2147483648--2147483648");
 }
 
 TEST_F(SunPlaceSettings, ElevationIsReadByTheKeyOfThePlace) {
@@ -62,6 +62,33 @@ TEST_F(SunPlaceSettings, ElevationIsReadByTheKeyOfThePlace) {
   EXPECT_EQ(ElevationOf({3147, 3514, 2, 0}), 754);
   EXPECT_EQ(ElevationOf({-3147, -3514, 2, 0}), 754);
   EXPECT_EQ(ElevationOf({3147, 3514, 3, 0}), 0);
+}
+
+// The tz database has St. John's at -3:30, which some settings write -3 and -30, some -3 and 30.
+TEST_F(SunPlaceSettings, SettingsUnderTheMinutesOtherSignAreFound) {
+  texts["almanacelevation.ini|Elevation|47-34-52-43--3--30"] = "120";
+  texts["solar.ini|SummerTime|47-34-52-43--3--30"] = "America/Halifax";
+  for (const int32_t minutes : {30, -30}) {
+    EXPECT_EQ(ElevationOf({4734, -5243, -3, minutes}), 120) << minutes;
+    EXPECT_EQ(ZoneOf({4734, -5243, -3, minutes}), "America/Halifax") << minutes;
+  }
+  texts["almanacelevation.ini|Elevation|47-34-52-43--3-30"] = "0";
+  texts["solar.ini|SummerTime|47-34-52-43--3-30"] = "none";
+  EXPECT_EQ(ElevationOf({4734, -5243, -3, 30}), 0);
+  EXPECT_EQ(ZoneOf({4734, -5243, -3, 30}), "");
+  EXPECT_EQ(ElevationOf({4734, -5243, -3, -30}), 120);
+}
+
+TEST_F(SunPlaceSettings, WithoutHoursTheMinutesSignsAreTwoZones) {
+  texts["almanacelevation.ini|Elevation|5-0-1-0-0--30"] = "120";
+  EXPECT_EQ(ElevationOf({500, 100, 0, 30}), 0);
+  EXPECT_EQ(ElevationOf({500, 100, 0, -30}), 120);
+}
+
+TEST_F(SunPlaceSettings, TheZonesMinutesGoTheWayOfItsHours) {
+  for (const int32_t minutes : {30, -30}) {
+    EXPECT_EQ(sun::ReadPlaceSettings(reader_, {4734, -5243, -3, minutes}).site.standardOffsetMinutes, -210) << minutes;
+  }
 }
 
 TEST_F(SunPlaceSettings, AnElevationBelowTheSeaIsNone) {
@@ -153,9 +180,19 @@ TEST_F(SunPlaceSettings, AKnownPlaceIsAsTheSettingsAreEachTimeItIsAskedFor) {
   change("solar.ini|SummerTime|Mode", "Automatic");
   for (const sun::PackedPlace& place : {sun::PackedPlace{5048, 605, 1, 0}, sun::PackedPlace{5048, 606, 1, 0},
                                         sun::PackedPlace{5048, 606, 2, 0}, sun::PackedPlace{5048, 606, 2, 1}}) {
+    asked.clear();
     expectSame(place);
-    EXPECT_EQ(asked.back(), asked[asked.size() - 4]) << "the key of another place";
+    const auto half = asked.begin() + static_cast<std::ptrdiff_t>(asked.size() / 2);
+    EXPECT_TRUE(std::equal(asked.begin(), half, half, asked.end())) << "the keys of another place";
   }
+}
+
+TEST_F(SunPlaceSettings, AZoneOfHoursAndMinutesTakesTwoReadsMoreForWhatItsOwnKeyLacks) {
+  sun::ReadPlaceSettings(reader_, {1904, 7253, 5, 30});
+  EXPECT_EQ(asked, (std::vector<std::string>{"almanacelevation.ini|Elevation|19-4-72-53-5-30",
+                                             "almanacelevation.ini|Elevation|19-4-72-53-5--30",
+                                             "solar.ini|SummerTime|Mode", "solar.ini|SummerTime|19-4-72-53-5-30",
+                                             "solar.ini|SummerTime|19-4-72-53-5--30"}));
 }
 
 TEST_F(SunPlaceSettings, TakesOneReadForTheElevationAndTwoForTheClock) {

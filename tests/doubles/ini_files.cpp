@@ -11,8 +11,12 @@ char Folded(char c) {
 // Of the elements of a list, which all have a name.
 template <typename List>
 auto Find(List& list, std::string_view name) {
-  const auto found = std::ranges::find_if(
-      list, [name](const auto& element) { return std::ranges::equal(element.name, name, {}, Folded, Folded); });
+  using Element = std::ranges::range_value_t<List>;
+  auto found = std::ranges::find(list, name, &Element::name);
+  if (found == list.end()) {
+    found = std::ranges::find_if(
+        list, [name](const auto& element) { return std::ranges::equal(element.name, name, {}, Folded, Folded); });
+  }
   return found == list.end() ? nullptr : &*found;
 }
 
@@ -76,6 +80,14 @@ const std::string* IniFiles::FindValue(std::string_view file, std::string_view s
 
 std::string& IniFiles::ValueOf(std::string_view file, std::string_view section, std::string_view key) {
   return FindOrAdd(FindOrAdd(FindOrAdd(files_, file).sections, section).keys, key).value;
+}
+
+void IniFiles::AddSpelling(std::string_view name) {
+  const Place place = PlaceOf(name);
+  auto& sections = FindOrAdd(files_, place.file).sections;
+  const auto spelled = std::ranges::find(sections, place.section, &Section::name);
+  Section& section = spelled != sections.end() ? *spelled : sections.emplace_back(std::string(place.section));
+  section.keys.push_back({std::string(place.key), {}});
 }
 
 void IniFiles::DeleteKey(std::string_view file, std::string_view section, std::string_view key) {

@@ -1,5 +1,6 @@
 // INI files in memory, as the doubled profile library keeps them. Names are told apart as the library tells them:
-// without regard to ASCII letter case. Files, sections and keys stand in the order in which they came.
+// without regard to ASCII letter case, but the one of exactly the spelling asked for first. Files, sections and keys
+// stand in the order in which they came.
 #pragma once
 
 #include <initializer_list>
@@ -33,6 +34,9 @@ class IniFiles {
 
   // The value that is there, or a new, empty one.
   std::string& ValueOf(std::string_view file, std::string_view section, std::string_view key);
+  // Puts "file|section|key" there, though a section or key that differs in letter case is, as an editor of texts may.
+  void AddSpelling(std::string_view name);
+
   // The section stays when its last key goes.
   void DeleteKey(std::string_view file, std::string_view section, std::string_view key);
   void DeleteSection(std::string_view file, std::string_view section);

@@ -146,6 +146,21 @@ TEST_F(LocationChoiceTest, ACancelledPickChangesNothing) {
   EXPECT_EQ(CountDocuments(), 1);
 }
 
+TEST_F(LocationChoiceTest, ANameInOtherLettersMeansTheOwnPlaceThatDiffersInTheirCaseAlone) {
+  AddUserPlace("Home", "33", "52", "", "-3");
+  ListNoUserPlace("Nowhere");
+  SetDefaultLocation("HOME");
+  OpenFrame();
+  ExpectLocation("Home", 3352, 15112, -3, 0);
+}
+
+TEST_F(LocationChoiceTest, ABuiltInPlaceIsItselfBesideAnOwnPlaceInOtherLetters) {
+  AddUserPlace("jerusalem", "33", "52", "", "-3");
+  SetDefaultLocation("Jerusalem");
+  OpenFrame();
+  ExpectLocation("Jerusalem", 3147, 3513, 2, 0);
+}
+
 TEST_F(LocationChoiceTest, APickedNameThatIsFoundNowhereKeepsTheNumbersReadLast) {
   ListNoUserPlace("Aachen");
   const HWND frame = OpenFrame();

@@ -1,5 +1,12 @@
 // The location editor on a scripted store.
+#include "tests/doubles/bound_doubles.h"
 #include "tests/program/locations_fixture.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <fstream>
+#include <set>
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -90,7 +97,7 @@ TEST_F(LocationEditorTest, WhatIsNoNumberIsRefusedSilently) {
       }
       EXPECT_THAT(CallLog(), Not(Contains(testing::StartsWith("message box"))));
       EXPECT_THAT(CallsWith("write"), IsEmpty());
-      Fill(editor, {.zoneHours = "x", .zoneMinutes = "x"});
+      Fill(editor, {.zoneHours = "x"});
       Click(editor, IDOK);
     });
     Click(manager, IDCANCEL);
@@ -158,6 +165,225 @@ TEST_F(LocationEditorTest, ABuiltInPlaceIsEditedFromItsNumbers) {
     Click(manager, IDCANCEL);
   });
   EXPECT_EQ(Stored("shabbat2.ini|Locations|Haifa"), "Available");
+}
+
+// 5:30 ahead, as Mumbai's. The edits are those of the common controls that the program's manifest names; others know no
+// cue banner.
+class LocationEditorHalfHourTest : public LocationEditorTest {
+ protected:
+  void SetUp() override {
+    LocationEditorTest::SetUp();
+    char folder[MAX_PATH];
+    GetTempPathA(sizeof folder, folder);
+    const std::string manifest = std::string(folder) + "location_editor_test.manifest";
+    std::ofstream(manifest) << "<assembly xmlns='urn:schemas-microsoft-com:asm.v1' manifestVersion='1.0'><dependency>"
+                               "<dependentAssembly><assemblyIdentity type='win32' "
+                               "name='Microsoft.Windows.Common-Controls' version='6.0.0.0' processorArchitecture='*' "
+                               "publicKeyToken='6595b64144ccf1df' language='*'/></dependentAssembly></dependency>"
+                               "</assembly>";
+    ACTCTXA request = {};
+    request.cbSize = sizeof request;
+    request.lpSource = manifest.c_str();
+    context_ = CreateActCtxA(&request);
+    ASSERT_NE(context_, INVALID_HANDLE_VALUE);
+    ASSERT_TRUE(ActivateActCtx(context_, &cookie_));
+  }
+  void TearDown() override {
+    DeactivateActCtx(0, cookie_);
+    ReleaseActCtx(context_);
+    LocationEditorTest::TearDown();
+  }
+
+  void ChangeMumbai(const std::function<void(HWND)>& drive) {
+    Bound().places.push_back({"Mumbai", 1904, 7253, 5, 30});
+    Manage([&](HWND manager) {
+      Select(manager, 3);
+      Edit(manager, 104, [&](HWND editor) {
+        drive(editor);
+        Click(editor, IDOK);
+      });
+      Click(manager, IDCANCEL);
+    });
+  }
+
+ private:
+  HANDLE context_ = INVALID_HANDLE_VALUE;
+  ULONG_PTR cookie_ = 0;
+};
+
+TEST_F(LocationEditorHalfHourTest, EmptyMinutesOfABuiltInPlacesZoneTellWhatTheyAreAndKeepIt) {
+  ChangeMumbai([](HWND editor) {
+    EXPECT_EQ(FieldText(editor, 200), "");
+    wchar_t cue[16] = L"";
+    SendDlgItemMessageW(editor, 200, EM_GETCUEBANNER, reinterpret_cast<WPARAM>(cue), std::size(cue));
+    EXPECT_STREQ(cue, L"30");
+  });
+  EXPECT_EQ(Stored("shabloc2.ini|Mumbai|TimeZone"), "5");
+  EXPECT_EQ(Stored("shabloc2.ini|Mumbai|TimeZoneMin"), "30");
+}
+
+TEST_F(LocationEditorHalfHourTest, TypedMinutesOfABuiltInPlacesZoneAreTheUsers) {
+  ChangeMumbai([](HWND editor) { SetField(editor, 200, "0"); });
+  EXPECT_EQ(Stored("shabloc2.ini|Mumbai|TimeZoneMin"), "0");
+}
+
+TEST_F(LocationEditorTest, EmptyMinutesOfANewPlacesZoneAreNone) {
+  Manage([](HWND manager) {
+    Edit(manager, 102, [](HWND editor) {
+      Fill(editor, {.zoneMinutes = ""});
+      Click(editor, IDOK);
+    });
+    Click(manager, IDCANCEL);
+  });
+  EXPECT_EQ(Stored("shabloc2.ini|Home|TimeZoneMin"), "0");
+}
+
+TEST_F(LocationEditorTest, MinutesOfTheZoneThatAreNoNumberAreRefusedWithAReason) {
+  Manage([](HWND manager) {
+    Edit(manager, 102, [](HWND editor) {
+      Fill(editor, {.zoneMinutes = "3o"});
+      Click(editor, IDOK);
+      EXPECT_EQ(CallsWith("message box").size(), 1u);
+      EXPECT_EQ(GetFocus(), GetDlgItem(editor, 200));
+      EXPECT_THAT(CallsWith("write"), IsEmpty());
+      Click(editor, IDCANCEL);
+    });
+    Click(manager, IDCANCEL);
+  });
+}
+
+TEST_F(LocationEditorTest, NewNamesHoldNothingThatIsACommandInRtfFiles) {
+  AddUserPlace("Old {place}", {});
+  Manage([](HWND manager) {
+    Edit(manager, 102, [](HWND editor) {
+      for (const char* name : {"A{", "}A", "A\\B"}) {
+        CallLog().clear();
+        Fill(editor, {});
+        SetField(editor, 101, name);
+        Click(editor, IDOK);
+        EXPECT_EQ(CallsWith("message box").size(), 1u) << name;
+      }
+      EXPECT_THAT(CallsWith("write"), IsEmpty());
+      Click(editor, IDCANCEL);
+    });
+    CallLog().clear();
+    Select(manager, 3);
+    Edit(manager, 104, [](HWND editor) {
+      EXPECT_EQ(FieldText(editor, 101), "Old {place}");
+      SetField(editor, 102, "40");
+      Click(editor, IDOK);
+    });
+    EXPECT_THAT(CallsWith("message box"), IsEmpty());
+    Click(manager, IDCANCEL);
+  });
+  EXPECT_EQ(Stored("shabloc2.ini|Old {place}|LatitudeDegrees"), "40");
+}
+
+TEST_F(LocationEditorTest, ABuiltInPlaceShowsItsOwnNumbersBesideAnOwnPlaceInOtherLetters) {
+  AddUserPlace("haifa", {.latitudeDegrees = "40"});
+  Manage([](HWND manager) {
+    const auto names = Names(manager);
+    Select(manager, static_cast<int>(std::find(names.begin(), names.end(), "Haifa") - names.begin()));
+    Edit(manager, 104, [](HWND editor) {
+      EXPECT_EQ(FieldText(editor, 102), "32");
+      System().answer = IDNO;
+      Click(editor, IDOK);
+      EXPECT_THAT(
+          CallsWith("message box"),
+          ElementsAre(
+              "message box 'Do you want to overwrite this city?' caption 'Times / Readings' type 0x24 owner yes"));
+      EXPECT_THAT(CallsWith("write"), IsEmpty());
+      Click(editor, IDCANCEL);
+    });
+    Click(manager, IDCANCEL);
+  });
+  EXPECT_EQ(Stored("shabloc2.ini|haifa|LatitudeDegrees"), "40");
+}
+
+TEST_F(LocationEditorTest, ANewNameTakesTheSpellingOfThePlaceThatItReplaces) {
+  AddUserPlace("Home", {.latitudeDegrees = "40"});
+  Manage([](HWND manager) {
+    for (const char* name : {"HOME", "jerusalem"}) {
+      CallLog().clear();
+      Edit(manager, 102, [name](HWND editor) {
+        Fill(editor, {.name = name});
+        Click(editor, IDOK);
+      });
+      EXPECT_EQ(CallsWith("message box").size(), 1u) << name;
+    }
+    EXPECT_THAT(Names(manager), ElementsAre("Aachen", "Haifa", "Home", "Jerusalem"));
+    Click(manager, IDCANCEL);
+  });
+  EXPECT_EQ(Stored("shabloc2.ini|Home|LatitudeDegrees"), "32");
+  EXPECT_EQ(Stored("shabloc2.ini|Jerusalem|LatitudeDegrees"), "32");
+}
+
+TEST_F(LocationEditorTest, APlaceOfTheUsersOwnCanBeSpelledAnew) {
+  AddUserPlace("home", {});
+  Manage([](HWND manager) {
+    Select(manager, 2);
+    Edit(manager, 104, [](HWND editor) {
+      SetField(editor, 101, "Home");
+      Click(editor, IDOK);
+    });
+    EXPECT_THAT(Names(manager), ElementsAre("Aachen", "Haifa", "Home", "Jerusalem"));
+    EXPECT_THAT(CallsWith("message box"), IsEmpty());
+    Click(manager, IDCANCEL);
+  });
+}
+
+// The first try has written the place; the second one changes it and does not ask for it.
+TEST_F(LocationEditorTest, SavingAgainAfterAFailureDoesNotAskToOverwriteWhatWasJustTyped) {
+  Manage([](HWND manager) {
+    Edit(manager, 102, [](HWND editor) {
+      Fill(editor, {.elevation = "12"});
+      Libraries().unwritableFile = "almanacelevation.ini";
+      Click(editor, IDOK);
+      EXPECT_EQ(CallsWith("message box").size(), 1u);
+      Libraries().unwritableFile.clear();
+      CallLog().clear();
+      Click(editor, IDOK);
+      EXPECT_THAT(CallsWith("message box"), IsEmpty());
+    });
+    Click(manager, IDCANCEL);
+  });
+  EXPECT_EQ(Stored("almanacelevation.ini|Elevation|32-49-34-59-2-0"), "12");
+}
+
+TEST_F(LocationEditorTest, AnElevationUnderTheMinutesOtherSignMovesToTheKeyOfThePlace) {
+  AddUserPlace("Home", {.zoneHours = "-3", .zoneMinutes = "30"});
+  Libraries().settings["almanacelevation.ini|Elevation|32-49-34-59--3--30"] = "754";
+  Manage([](HWND manager) {
+    Select(manager, 2);
+    Edit(manager, 104, [](HWND editor) {
+      EXPECT_EQ(FieldText(editor, 300), "754");
+      Click(editor, IDOK);
+    });
+    Click(manager, IDCANCEL);
+  });
+  EXPECT_EQ(Stored("almanacelevation.ini|Elevation|32-49-34-59--3-30"), "754");
+  EXPECT_EQ(Stored("almanacelevation.ini|Elevation|32-49-34-59--3--30"), "(none)");
+}
+
+// A screen reader names an edit by the static text before it.
+TEST_F(LocationEditorTest, EveryFieldHasALabelOfItsOwn) {
+  Manage([](HWND manager) {
+    Edit(manager, 102, [](HWND editor) {
+      std::set<std::string> labels;
+      for (const int field : {101, 102, 103, 106, 107, 110, 200, 300}) {
+        char className[16];
+        char label[64];
+        const HWND before = GetWindow(GetDlgItem(editor, field), GW_HWNDPREV);
+        GetClassNameA(before, className, sizeof className);
+        EXPECT_STREQ(className, "Static") << field;
+        GetWindowTextA(before, label, sizeof label);
+        labels.insert(label);
+      }
+      EXPECT_EQ(labels.size(), 8u);
+      Click(editor, IDCANCEL);
+    });
+    Click(manager, IDCANCEL);
+  });
 }
 
 TEST_F(LocationEditorTest, ElevationZeroDeletesItsKey) {

@@ -1,6 +1,10 @@
 // The location manager on a scripted store.
+#include <algorithm>
+#include <cstring>
+
 #include "app/active_document.h"
 #include "engine/current.h"
+#include "engine/properties.h"
 #include "tests/program/locations_fixture.h"
 
 using testing::Contains;
@@ -149,6 +153,101 @@ TEST_F(LocationsTest, RemovingAsksAndDeletesThePlaceEverywhere) {
   EXPECT_EQ(Stored("shabbat2.ini|Locations|Zion"), "(none)");
   EXPECT_EQ(Stored("shabloc2.ini|Zion|TimeZone"), "(none)");
   EXPECT_EQ(Stored("almanacelevation.ini|Elevation|32-49-34-59-2-0"), "(none)");
+}
+
+// The key is that of the six numbers as they are stored; packed, 130 minutes would be another degree.
+TEST_F(LocationsTest, RemovingAPlaceOfMoreThanAHundredMinutesRemovesItsElevation) {
+  AddUserPlace("Zion", {.latitudeMinutes = "130"});
+  Libraries().settings["almanacelevation.ini|Elevation|32-130-34-59-2-0"] = "754";
+  Manage([](HWND manager) {
+    Select(manager, 3);
+    Click(manager, 103);
+    Click(manager, IDCANCEL);
+  });
+  EXPECT_EQ(Stored("almanacelevation.ini|Elevation|32-130-34-59-2-0"), "(none)");
+}
+
+TEST_F(LocationsTest, AnElevationUnderTheMinutesOtherSignIsShownAndRemoved) {
+  AddUserPlace("Zion", {.zoneHours = "-3", .zoneMinutes = "30"});
+  Libraries().settings["almanacelevation.ini|Elevation|32-49-34-59--3--30"] = "754";
+  Manage([](HWND manager) {
+    Select(manager, 3);
+    EXPECT_EQ(FieldText(manager, 105), "Zion: 32,49N  34,59E  GMT-3:30, 754 meters");
+    Click(manager, 103);
+    Click(manager, IDCANCEL);
+  });
+  EXPECT_EQ(Stored("almanacelevation.ini|Elevation|32-49-34-59--3--30"), "(none)");
+}
+
+TEST_F(LocationsTest, PlacesThatDifferInLetterCaseAloneAreEachThemselves) {
+  AddUserPlace("jerusalem", {.latitudeDegrees = "40"});
+  Manage([](HWND manager) {
+    ASSERT_THAT(Names(manager), testing::UnorderedElementsAre("Aachen", "Haifa", "Jerusalem", "jerusalem"));
+    for (int index = 2; index <= 3; ++index) {
+      Select(manager, index);
+      const bool own = Names(manager)[static_cast<std::size_t>(index)] == "jerusalem";
+      EXPECT_THAT(FieldText(manager, 105),
+                  testing::StartsWith(own ? "jerusalem: 40,49N  34,59E" : "Jerusalem: 31,47N  35,13E"));
+      EXPECT_EQ(CanRemove(manager), own);
+    }
+    Click(manager, IDCANCEL);
+  });
+}
+
+TEST_F(LocationsTest, RemovingASpellingLeavesTheOtherThatTheFilesHold) {
+  AddUserPlace("home", {.latitudeDegrees = "40"});
+  Libraries().settings.AddSpelling("shabbat2.ini|Locations|Home");
+  Libraries().settings["shabbat2.ini|Locations|Home"] = "Available";
+  Libraries().settings.AddSpelling("shabloc2.ini|Home|LatitudeDegrees");
+  Libraries().settings["shabloc2.ini|Home|LatitudeDegrees"] = "50";
+  Manage([](HWND manager) {
+    const auto names = Names(manager);
+    ASSERT_THAT(names, testing::IsSupersetOf({"home", "Home"}));
+    const auto index = static_cast<int>(std::find(names.begin(), names.end(), "Home") - names.begin());
+    Select(manager, index);
+    EXPECT_THAT(FieldText(manager, 105), testing::StartsWith("Home: 50,00N"));
+    Click(manager, 103);
+    EXPECT_THAT(Names(manager), Contains("home"));
+    EXPECT_THAT(Names(manager), Not(Contains("Home")));
+    Click(manager, IDCANCEL);
+  });
+  EXPECT_EQ(Stored("shabbat2.ini|Locations|home"), "Available");
+  EXPECT_EQ(Stored("shabloc2.ini|home|LatitudeDegrees"), "40");
+}
+
+TEST_F(LocationsTest, TheDocumentsPlaceIsSelectedInItsOwnSpelling) {
+  AddUserPlace("haifa", {});
+  for (const char* name : {"Haifa", "haifa"}) {
+    Location place{};
+    std::strcpy(place.name, name);
+    SetPlace(ActiveDocument(), place);
+    Manage([name](HWND manager) {
+      EXPECT_EQ(Names(manager)[static_cast<std::size_t>(Selected(manager))], name);
+      Click(manager, IDCANCEL);
+    });
+  }
+}
+
+TEST_F(LocationsTest, ALongNameGetsTheLinesThatItNeeds) {
+  const std::string longName(255, 'W');
+  AddUserPlace(longName, {});
+  Manage([&](HWND manager) {
+    const auto heightOf = [manager](int control) {
+      RECT area;
+      GetWindowRect(GetDlgItem(manager, control), &area);
+      return area.bottom - area.top;
+    };
+    const int line = heightOf(105);
+    const int list = heightOf(101);
+    const auto names = Names(manager);
+    Select(manager, static_cast<int>(std::find(names.begin(), names.end(), longName) - names.begin()));
+    EXPECT_GT(heightOf(105), 4 * line);
+    EXPECT_EQ(heightOf(105) + heightOf(101), line + list);
+    Select(manager, 0);
+    EXPECT_EQ(heightOf(105), line);
+    EXPECT_EQ(heightOf(101), list);
+    Click(manager, IDCANCEL);
+  });
 }
 
 TEST_F(LocationsTest, RemovingAPlaceInTheMiddleSelectsTheNext) {
