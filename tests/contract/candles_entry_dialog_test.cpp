@@ -134,7 +134,7 @@ TEST_F(CandlesDialog, HourOfTheMorningIsAskedAbout) {
 
 TEST_F(CandlesDialog, PlaceKeepsItsExactSpelling) {
   ListDialog dialog;
-  for (const wchar_t* place : {L"jerusalem", L" My  place ", L"50%", L"Caf\u00E9 \u201CX\u201D \u20AC"}) {
+  for (const wchar_t* place : {L"cottage", L" My  place ", L"50%", L"Caf\u00E9 \u201CX\u201D \u20AC"}) {
     const EntryDialog entry(dialog, IDC_ADD);
     entry.Fill(place, L"8.3.2024", L"17:25", L"18:31");
     ASSERT_TRUE(entry.Accept());
@@ -142,10 +142,19 @@ TEST_F(CandlesDialog, PlaceKeepsItsExactSpelling) {
   ASSERT_TRUE(dialog.WaitForCount(4));
   dialog.Accept();
   int32_t time;
-  for (const char* place : {"jerusalem", " My  place ", "50%", "Caf\xE9 \x93X\x94 \x80"}) {
+  for (const char* place : {"cottage", " My  place ", "50%", "Caf\xE9 \x93X\x94 \x80"}) {
     EXPECT_NE(CandlesGetTime(place, 8, 3, 2024, &time, &time, &time, &time), 0) << place;
   }
-  EXPECT_EQ(CandlesGetTime("Jerusalem", 8, 3, 2024, &time, &time, &time, &time), 0);
+  EXPECT_EQ(CandlesGetTime("Cottage", 8, 3, 2024, &time, &time, &time, &time), 0);
+}
+
+TEST_F(CandlesDialog, PlaceInOtherLettersIsTheKnownOneThatDiffersInTheirCaseAlone) {
+  ListDialog dialog;
+  const EntryDialog entry(dialog, IDC_ADD);
+  entry.Fill(L"jerusalem", L"8.3.2024", L"17:25", L"18:31");
+  ASSERT_TRUE(entry.Accept());
+  dialog.Accept();
+  EXPECT_EQ(Stored(), "2024-03-08 17:25 18:31 Jerusalem\r\n");
 }
 
 TEST_F(CandlesDialog, BlanksAroundAKnownPlaceAreDropped) {
