@@ -6,6 +6,7 @@
 #include "app/active_document.h"
 #include "app/export_commands.h"
 #include "app/open_document.h"
+#include "app/own_times_dialog.h"
 #include "app/program.h"
 #include "app/range_dialog.h"
 #include "app/sunset_dialog.h"
@@ -172,6 +173,7 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_EXPORT_RTF_TWO_COLUMNS, ExportRtfInTwoColumns},
     {IDM_EXPORT_ZMANIM, ExportZmanimDelimited},
     {IDM_EXPORT_DATES, ExportDatesDelimited},
+    {IDM_OWN_TIMES, RunOwnTimesDialog},
     {IDM_EXPORT_RTF_BY_DAY, ExportZmanimByDayLater},
     {IDM_EXPORT_RTF_NARROW, ExportReadingsNarrowLater},
     {IDM_LOCATION_MANAGER, ManageLocations},

@@ -4,6 +4,7 @@
 
 #include "app/active_document.h"
 #include "app/frame_commands.h"
+#include "app/own_times_dialog.h"
 #include "app/program.h"
 #include "document/document_window.h"
 #include "engine/settings_flags.h"
@@ -64,5 +65,6 @@ void UpdateMenus(HWND frame) {
   Check(menu, IDM_ZMANIM_HEBREW, hebrew);
   Check(menu, IDM_ZMANIM_ENGLISH, !hebrew);
   Check(menu, IDM_BUILT_IN_ZMANIM, !ZmanimEnabled());
+  Enable(menu, IDM_OWN_TIMES, HasOwnTimesDialog());
   GreyIdleCommands(menu);
 }

@@ -4,6 +4,7 @@
 #define TIMES_READINGS_COMPANION_OWNHOURS_H
 
 #include <stdint.h>
+#include <windows.h>
 
 #ifdef __cplusplus
 extern "C" {
@@ -31,6 +32,17 @@ int32_t OwnHoursSet(OwnHoursHandle* handle, uint32_t day, uint32_t month, uint32
 /* Writes what OwnHoursSet changed into the file, at once and whole; times that another process stored meanwhile and
  * lines that are no times stay. Nonzero on success; 0 with the file as it was when it cannot be written. */
 int32_t OwnHoursStore(OwnHoursHandle* handle);
+
+/* The calculated time of a zman, by its English description, at a place, by its name, on a Gregorian date: nonzero with
+ * hour and minute written; 0 when place or zman are not known any more or the zman has no time on that day. */
+typedef int32_t (*OwnHoursCalculate)(uint32_t day, uint32_t month, uint32_t year, const char* description,
+                                     const char* location, int32_t* hour, int32_t* minute);
+
+/* Optional; looked up by name. Shows a modal dialog that lists the times in the file beside what calculate answers for
+ * them (null: nothing), to search, change and remove them; changes are written when it is accepted, those that another
+ * process made meanwhile kept. Nonzero when the file was changed. The calls of calculate are made on the calling thread
+ * while the dialog is open. */
+int32_t OwnHoursDoDialog(HWND owner, OwnHoursCalculate calculate);
 
 /* Releases the store and empties the handle. */
 void OwnHoursDone(OwnHoursHandle* handle);

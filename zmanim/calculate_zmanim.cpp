@@ -30,10 +30,10 @@ struct LibraryQuestions {
   ScopedCustomZmanim customTimes;
 };
 
-ClockTime LibraryTime(const LibraryQuestions& questions, const CalendarDate& date, uint32_t zman, const DaySun& sun) {
-  const Location& place = questions.place;
-  const int32_t minutes = HoursCalculate2(questions.document, place.latitude, place.longitude, place.zoneHours,
-                                          place.zoneMinutes, date.uDay, date.uMonth, date.uYear, zman, sun.sunrise.hour,
+ClockTime LibraryTime(HWND document, const Location& place, const CalendarDate& date, uint32_t zman,
+                      const DaySun& sun) {
+  const int32_t minutes = HoursCalculate2(document, place.latitude, place.longitude, place.zoneHours, place.zoneMinutes,
+                                          date.uDay, date.uMonth, date.uYear, zman, sun.sunrise.hour,
                                           sun.sunrise.minute, sun.sunset.hour, sun.sunset.minute);
   return minutes < 0 ? kNoTime : ClockTime{minutes / kMinutesPerHour, minutes % kMinutesPerHour};
 }
@@ -44,7 +44,7 @@ void ComputeLibraryDay(LibraryQuestions& questions, const DaySun& sun, ZmanimDay
                       day.times[zman])) {
       continue;
     }
-    day.times[zman] = LibraryTime(questions, day.date, zman, sun);
+    day.times[zman] = LibraryTime(questions.document, questions.place, day.date, zman, sun);
   }
 }
 
@@ -55,11 +55,15 @@ void ComputeBuiltInDay(const Location& place, const DaySun& sun, ZmanimDay& day)
   }
 }
 
+DaySun SunOfDay(const Location& place, const CalendarDate& date) {
+  return {SunEvent(place, date, SOLAR_SUNRISE), SunEvent(place, date, SOLAR_SUNSET)};
+}
+
 // A day's date, its sun and the marks of the slots that the calculation leaves alone.
 DaySun BeginDay(const Location& place, int32_t absoluteDay, uint32_t zmanimCount, ZmanimDay& day) {
   day.date = DateFromAbsolute(absoluteDay);
   std::fill(day.times + zmanimCount, day.times + kMostZmanim, kNoTime);
-  return {SunEvent(place, day.date, SOLAR_SUNRISE), SunEvent(place, day.date, SOLAR_SUNSET)};
+  return SunOfDay(place, day.date);
 }
 
 void FillBlock(HWND document, const Location& place, int32_t firstDay, const ZmanimLabels& labels, ZmanimBlock& block) {
@@ -132,6 +136,15 @@ void CalculateZmanim(HWND document, uint32_t startDay, uint32_t startMonth, uint
   Location place = CurrentLocation;
   lstrcpynA(place.name, DocumentPlace(document).c_str(), kTextSize);
   ComputeZmanim(document, place, {{startDay, startMonth, startYear}, {endDay, endMonth, endYear}}, LongRange::kReport);
+}
+
+std::optional<ClockTime> CalculatedZman(HWND document, const Location& place, const CalendarDate& date,
+                                        const std::string& description) {
+  const std::optional<uint32_t> zman = LibraryZmanNamed(description);
+  if (!zman) return std::nullopt;
+  const ClockTime time = LibraryTime(document, place, date, *zman, SunOfDay(place, date));
+  if (time == kNoTime) return std::nullopt;
+  return time;
 }
 
 bool RenewZmanim(HWND document) {

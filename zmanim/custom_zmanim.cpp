@@ -2,11 +2,25 @@
 
 #include "zmanim/zmanim_in_use.h"
 
+namespace {
+
+uint32_t edition = 0;
+
+}  // namespace
+
 bool GetCustomZman(const OwnHoursHandle* store, const CalendarDate& date, const std::string& description,
                    const char* location, ClockTime& time) {
   if (description.empty()) return false;
   return OwnHoursGet(store, date.uDay, date.uMonth, date.uYear, description.c_str(), location, &time.hour,
                      &time.minute) != 0;
+}
+
+uint32_t CustomZmanimEdition() {
+  return edition;
+}
+
+void CustomZmanimHaveChanged() {
+  ++edition;
 }
 
 bool StoreCustomZman(const CalendarDate& date, const std::string& description, const char* location, ClockTime time) {

@@ -25,6 +25,11 @@ class ScopedCustomZmanim {
 bool GetCustomZman(const OwnHoursHandle* store, const CalendarDate& date, const std::string& description,
                    const char* location, ClockTime& time);
 
+// Counts the changes that the user has made to the times set by hand otherwise than by a click on one: a document whose
+// times are of an earlier edition is computed anew (RenewZmanim).
+uint32_t CustomZmanimEdition();
+void CustomZmanimHaveChanged();
+
 // Stores a time for the zman of a description. False when it could not be stored, also for want of a description.
 bool StoreCustomZman(const CalendarDate& date, const std::string& description, const char* location, ClockTime time);
 

@@ -11,6 +11,7 @@
 #include "zmanim/core/builtin_zmanim.h"
 #include "zmanim/core/text_fingerprint.h"
 #include "zmanim/core/zmanim_block.h"
+#include "zmanim/custom_zmanim.h"
 
 namespace {
 
@@ -61,6 +62,7 @@ HGLOBAL DescribeZmanimInUse() {
   labels->fromLibrary = fromLibrary ? 1 : 0;
   labels->amPm = 0;
   labels->renewedAt = 0;
+  labels->setByHand = CustomZmanimEdition();
   labels->count = count;
   ZmanLabel* const zmanim = labels->zmanim;
   for (uint32_t zman = 0; zman < count; ++zman) {
@@ -73,7 +75,7 @@ HGLOBAL DescribeZmanimInUse() {
 bool AreInUse(const ZmanimLabels& labels) {
   const bool fromLibrary = ZmanimEnabled();
   if (fromLibrary != (labels.fromLibrary != 0)) return false;
-  return !fromLibrary || SelectionFingerprint() == labels.selection;
+  return !fromLibrary || (labels.setByHand == CustomZmanimEdition() && SelectionFingerprint() == labels.selection);
 }
 
 bool IsLegendHebrew(const ZmanimLabels& labels) {
@@ -85,11 +87,14 @@ std::string LibraryZmanName(uint32_t zman) {
   return HoursGetDescription(zman, text) ? text : "";
 }
 
-bool IsSelected(const std::string& description) {
-  if (!ZmanimEnabled()) return false;
+std::optional<uint32_t> LibraryZmanNamed(const std::string& description) {
   const uint32_t count = CountInUse(true);
   for (uint32_t zman = 0; zman < count; ++zman) {
-    if (LibraryZmanName(zman) == description) return true;
+    if (LibraryZmanName(zman) == description) return zman;
   }
-  return false;
+  return std::nullopt;
+}
+
+bool IsSelected(const std::string& description) {
+  return ZmanimEnabled() && LibraryZmanNamed(description);
 }

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "zmanim/core/zmanim_labels.h"
@@ -15,7 +16,7 @@ uint32_t GetZmanimCount();
 HGLOBAL DescribeZmanimInUse();
 
 // Whether the zmanim in use are still those of labels: the same mode, number, order and names, and, where the library
-// tells, definitions.
+// tells, definitions; and whether no list of the times set by hand has been changed since.
 bool AreInUse(const ZmanimLabels& labels);
 
 // Whether legends name these zmanim in Hebrew: when the user wants it, and they are the library's. The built-in ones
@@ -24,6 +25,9 @@ bool IsLegendHebrew(const ZmanimLabels& labels);
 
 // The description of a zman of the library now; empty when it has none.
 std::string LibraryZmanName(uint32_t zman);
+
+// The zman of the library that has this description now; nothing when there is none.
+std::optional<uint32_t> LibraryZmanNamed(const std::string& description);
 
 // Whether the user's selection is in use and has a zman of this description.
 bool IsSelected(const std::string& description);

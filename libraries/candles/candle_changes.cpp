@@ -5,15 +5,7 @@
 namespace candles {
 
 Changes Difference(const Entries& before, const Entries& after) {
-  Changes changes;
-  for (const auto& [occasion, times] : before) {
-    if (!after.contains(occasion)) changes.emplace(occasion, std::nullopt);
-  }
-  for (const auto& [occasion, times] : after) {
-    const auto old = before.find(occasion);
-    if (old == before.end() || old->second != times) changes.emplace(occasion, times);
-  }
-  return changes;
+  return settings_folder::Difference(before, after);
 }
 
 std::string Applied(const Changes& changes, std::string_view text) {

@@ -34,6 +34,11 @@ std::optional<PackedDate> PackDate(uint32_t day, uint32_t month, uint32_t year) 
   return (year * 12 + month - 1) * 31 + day - 1;
 }
 
+calendar::Date DateOf(PackedDate date) {
+  const auto number = [](PackedDate part) { return static_cast<int32_t>(part); };
+  return {number(date % 31) + 1, number(date / 31 % 12) + 1, number(date / 31 / 12)};
+}
+
 bool CanBeKept(const Entry& entry) {
   return !entry.occasion.description.empty() && IsTime(entry.time);
 }
@@ -56,10 +61,10 @@ std::optional<Entry> EntryIn(std::string_view line) {
 }
 
 std::string LineOf(const Entry& entry) {
-  const PackedDate date = entry.occasion.date;
+  const calendar::Date date = DateOf(entry.occasion.date);
   char columns[64];
-  std::snprintf(columns, sizeof columns, "%04u-%02u-%02u %02d:%02d ", date / 31 / 12, date / 31 % 12 + 1, date % 31 + 1,
-                entry.time.hour, entry.time.minute);
+  std::snprintf(columns, sizeof columns, "%04d-%02d-%02d %02d:%02d ", date.year, date.month, date.day, entry.time.hour,
+                entry.time.minute);
   return columns + Coded(entry.occasion.description) + kSeparator + Coded(entry.occasion.place);
 }
 
@@ -82,6 +87,10 @@ std::optional<Time> OwnTimes::Find(PackedDate date, std::string_view description
 void OwnTimes::Set(Entry entry) {
   zmanimOfDate_[entry.occasion.date] |= BitOf(entry.occasion.description);
   times_.insert_or_assign(std::move(entry.occasion), entry.time);
+}
+
+Entries OwnTimes::All() const {
+  return {times_.begin(), times_.end()};
 }
 
 size_t OwnTimes::Hash::operator()(const Key& key) const {

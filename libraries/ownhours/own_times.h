@@ -21,6 +21,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "libraries/calendar/date.h"
+
 namespace ownhours {
 
 struct Time {
@@ -35,6 +37,7 @@ using PackedDate = uint32_t;
 
 // None for what is no date.
 std::optional<PackedDate> PackDate(uint32_t day, uint32_t month, uint32_t year);
+calendar::Date DateOf(PackedDate date);
 
 // What a time is for. The texts are compared byte by byte; the description is not empty.
 struct Occasion {
@@ -52,8 +55,10 @@ struct Entry {
   bool operator==(const Entry&) const = default;
 };
 
-// The times that are to be set.
-using Changes = std::map<Occasion, Time>;
+using Entries = std::map<Occasion, Time>;
+
+// The times that are to be set; none where an entry is to go.
+using Changes = std::map<Occasion, std::optional<Time>>;
 
 // Whether a time for such a thing can be kept.
 bool CanBeKept(const Entry& entry);
@@ -78,6 +83,8 @@ class OwnTimes {
   bool HasTimesOn(PackedDate date) const { return zmanimOfDate_.contains(date); }
   std::optional<Time> Find(PackedDate date, std::string_view description, std::string_view place) const;
   void Set(Entry entry);
+
+  Entries All() const;
 
  private:
   struct Key {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "libraries/ownhours/own_times.h"
 
@@ -25,5 +27,16 @@ class OpenStore {
   OwnTimes times_;
   Changes unsaved_;
 };
+
+// The times as they are in the file now; nothing when it cannot be read.
+std::optional<Entries> StoredEntries();
+
+// Makes the changes in the file as it is now, at once and whole. Where that says something new since stored was read
+// (Conflicts), nothing is written unless the changes are to replace it. False when nothing was written: for conflicts,
+// which are then told, or because the file cannot be written.
+bool WriteChanges(const Changes& changes, const Entries& stored, bool replaceOthers, std::vector<Occasion>* conflicts);
+
+// The file's full path, for messages.
+std::wstring StorePath();
 
 }  // namespace ownhours

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "companion/ownhours.h"
+#include "libraries/ownhours/own_times_dialog.h"
 #include "libraries/ownhours/own_times_file.h"
 
 namespace {
@@ -56,6 +57,12 @@ int32_t OwnHoursSet(OwnHoursHandle* handle, uint32_t day, uint32_t month, uint32
 int32_t OwnHoursStore(OwnHoursHandle* handle) try {
   OpenStore* store = StoreOf(handle);
   return store && store->Save() ? 1 : 0;
+} catch (...) {
+  return 0;
+}
+
+int32_t OwnHoursDoDialog(HWND owner, OwnHoursCalculate calculate) try {
+  return ownhours::RunOwnTimesDialog(owner, calculate) ? 1 : 0;
 } catch (...) {
   return 0;
 }

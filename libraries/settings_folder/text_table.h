@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <set>
 #include <span>
@@ -33,6 +34,22 @@ void ForEachEntry(std::string_view text, std::optional<Entry> (*entryIn)(std::st
     std::optional<Entry> entry = entryIn(TakeLine(text).content);
     if (entry) take(std::move(*entry));
   }
+}
+
+// What turns the entries before into those after, both maps from what an entry is for to what it says; none where an
+// entry goes.
+template <typename Entries>
+std::map<typename Entries::key_type, std::optional<typename Entries::mapped_type>> Difference(const Entries& before,
+                                                                                              const Entries& after) {
+  std::map<typename Entries::key_type, std::optional<typename Entries::mapped_type>> changes;
+  for (const auto& [key, value] : before) {
+    if (!after.contains(key)) changes.emplace(key, std::nullopt);
+  }
+  for (const auto& [key, value] : after) {
+    const auto old = before.find(key);
+    if (old == before.end() || old->second != value) changes.emplace(key, value);
+  }
+  return changes;
 }
 
 // What a change makes of an entry; null where the entry is to go.

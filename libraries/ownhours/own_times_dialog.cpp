@@ -1,0 +1,413 @@
+#include "libraries/ownhours/own_times_dialog.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "libraries/dialogs/dialog_parts.h"
+#include "libraries/dialogs/known_file.h"
+#include "libraries/dialogs/resizable_dialog.h"
+#include "libraries/dialogs/windows_1252.h"
+#include "libraries/ownhours/own_times_editing.h"
+#include "libraries/ownhours/own_times_file.h"
+#include "libraries/ownhours/ownhours_ids.h"
+#include "libraries/ownhours/time_dialog.h"
+#include "libraries/ownhours/time_rows.h"
+#include "libraries/stamp/form_setting.h"
+
+namespace ownhours {
+namespace {
+
+using dialogs::Anchor;
+using dialogs::Follow;
+using dialogs::ResizableDialog;
+
+constexpr char kSizeFile[] = "ownhours.ini";
+constexpr WPARAM kMostTypedLetters = 100;
+
+constexpr Anchor kAnchors[] = {
+    {IDC_TYPED, Follow::kNo, Follow::kNo},     {IDC_COUNT, Follow::kMove, Follow::kNo},
+    {IDC_TIMES, Follow::kGrow, Follow::kGrow}, {IDC_CHANGE, Follow::kMove, Follow::kNo},
+    {IDC_REMOVE, Follow::kMove, Follow::kNo},  {IDC_REMOVE_PLACE, Follow::kMove, Follow::kNo},
+    {IDC_UNDO, Follow::kMove, Follow::kNo},    {IDOK, Follow::kMove, Follow::kMove},
+    {IDCANCEL, Follow::kMove, Follow::kMove},
+};
+
+// Place and zman share the width that the others, as wide as their sample, leave.
+struct ColumnLook {
+  const wchar_t* heading;
+  const wchar_t* sample;  // null: shares the rest
+};
+constexpr ColumnLook kColumnLooks[kColumns] = {{L"Place", nullptr},
+                                               {L"Date", L"88.88.8888"},
+                                               {L"Zman", nullptr},
+                                               {L"Set to", L"88:88 p.m."},
+                                               {L"Calculated", L"88:88 p.m."}};
+
+std::wstring CountText(int shown, size_t all) {
+  if (all == 0) return L"No times are set by hand";
+  const std::wstring total = all == 1 ? L"1 time" : std::to_wstring(all) + L" times";
+  return static_cast<size_t>(shown) == all ? total : std::to_wstring(shown) + L" of " + total;
+}
+
+class OwnTimesDialog {
+ public:
+  OwnTimesDialog(Entries stored, OwnHoursCalculate calculate, stamp::Form form)
+      : editing_(std::move(stored)), rows_(calculate, form), form_(form) {}
+
+  // Whether the file was changed.
+  bool Run(HWND owner);
+
+ private:
+  static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+  INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+  INT_PTR OnInitDialog();
+  INT_PTR OnSize();
+  INT_PTR OnCommand(int control, int notification);
+  INT_PTR OnNotify(NMHDR& header);
+  void OnListKey(WORD key);
+  void OnGetDisplayInfo(NMLVDISPINFOW& info);
+
+  void AddColumns() const;
+  void FitColumns() const;
+  void SortBy(int column);
+  void Refill();
+  void Show(const std::vector<Occasion>& occasions);
+  void ShowRow(int row);
+  void SelectOnly(const std::vector<int>& rows) const;
+  std::vector<int> Selected() const;
+  std::vector<Occasion> SelectedOccasions() const;
+  void UpdateButtons() const;
+
+  void Change();
+  void Remove();
+  void RemovePlace();
+  void Undo();
+  void Accept();
+  void Cancel();
+
+  HWND Control(int id) const { return GetDlgItem(dialog_, id); }
+  HWND List() const { return Control(IDC_TIMES); }
+  LRESULT SendList(UINT message, WPARAM wParam, LPARAM lParam) const {
+    return SendMessageW(List(), message, wParam, lParam);
+  }
+
+  Editing editing_;
+  TimeRows rows_;
+  const stamp::Form form_;
+  int sortColumn_ = kPlaceColumn;
+  bool descending_ = false;
+  bool isFilling_ = false;
+  HWND dialog_ = nullptr;
+  ResizableDialog size_;
+};
+
+bool OwnTimesDialog::Run(HWND owner) {
+  const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_LISTVIEW_CLASSES | ICC_DATE_CLASSES};
+  InitCommonControlsEx(&classes);
+  return dialogs::RunDialog(owner, IDD_OWN_TIMES, DialogProc, this) == IDOK;
+}
+
+INT_PTR CALLBACK OwnTimesDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
+    reinterpret_cast<OwnTimesDialog*>(lParam)->dialog_ = dialog;
+  }
+  auto* const self = reinterpret_cast<OwnTimesDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
+  if (!self) return FALSE;
+  try {
+    return self->Handle(message, wParam, lParam);
+  } catch (...) {
+    return dialogs::OnException(dialog, message);
+  }
+}
+
+INT_PTR OwnTimesDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_INITDIALOG: return OnInitDialog();
+    case WM_SIZE: return OnSize();
+    case WM_GETMINMAXINFO: size_.LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam)); return TRUE;
+    case WM_EXITSIZEMOVE: size_.KeepSize(); return TRUE;
+    case WM_COMMAND: return OnCommand(LOWORD(wParam), HIWORD(wParam));
+    case WM_NOTIFY: return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
+    case WM_HELP: return dialogs::PassHelpOn(dialog_, lParam);
+  }
+  return FALSE;
+}
+
+INT_PTR OwnTimesDialog::OnInitDialog() {
+  constexpr DWORD kListStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+  SendList(LVM_SETEXTENDEDLISTVIEWSTYLE, kListStyle, kListStyle);
+  AddColumns();
+  size_.Start(dialog_, kAnchors, kSizeFile);
+  OnSize();
+  SendDlgItemMessageW(dialog_, IDC_TYPED, EM_LIMITTEXT, kMostTypedLetters, 0);
+  Refill();
+  ShowRow(0);
+  SetFocus(List());
+  return FALSE;
+}
+
+INT_PTR OwnTimesDialog::OnSize() {
+  size_.ArrangeControls();
+  FitColumns();
+  return TRUE;
+}
+
+INT_PTR OwnTimesDialog::OnCommand(int control, int notification) {
+  switch (control) {
+    case IDC_CHANGE: Change(); return TRUE;
+    case IDC_REMOVE: Remove(); return TRUE;
+    case IDC_REMOVE_PLACE: RemovePlace(); return TRUE;
+    case IDC_UNDO: Undo(); return TRUE;
+    case IDOK: Accept(); return TRUE;
+    case IDCANCEL: Cancel(); return TRUE;
+    case IDC_TYPED:
+      if (notification == EN_CHANGE) {
+        const std::vector<Occasion> selected = SelectedOccasions();
+        Refill();
+        Show(selected);
+      }
+      return TRUE;
+  }
+  return FALSE;
+}
+
+INT_PTR OwnTimesDialog::OnNotify(NMHDR& header) {
+  if (header.idFrom != IDC_TIMES) return FALSE;
+  switch (header.code) {
+    case LVN_GETDISPINFOW: OnGetDisplayInfo(reinterpret_cast<NMLVDISPINFOW&>(header)); return TRUE;
+    case LVN_ODFINDITEMW: {
+      const auto& find = reinterpret_cast<const NMLVFINDITEMW&>(header);
+      const bool byText = (find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) && find.lvfi.psz;
+      SetWindowLongPtrW(dialog_, DWLP_MSGRESULT, byText ? rows_.Beginning(find.lvfi.psz, find.iStart) : -1);
+      return TRUE;
+    }
+    case LVN_COLUMNCLICK: SortBy(reinterpret_cast<const NMLISTVIEW&>(header).iSubItem); return TRUE;
+    case LVN_KEYDOWN: OnListKey(reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey); return TRUE;
+    case LVN_ITEMCHANGED:
+    case LVN_ODSTATECHANGED: UpdateButtons(); return TRUE;
+    case NM_DBLCLK: Change(); return TRUE;
+  }
+  return FALSE;
+}
+
+void OwnTimesDialog::OnListKey(WORD key) {
+  const bool control = GetKeyState(VK_CONTROL) < 0;
+  if (key == VK_DELETE) Remove();
+  if (key == 'Z' && control) Undo();
+  if (key == 'A' && control) {
+    LVITEMW item = {};
+    item.stateMask = item.state = LVIS_SELECTED;
+    SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
+  }
+}
+
+void OwnTimesDialog::OnGetDisplayInfo(NMLVDISPINFOW& info) {
+  const LVITEMW& item = info.item;
+  if (!(item.mask & LVIF_TEXT) || item.iItem < 0 || item.iItem >= rows_.Count() || item.iSubItem >= kColumns) return;
+  lstrcpynW(item.pszText, rows_.Text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
+}
+
+void OwnTimesDialog::AddColumns() const {
+  for (int i = 0; i < kColumns; ++i) {
+    LVCOLUMNW column = {};
+    column.mask = LVCF_TEXT | LVCF_SUBITEM;
+    column.pszText = const_cast<wchar_t*>(kColumnLooks[i].heading);
+    column.iSubItem = i;
+    SendList(LVM_INSERTCOLUMNW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&column));
+  }
+}
+
+void OwnTimesDialog::FitColumns() const {
+  const auto widthOf = [this](const wchar_t* text) {
+    return static_cast<int>(SendList(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text)));
+  };
+  const int margins = 2 * widthOf(L"mm");
+  RECT list;
+  GetWindowRect(List(), &list);
+  int rest = list.right - list.left - GetSystemMetrics(SM_CXVSCROLL) - 2 * GetSystemMetrics(SM_CXEDGE);
+  const auto widthOfColumn = [&](const ColumnLook& look) {
+    return std::max(widthOf(look.sample), widthOf(look.heading)) + margins;
+  };
+  for (const ColumnLook& look : kColumnLooks) rest -= look.sample ? widthOfColumn(look) : 0;
+  for (int i = 0; i < kColumns; ++i) {
+    const ColumnLook& look = kColumnLooks[i];
+    const int width = look.sample ? widthOfColumn(look) : i == kPlaceColumn ? rest * 2 / 5 : rest - rest * 2 / 5;
+    SendList(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(i), width);
+  }
+}
+
+// A second click on a heading turns the order round.
+void OwnTimesDialog::SortBy(int column) {
+  if (column == kCalculatedColumn) return;
+  descending_ = column == sortColumn_ && !descending_;
+  sortColumn_ = column;
+  const std::vector<Occasion> selected = SelectedOccasions();
+  Refill();
+  Show(selected);
+}
+
+// No row is selected then.
+void OwnTimesDialog::Refill() {
+  isFilling_ = true;
+  rows_.Fill(editing_.Now(), dialogs::TextOf(Control(IDC_TYPED)), sortColumn_, descending_);
+  SelectOnly({});
+  SendList(LVM_SETITEMCOUNT, static_cast<WPARAM>(rows_.Count()), 0);
+  InvalidateRect(List(), nullptr, TRUE);
+  SetDlgItemTextW(dialog_, IDC_COUNT, CountText(rows_.Count(), editing_.Now().size()).c_str());
+  isFilling_ = false;
+  UpdateButtons();
+}
+
+// Selects the rows of those that the list shows, or its first row.
+void OwnTimesDialog::Show(const std::vector<Occasion>& occasions) {
+  std::vector<int> shown;
+  for (const Occasion& occasion : occasions) {
+    if (const int row = rows_.RowOf(occasion); row >= 0) shown.push_back(row);
+  }
+  if (shown.empty()) return ShowRow(0);
+  SelectOnly(shown);
+  UpdateButtons();
+}
+
+// Selects a row, or the last one where there are fewer.
+void OwnTimesDialog::ShowRow(int row) {
+  if (rows_.Count() > 0) SelectOnly({std::min(row, rows_.Count() - 1)});
+  UpdateButtons();
+}
+
+void OwnTimesDialog::SelectOnly(const std::vector<int>& rows) const {
+  LVITEMW item = {};
+  item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
+  for (const int row : rows) {
+    item.state = row == rows.front() ? LVIS_SELECTED | LVIS_FOCUSED : LVIS_SELECTED;
+    SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  }
+  if (!rows.empty()) SendList(LVM_ENSUREVISIBLE, static_cast<WPARAM>(rows.front()), FALSE);
+}
+
+std::vector<int> OwnTimesDialog::Selected() const {
+  std::vector<int> selected;
+  LRESULT row = -1;
+  while ((row = SendList(LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0) {
+    if (row < rows_.Count()) selected.push_back(static_cast<int>(row));
+  }
+  return selected;
+}
+
+std::vector<Occasion> OwnTimesDialog::SelectedOccasions() const {
+  std::vector<Occasion> occasions;
+  for (const int row : Selected()) occasions.push_back(rows_.EntryOf(row).occasion);
+  return occasions;
+}
+
+// With one entry selected, Enter in the list changes it. A button that is disabled must not keep the focus.
+void OwnTimesDialog::UpdateButtons() const {
+  if (isFilling_) return;
+  const auto count = SendList(LVM_GETSELECTEDCOUNT, 0, 0);
+  const struct {
+    int control;
+    bool isUsable;
+  } buttons[] = {{IDC_CHANGE, count == 1},
+                 {IDC_REMOVE, count > 0},
+                 {IDC_REMOVE_PLACE, count == 1},
+                 {IDC_UNDO, editing_.CanUndo()}};
+  for (const auto& [control, isUsable] : buttons) {
+    if (!isUsable && GetFocus() == Control(control)) {
+      SendMessageW(dialog_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(List()), TRUE);
+    }
+    EnableWindow(Control(control), isUsable);
+  }
+  SendMessageW(dialog_, DM_SETDEFID, count == 1 ? IDC_CHANGE : IDOK, 0);
+}
+
+void OwnTimesDialog::Change() {
+  const std::vector<int> selected = Selected();
+  if (selected.size() != 1) return;
+  const Entry old = rows_.EntryOf(selected.front());
+  const std::optional<Time> time = AskForTime(dialog_, InWords(old.occasion), old.time, form_);
+  if (!time) return;
+  editing_.Set(old.occasion, *time);
+  Refill();
+  Show({old.occasion});
+}
+
+// No question: Undo takes it back.
+void OwnTimesDialog::Remove() {
+  const std::vector<int> selected = Selected();
+  if (selected.empty()) return;
+  editing_.Remove(SelectedOccasions());
+  Refill();
+  ShowRow(selected.front());
+}
+
+// Entries that the search does not show go too, so this asks.
+void OwnTimesDialog::RemovePlace() {
+  const std::vector<int> selected = Selected();
+  if (selected.size() != 1) return;
+  const std::string place = rows_.EntryOf(selected.front()).occasion.place;
+  const std::vector<Occasion> all = editing_.OfPlace(place);
+  const std::wstring times = all.size() == 1 ? L"the only time" : L"all " + std::to_wstring(all.size()) + L" times";
+  if (!dialogs::IsConfirmed(dialog_, L"Remove " + times + L" set by hand for " + dialogs::Wide(place) + L"?")) return;
+  editing_.Remove(all);
+  Refill();
+  ShowRow(selected.front());
+}
+
+// What comes back is shown, though a search may have hidden it.
+void OwnTimesDialog::Undo() {
+  if (!editing_.CanUndo()) return;
+  const std::vector<Occasion> changed = editing_.Undo();
+  Refill();
+  const bool isHidden = std::ranges::none_of(changed, [this](const Occasion& each) { return rows_.RowOf(each) >= 0; });
+  if (isHidden) SetDlgItemTextW(dialog_, IDC_TYPED, L"");  // fills the list anew
+  Show(changed);
+}
+
+void OwnTimesDialog::Accept() {
+  Changes changes = editing_.Unsaved();
+  if (changes.empty()) return void(EndDialog(dialog_, IDCANCEL));
+  bool replaceOthers = false;
+  for (;;) {
+    std::vector<Occasion> conflicts;
+    if (WriteChanges(changes, editing_.Stored(), replaceOthers, &conflicts)) return void(EndDialog(dialog_, IDOK));
+    if (conflicts.empty()) break;
+    const std::wstring question =
+        L"Meanwhile another program has changed times that you have changed too, such as\n\n" +
+        InWords(conflicts.front()) +
+        L"\n\nShall yours replace them? With No, those stay and your other changes are saved.";
+    const std::optional<bool> decision = dialogs::Decision(dialog_, question);
+    if (!decision) return;
+    replaceOthers = *decision;
+    if (!replaceOthers) {
+      for (const Occasion& occasion : conflicts) changes.erase(occasion);
+    }
+  }
+  dialogs::ShowError(dialog_, L"The times could not be saved in the file\n" + StorePath() +
+                                  L"\n\nSee to it that it can be written (no other program holds it, it is not "
+                                  L"read-only, the disk is not full), then choose OK again.");
+}
+
+void OwnTimesDialog::Cancel() {
+  if (editing_.Unsaved().empty() || dialogs::IsConfirmed(dialog_, L"Discard the changes?")) {
+    EndDialog(dialog_, IDCANCEL);
+  }
+}
+
+}  // namespace
+
+bool RunOwnTimesDialog(HWND owner, OwnHoursCalculate calculate) {
+  std::optional<Entries> stored;
+  const auto read = [&stored] { return (stored = StoredEntries()).has_value(); };
+  if (!dialogs::IsKnown(owner, StorePath(), read)) return false;
+  const stamp::Form form = stamp::ChosenForm(stamp::StoredChoice(), stamp::RegionalForm());
+  return OwnTimesDialog(std::move(*stored), calculate, form).Run(owner);
+}
+
+}  // namespace ownhours
