@@ -24,5 +24,6 @@ void LookUpOptionalEntries() {
   LookUp("lections.dll", "LectionsGetChoice", entries.LectionsGetChoice);
   LookUp("lections.dll", "LectionsGetReadingsBy", entries.LectionsGetReadingsBy);
   LookUp("lections.dll", "LectionsIsYizkorBy", entries.LectionsIsYizkorBy);
+  LookUp("profile.dll", "ProfileCanRead", entries.ProfileCanRead);
   if (!entries.LectionsGetReadingsBy || !entries.LectionsIsYizkorBy) entries.LectionsGetChoice = nullptr;
 }

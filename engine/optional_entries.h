@@ -4,6 +4,7 @@
 
 #include "companion/hours.h"
 #include "companion/lections.h"
+#include "companion/profile.h"
 
 struct OptionalEntryPoints {
   decltype(&::HoursGetFingerprint) HoursGetFingerprint;
@@ -11,6 +12,7 @@ struct OptionalEntryPoints {
   decltype(&::LectionsGetChoice) LectionsGetChoice;
   decltype(&::LectionsGetReadingsBy) LectionsGetReadingsBy;
   decltype(&::LectionsIsYizkorBy) LectionsIsYizkorBy;
+  decltype(&::ProfileCanRead) ProfileCanRead;
 };
 
 extern OptionalEntryPoints OptionalEntries;

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "engine/bound_entries.h"
+#include "engine/core/library_count.h"
 #include "locations/location_store.h"
 
 namespace {
@@ -17,7 +18,7 @@ bool IsOverridden(const char* name) {
 }
 
 bool FindBuiltIn(Location& location) {
-  const uint32_t count = Solar.SolarGetCountOfBuiltInLocations();
+  const uint32_t count = LibraryCount(Solar.SolarGetCountOfBuiltInLocations());
   for (uint32_t index = 0; index < count; ++index) {
     char name[kTextSize] = "";
     Solar.SolarGetBuiltInLocation(index, name, &location.latitude, &location.longitude, &location.zoneHours,

@@ -6,9 +6,11 @@
 #include <string>
 
 #include "engine/bound_entries.h"
+#include "engine/core/library_count.h"
 #include "engine/current.h"
 #include "engine/properties.h"
 #include "engine/string_table.h"
+#include "engine/unread_settings.h"
 #include "locations/core/location_texts.h"
 #include "locations/location_editor.h"
 #include "locations/location_lookup.h"
@@ -55,7 +57,7 @@ void TakeSettingsOf(HWND document) {
 
 void AddNames(HWND dialog) {
   std::set<std::string> builtIn;
-  const uint32_t count = Solar.SolarGetCountOfBuiltInLocations();
+  const uint32_t count = LibraryCount(Solar.SolarGetCountOfBuiltInLocations());
   for (uint32_t index = 0; index < count; ++index) {
     Location place{};
     Solar.SolarGetBuiltInLocation(index, place.name, &place.latitude, &place.longitude, &place.zoneHours,
@@ -172,5 +174,6 @@ LRESULT Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 bool RunLocationManager(HWND owner, HWND document) {
+  if (!MayEditSettings(owner, kStoreFiles)) return false;
   return RunDialog<Handle>(owner, "SELECTLOCDLG", reinterpret_cast<LPARAM>(document)) == 1;
 }
