@@ -1,8 +1,11 @@
 #include "app/start_up.h"
 
+#include <string>
+
 #include "app/core/notice_line.h"
 #include "app/frame_window.h"
 #include "app/program.h"
+#include "app/unread_at_start.h"
 #include "app/window_classes.h"
 #include "companion/kinship.h"
 #include "companion/stamp.h"
@@ -10,6 +13,8 @@
 #include "engine/library_binding.h"
 #include "engine/optional_entries.h"
 #include "engine/string_table.h"
+#include "resources/ids.h"
+#include "win/message_box.h"
 
 ProgramState Program;
 
@@ -30,6 +35,15 @@ bool BindLibraries() {
     return false;
   }
   return true;
+}
+
+// A failure of the system's, not of what the program needs beside it. Answers the exit code.
+int EndWithFailure(const std::string& reason) {
+  constexpr int kFailureExitCode = 1;
+  const std::string text = "The program cannot start, because " + reason +
+                           ".\nPlease close other programs or restart Windows, and start the program again.";
+  ShowStop(nullptr, text.c_str(), TableString(IDS_TITLE));
+  return kFailureExitCode;
 }
 
 int RunMessageLoop() {
@@ -64,8 +78,12 @@ int RunProgram(HINSTANCE instance, HINSTANCE previousInstance, LPSTR commandLine
   ProduceNoticeLine(Program.notice);
   LoadStringTable(instance);
   if (!BindLibraries()) return 0;
-  if (!previousInstance && !RegisterWindowClasses(instance, Program.tooltipBrush)) return 0;
-  if (!CreateFrameWindow(showState)) return 0;
+  if (!previousInstance) {
+    const char* const refused = RegisterWindowClasses(instance, Program.tooltipBrush);
+    if (refused) return EndWithFailure("the window class " + std::string(refused) + " could not be registered");
+  }
+  if (!GoOnWithUnreadSettings()) return 0;
+  if (!CreateFrameWindow(showState)) return EndWithFailure("its main window could not be created");
   const int exitCode = RunMessageLoop();
   ShutDown();
   return exitCode;

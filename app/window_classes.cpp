@@ -52,7 +52,7 @@ HBRUSH BackgroundBrush(Background background, HBRUSH tooltipBrush) {
 
 }  // namespace
 
-bool RegisterWindowClasses(HINSTANCE instance, HBRUSH tooltipBrush) {
+const char* RegisterWindowClasses(HINSTANCE instance, HBRUSH tooltipBrush) {
   for (const WindowClass& row : kWindowClasses) {
     const bool isFrame = &row == kWindowClasses;
     WNDCLASSA windowClass{};
@@ -65,7 +65,7 @@ bool RegisterWindowClasses(HINSTANCE instance, HBRUSH tooltipBrush) {
     windowClass.hbrBackground = BackgroundBrush(row.background, tooltipBrush);
     windowClass.lpszMenuName = isFrame ? MAKEINTRESOURCEA(IDR_MENU) : nullptr;
     windowClass.lpszClassName = row.name;
-    if (!RegisterClassA(&windowClass)) return false;
+    if (!RegisterClassA(&windowClass)) return row.name;
   }
-  return true;
+  return nullptr;
 }

@@ -2,5 +2,5 @@
 
 #include <windows.h>
 
-// Registers the program's fourteen window classes; false when one cannot be registered.
-bool RegisterWindowClasses(HINSTANCE instance, HBRUSH tooltipBrush);
+// Registers the program's fourteen window classes; the name of the one that cannot be registered, null when all are.
+const char* RegisterWindowClasses(HINSTANCE instance, HBRUSH tooltipBrush);

@@ -17,7 +17,8 @@ int32_t CandlesGetTime(const char* location, uint32_t day, uint32_t month, uint3
 
 /* The modal dialog in which the user adds, changes and removes entries; owner may be null. OK writes the changes in the
  * file at once and whole, entries that another process changed meanwhile and lines that are no entries untouched; when
- * that fails, the dialog says so and stays. Cancel writes nothing. */
+ * that fails, the dialog says so and stays. Cancel writes nothing. While the file cannot be read, a box says so in
+ * place of the dialog. */
 void CandlesDoDialog(HWND owner);
 
 #ifdef __cplusplus

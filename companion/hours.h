@@ -45,8 +45,10 @@ int32_t HoursCalculate2(HWND document, int32_t latitude, int32_t longitude, int3
                         int32_t sunriseMinute, int32_t sunsetHour, int32_t sunsetMinute);
 
 /* The modal dialog in which the user chooses zmanim, orders them and makes zmanim of their own; the times that it shows
- * are those of today at the given place. owner may be null. OK writes the choice at once and whole; when that fails,
- * the dialog says so and stays. Cancel writes nothing. */
+ * are those of today at the given place, in the form of times that the user has chosen. owner may be null. OK writes
+ * the choice at once and whole, joined with what another process has stored since the dialog opened; the user is asked
+ * where both have changed the same. When writing fails, the dialog says so and stays. Cancel writes nothing. While the
+ * stored choice cannot be read, a box says so in place of the dialog. */
 void HoursDoDialogInitLoc(HWND owner, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes);
 
 #ifdef __cplusplus

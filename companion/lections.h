@@ -57,7 +57,8 @@ void LectionsGetYizkor(char* text);
 void LectionsGetFont2(LectionsFont* font);
 
 /* Modal dialogs: land, customs and what is shown; the language of the texts. owner may be null. Nonzero when OK has
- * stored the settings; 0 on Cancel, which changes nothing. */
+ * stored the settings; 0 on Cancel, which changes nothing, and when the user gives up on settings that cannot be read,
+ * which a box says in place of the dialog. */
 int32_t LectionsDoConfigureDialog(HWND owner);
 int32_t LectionsDoLanguageDialog(HWND owner);
 

@@ -15,10 +15,11 @@ extern "C" {
  * than 255 bytes are not offered. name is a buffer of 256 bytes with the zero-terminated windows-1252 name of the
  * current place, which is selected at first.
  *
- * Nonzero with the picked name, terminated, in the buffer. Zero with the buffer untouched when the user cancels, when
- * name is null or when the dialog cannot be shown. A place that the user picks with "Use this place at start" becomes
- * "DefaultLocation" in section "Preferences" of "almanac13.ini"; one that is that default and is picked without it
- * leaves the key deleted. A size that the user gives the dialog is kept in "placepick.ini". */
+ * Nonzero with the picked name, terminated, in the buffer. Zero with the buffer untouched when the user cancels, also a
+ * box that names a file of places or settings that cannot be read, when name is null or when the dialog cannot be
+ * shown. A place that the user picks with "Use this place at start" becomes "DefaultLocation" in section "Preferences"
+ * of "almanac13.ini"; one that is that default and is picked without it leaves the key deleted. A size that the user
+ * gives the dialog is kept in "placepick.ini". */
 int32_t PlacePickSelectLocation(HWND owner, char* name);
 
 #ifdef __cplusplus

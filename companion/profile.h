@@ -35,6 +35,12 @@ uint32_t ProfileGetString(const char* section, const char* key, const char* defa
  * back: an empty name, a key with "=" in it or with ";" or "[" at its start, an end of line within a text. */
 int32_t ProfileWriteString(const char* section, const char* key, const char* value, const char* file);
 
+/* Whether what is read of a file is what it holds: nonzero when the file can be read at this moment, or has not changed
+ * since it was, or is not there; 0 when another program keeps it to itself or it may not be opened, so that the
+ * operations above answer defaults or what was last seen. A dialog asks before it shows settings to be changed. The
+ * file need not be an INI file. The library may be older than this entry: look it up by name. */
+int32_t ProfileCanRead(const char* file);
+
 #ifdef __cplusplus
 }
 #endif

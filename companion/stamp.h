@@ -26,7 +26,8 @@ void StampConvert(int32_t hour, int32_t minute, char* text);
 
 /* The modal dialog in which the user chooses the form; owner may be null. Nonzero when it was accepted: the choice then
  * stands in "stamp.ini" and counts from the next call on. Zero, and nothing written, when it was cancelled or could not
- * be shown. When the choice cannot be written, the dialog says so and stays. */
+ * be shown, or when the user gave up on a file that cannot be read, which a box names. When the choice cannot be
+ * written, the dialog says so and stays. */
 int32_t StampConfigure(HWND owner);
 
 #ifdef __cplusplus

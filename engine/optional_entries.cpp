@@ -25,5 +25,6 @@ void LookUpOptionalEntries() {
   LookUp("lections.dll", "LectionsGetReadingsBy", entries.LectionsGetReadingsBy);
   LookUp("lections.dll", "LectionsIsYizkorBy", entries.LectionsIsYizkorBy);
   LookUp("ownhours.dll", "OwnHoursDoDialog", entries.OwnHoursDoDialog);
+  LookUp("profile.dll", "ProfileCanRead", entries.ProfileCanRead);
   if (!entries.LectionsGetReadingsBy || !entries.LectionsIsYizkorBy) entries.LectionsGetChoice = nullptr;
 }

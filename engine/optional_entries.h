@@ -5,6 +5,7 @@
 #include "companion/hours.h"
 #include "companion/lections.h"
 #include "companion/ownhours.h"
+#include "companion/profile.h"
 
 struct OptionalEntryPoints {
   decltype(&::HoursGetFingerprint) HoursGetFingerprint;
@@ -13,6 +14,7 @@ struct OptionalEntryPoints {
   decltype(&::LectionsGetReadingsBy) LectionsGetReadingsBy;
   decltype(&::LectionsIsYizkorBy) LectionsIsYizkorBy;
   decltype(&::OwnHoursDoDialog) OwnHoursDoDialog;
+  decltype(&::ProfileCanRead) ProfileCanRead;
 };
 
 extern OptionalEntryPoints OptionalEntries;

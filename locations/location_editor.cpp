@@ -9,6 +9,7 @@
 
 #include "engine/core/leading_integer.h"
 #include "engine/string_table.h"
+#include "engine/unread_settings.h"
 #include "locations/core/location_texts.h"
 #include "locations/core/packed_coordinate.h"
 #include "locations/core/place_names.h"
@@ -213,6 +214,7 @@ LRESULT Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 bool RunLocationEditor(HWND owner, char (&name)[kTextSize]) {
+  if (!MayEditSettings(owner, kStoreFiles)) return false;
   Editing editing{.name = name, .adding = name[0] == '\0', .builtInZoneMinutes = 0};
   return RunDialog<Handle>(owner, "EDITLOC", reinterpret_cast<LPARAM>(&editing)) == 1;
 }

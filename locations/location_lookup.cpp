@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "engine/bound_entries.h"
+#include "engine/core/library_count.h"
 #include "locations/core/place_names.h"
 #include "locations/location_store.h"
 
@@ -17,7 +18,7 @@ void ReadBuiltIn(uint32_t index, char (&name)[kTextSize], Location& location) {
 }
 
 bool FindBuiltIn(Location& location) {
-  const uint32_t count = Solar.SolarGetCountOfBuiltInLocations();
+  const uint32_t count = LibraryCount(Solar.SolarGetCountOfBuiltInLocations());
   for (uint32_t index = 0; index < count; ++index) {
     char name[kTextSize];
     ReadBuiltIn(index, name, location);
@@ -49,7 +50,7 @@ LocationSource LookUpLocation(Location& location) {
 }
 
 std::vector<std::string> BuiltInLocationNames() {
-  std::vector<std::string> names(Solar.SolarGetCountOfBuiltInLocations());
+  std::vector<std::string> names(LibraryCount(Solar.SolarGetCountOfBuiltInLocations()));
   for (uint32_t index = 0; index < names.size(); ++index) {
     char name[kTextSize];
     Location location{};

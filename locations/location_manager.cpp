@@ -8,6 +8,7 @@
 #include "engine/current.h"
 #include "engine/properties.h"
 #include "engine/string_table.h"
+#include "engine/unread_settings.h"
 #include "locations/core/location_texts.h"
 #include "locations/location_editor.h"
 #include "locations/location_lookup.h"
@@ -216,5 +217,6 @@ LRESULT Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 bool RunLocationManager(HWND owner, HWND document) {
+  if (!MayEditSettings(owner, kStoreFiles)) return false;
   return RunDialog<Handle>(owner, "SELECTLOCDLG", reinterpret_cast<LPARAM>(document)) == 1;
 }

@@ -11,6 +11,7 @@
 inline constexpr char kLocationListFile[] = "shabbat2.ini";
 inline constexpr char kLocationsFile[] = "shabloc2.ini";
 inline constexpr char kElevationFile[] = "almanacelevation.ini";
+inline constexpr const char* kStoreFiles[] = {kLocationListFile, kLocationsFile, kElevationFile};
 
 // A place as its section holds it.
 struct StoredLocation {

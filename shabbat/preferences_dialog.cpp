@@ -8,6 +8,7 @@
 #include "engine/core/records.h"
 #include "engine/mirrored_write.h"
 #include "engine/string_table.h"
+#include "engine/unread_settings.h"
 #include "resources/ids.h"
 #include "shabbat/shabbat_preferences.h"
 #include "win/dialog.h"
@@ -117,5 +118,7 @@ LRESULT Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 bool RunPreferencesDialog(HWND owner) {
+  constexpr const char* kFiles[] = {kFile};
+  if (!MayEditSettings(owner, kFiles)) return false;
   return RunDialog<Handle>(owner, "SHABTIMEDLG") == 1;
 }

@@ -7,6 +7,7 @@
 
 #include "engine/properties.h"
 #include "engine/string_table.h"
+#include "engine/unread_settings.h"
 #include "resources/ids.h"
 #include "win/message_box.h"
 #include "win/scoped.h"
@@ -18,6 +19,8 @@
 #include "zmanim/zmanim_time_text.h"
 
 namespace {
+
+constexpr const char* kOwnTimesFiles[] = {"ownhours.txt"};
 
 constexpr char kOnlyOwnSelection[] =
     "Times of your own can be set for the zmanim of your selection only, not for the built-in zmanim.";
@@ -71,6 +74,15 @@ bool IsSameDay(const CalendarDate& left, const CalendarDate& right) {
   return left.uDay == right.uDay && left.uMonth == right.uMonth && left.uYear == right.uYear;
 }
 
+// The time that the dialog starts with: the user's own where one is stored, which a document computed while the file
+// could not be read does not show.
+ClockTime TimeToEdit(const ShownZman& zman) {
+  ScopedCustomZmanim store;
+  ClockTime time = zman.time;
+  GetCustomZman(store.get(), zman.date, zman.description, zman.place.c_str(), time);
+  return time;
+}
+
 // Looks day and zman up again, since the document may have been computed anew, or closed, since they were shown;
 // whether it still has them.
 bool PutIntoBlock(HWND document, const ShownZman& zman, ClockTime time) {
@@ -115,6 +127,7 @@ bool EditCustomZman(HWND document, const ZmanimCell& cell) {
     ShowInformation(document, kOnlyOwnSelection, TableString(IDS_TITLE));
     return false;
   }
-  const std::optional<ClockTime> typed = EditZmanDialog(document, zman->date, zman->description, zman->time);
+  if (!MayEditSettings(document, kOwnTimesFiles)) return false;
+  const std::optional<ClockTime> typed = EditZmanDialog(document, zman->date, zman->description, TimeToEdit(*zman));
   return typed && Store(document, *zman, *typed) && PutIntoBlock(document, *zman, *typed);
 }

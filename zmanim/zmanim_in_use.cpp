@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "companion/hours.h"
+#include "engine/core/library_count.h"
 #include "engine/optional_entries.h"
 #include "engine/settings_flags.h"
 #include "engine/string_table.h"
@@ -16,7 +17,7 @@
 namespace {
 
 uint32_t CountInUse(bool fromLibrary) {
-  return fromLibrary ? std::min(HoursGetCount(), kMostZmanim) : kBuiltInZmanimCount;
+  return fromLibrary ? std::min(LibraryCount(HoursGetCount()), kMostZmanim) : kBuiltInZmanimCount;
 }
 
 std::string HebrewZmanName(uint32_t zman) {

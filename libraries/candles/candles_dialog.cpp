@@ -12,6 +12,7 @@
 #include "libraries/candles/entry_dialog.h"
 #include "libraries/candles/field_texts.h"
 #include "libraries/dialogs/dialog_parts.h"
+#include "libraries/dialogs/known_file.h"
 #include "libraries/dialogs/windows_1252.h"
 
 namespace candles {
@@ -254,8 +255,11 @@ INT_PTR CALLBACK CandlesDialogProc(HWND dialog, UINT message, WPARAM wParam, LPA
 void DoCandlesDialog(HWND owner) {
   const INITCOMMONCONTROLSEX listView = {sizeof listView, ICC_LISTVIEW_CLASSES};
   InitCommonControlsEx(&listView);
+  std::optional<Entries> stored;
+  const auto read = [&stored] { return (stored = StoredEntries()).has_value(); };
+  if (!dialogs::IsKnown(owner, StorePath(), read)) return;
   ListState state;
-  state.stored = StoredEntries();
+  state.stored = *stored;
   state.entries = state.stored;
   RunDialog(owner, IDD_CANDLES, CandlesDialogProc, &state);
 }

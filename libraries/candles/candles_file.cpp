@@ -30,10 +30,12 @@ std::optional<Times> StoredTimes(std::string_view place, uint32_t day, uint32_t 
   return CurrentStore().Find(place, day, month, year);
 }
 
-Entries StoredEntries() {
+std::optional<Entries> StoredEntries() {
   const std::lock_guard lock(storeFile.mutex);
   storeFile.watched.Distrust();
-  return CurrentStore().All();
+  const Store& store = CurrentStore();
+  if (!storeFile.watched.IsKnown()) return std::nullopt;
+  return store.All();
 }
 
 bool WriteChanges(const Changes& changes) {

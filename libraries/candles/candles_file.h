@@ -14,8 +14,8 @@ namespace candles {
 // As Store::Find, in a store that is at most 50 ms old.
 std::optional<Times> StoredTimes(std::string_view place, uint32_t day, uint32_t month, uint32_t year);
 
-// The entries as they are in the file now.
-Entries StoredEntries();
+// The entries as they are in the file now; nothing when the file cannot be read.
+std::optional<Entries> StoredEntries();
 
 // Makes the changes in the file as it is now, at once and whole; false when that fails, and the file is as it was.
 bool WriteChanges(const Changes& changes);

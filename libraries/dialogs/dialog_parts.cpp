@@ -55,4 +55,10 @@ bool IsConfirmed(HWND dialog, const std::wstring& question) {
   return MessageBoxW(dialog, question.c_str(), TextOf(dialog).c_str(), buttons) == IDYES;
 }
 
+std::optional<bool> Decision(HWND dialog, const std::wstring& question) {
+  const int answer = MessageBoxW(dialog, question.c_str(), TextOf(dialog).c_str(), MB_YESNOCANCEL | MB_ICONQUESTION);
+  if (answer != IDYES && answer != IDNO) return std::nullopt;
+  return answer == IDYES;
+}
+
 }  // namespace dialogs

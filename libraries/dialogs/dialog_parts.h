@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 namespace dialogs {
@@ -30,5 +31,8 @@ INT_PTR PassHelpOn(HWND dialog, LPARAM helpInfo);
 
 // A question under the dialog's own title; "No" is the default.
 bool IsConfirmed(HWND dialog, const std::wstring& question);
+
+// The answer to a question that has Cancel beside Yes and No, under the dialog's own title; nothing for Cancel.
+std::optional<bool> Decision(HWND dialog, const std::wstring& question);
 
 }  // namespace dialogs

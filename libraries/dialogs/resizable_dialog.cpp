@@ -13,6 +13,7 @@ constexpr char kSection[] = "Dialog";
 constexpr char kWidth[] = "Width";
 constexpr char kHeight[] = "Height";
 constexpr LONG kMostUnits = 4000;
+constexpr LONG kMarginUnits = 7;  // around the controls of every dialog
 
 SIZE SizeOf(const RECT& rectangle) {
   return {rectangle.right - rectangle.left, rectangle.bottom - rectangle.top};
@@ -29,6 +30,22 @@ SIZE PixelsOfMostUnits(HWND dialog) {
   RECT rectangle = {0, 0, kMostUnits, kMostUnits};
   MapDialogRect(dialog, &rectangle);
   return SizeOf(rectangle);
+}
+
+// The client area that the controls need as the template has laid them out. The system makes no dialog larger than the
+// screen, whatever its template says.
+SIZE LayoutSizeOf(HWND dialog) {
+  RECT margin = {0, 0, kMarginUnits, kMarginUnits};
+  MapDialogRect(dialog, &margin);
+  SIZE size = ClientSizeOf(dialog);
+  for (HWND control = GetWindow(dialog, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
+    RECT rectangle;
+    GetWindowRect(control, &rectangle);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rectangle), 2);
+    size.cx = std::max(size.cx, rectangle.right + margin.right);
+    size.cy = std::max(size.cy, rectangle.bottom + margin.bottom);
+  }
+  return size;
 }
 
 RECT WorkAreaAt(HWND window) {
@@ -77,9 +94,11 @@ void ResizableDialog::Start(HWND dialog, std::span<const Anchor> anchors, const 
   }
   RECT window;
   GetWindowRect(dialog, &window);
-  leastWindow_ = SizeOf(window);
-  leastClient_ = ClientSizeOf(dialog);
+  const SIZE made = ClientSizeOf(dialog);
+  leastClient_ = LayoutSizeOf(dialog);
+  leastWindow_ = {SizeOf(window).cx + leastClient_.cx - made.cx, SizeOf(window).cy + leastClient_.cy - made.cy};
   dialog_ = dialog;
+  area_.Start(dialog, leastClient_);
   const SIZE client = KeptClientSize();
   PlaceOverOwner(dialog,
                  {leastWindow_.cx + client.cx - leastClient_.cx, leastWindow_.cy + client.cy - leastClient_.cy});
@@ -94,14 +113,16 @@ SIZE ResizableDialog::KeptClientSize() const {
   return {std::max(kept.right, leastClient_.cx), std::max(kept.bottom, leastClient_.cy)};
 }
 
-void ResizableDialog::ArrangeControls() const {
+void ResizableDialog::ArrangeControls() {
   if (!dialog_) return;
-  const SIZE client = ClientSizeOf(dialog_);
+  const SIZE layout = area_.Fit();
+  const POINT position = area_.Position();
   HDWP positions = BeginDeferWindowPos(static_cast<int>(controls_.size()));
   for (const Control& control : controls_) {
     RECT rectangle = control.rectangle;
-    Apply(control.anchor.horizontal, client.cx - leastClient_.cx, rectangle.left, rectangle.right);
-    Apply(control.anchor.vertical, client.cy - leastClient_.cy, rectangle.top, rectangle.bottom);
+    Apply(control.anchor.horizontal, layout.cx - leastClient_.cx, rectangle.left, rectangle.right);
+    Apply(control.anchor.vertical, layout.cy - leastClient_.cy, rectangle.top, rectangle.bottom);
+    OffsetRect(&rectangle, -position.x, -position.y);
     const SIZE size = SizeOf(rectangle);
     positions = DeferWindowPos(positions, control.window, nullptr, rectangle.left, rectangle.top, size.cx, size.cy,
                                SWP_NOZORDER | SWP_NOACTIVATE);
@@ -110,7 +131,9 @@ void ResizableDialog::ArrangeControls() const {
 }
 
 void ResizableDialog::LimitSize(MINMAXINFO& limits) const {
-  if (dialog_) limits.ptMinTrackSize = {leastWindow_.cx, leastWindow_.cy};
+  if (!dialog_) return;
+  const SIZE work = SizeOf(WorkAreaAt(dialog_));
+  limits.ptMinTrackSize = {std::min(leastWindow_.cx, work.cx), std::min(leastWindow_.cy, work.cy)};
 }
 
 void ResizableDialog::KeepSize() const {

@@ -27,8 +27,8 @@ ShownSun SunShown(int32_t unixDay, const sun::PlaceSettings& place) {
 
 }  // namespace
 
-DayTimes::DayTimes(const sun::PlaceSettings& place, double utcSeconds)
-    : unixDay_(UnixDayAt(place, utcSeconds)), day_(unixDay_, place, SunShown(unixDay_, place)) {}
+DayTimes::DayTimes(const sun::PlaceSettings& place, double utcSeconds, stamp::Form form)
+    : unixDay_(UnixDayAt(place, utcSeconds)), form_(form), day_(unixDay_, place, SunShown(unixDay_, place)) {}
 
 std::string DayTimes::DateText() const {
   const calendar::Date date = calendar::GregorianFromAbsolute(unixDay_ + calendar::kAbsoluteDayOfUnixDay0);
@@ -41,9 +41,7 @@ std::string DayTimes::TimeOf(const Definition& zman) {
   const std::optional<int64_t> minute = day_.ClockMinute(zman);
   if (!minute) return "----";
   const sun::HourAndMinute time = sun::TimeOfDay(*minute);
-  char text[32];
-  std::snprintf(text, sizeof text, "%02d:%02d", time.hour, time.minute);
-  return text;
+  return stamp::TimeText(time.hour, time.minute, form_);
 }
 
 }  // namespace hours

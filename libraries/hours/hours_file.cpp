@@ -47,24 +47,28 @@ uint64_t SelectionLock::Fingerprint() const {
   return choiceFile.fingerprint;
 }
 
-Choice StoredChoice() {
+std::optional<Choice> StoredChoice() {
   const std::lock_guard lock(choiceFile.mutex);
   choiceFile.watched.Distrust();
   Refresh();
+  if (!choiceFile.watched.IsKnown()) return std::nullopt;
   return choiceFile.choice;
 }
 
-bool WriteChoice(const Choice& choice) {
+WriteResult WriteChoice(const Choice& choice, const Choice& expected) {
   const std::lock_guard lock(choiceFile.mutex);
   std::string text;
-  const auto apply = [&choice, &text](std::string& bytes) {
-    bytes = Applied(choice, bytes);
+  bool isExpected = true;
+  const auto apply = [&](std::string& bytes) {
+    isExpected = ReadChoice(bytes) == expected;
+    if (isExpected) bytes = Applied(choice, bytes);
     text = bytes;
-    return true;
+    return isExpected;
   };
-  if (!choiceFile.watched.Edit(apply)) return false;
-  TakeUp(text);
-  return true;
+  const bool isWritten = choiceFile.watched.Edit(apply);
+  if (isWritten || !isExpected) TakeUp(text);
+  if (!isExpected) return WriteResult::kChangedMeanwhile;
+  return isWritten ? WriteResult::kWritten : WriteResult::kFailed;
 }
 
 std::wstring ChoicePath() {

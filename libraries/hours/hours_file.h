@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,11 +34,12 @@ class SelectionLock {
   std::lock_guard<std::mutex> lock_;
 };
 
-// The choice as it is in the file now.
-Choice StoredChoice();
+// The choice as it is in the file now; nothing when the file cannot be read.
+std::optional<Choice> StoredChoice();
 
-// Writes the choice, at once and whole; false when that fails, and the file is as it was.
-bool WriteChoice(const Choice& choice);
+// Writes the choice, at once and whole, into a file that holds the expected one; else the file is as it was.
+enum class WriteResult { kWritten, kChangedMeanwhile, kFailed };
+WriteResult WriteChoice(const Choice& choice, const Choice& expected);
 
 // The file's full path, for messages.
 std::wstring ChoicePath();

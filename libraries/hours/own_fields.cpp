@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "libraries/hours/choice_editing.h"
 #include "libraries/hours/description_text.h"
 
 namespace hours {
@@ -36,8 +37,19 @@ const char* RangeComplaint(Unit unit) {
   return "";
 }
 
-// What is wrong with a description, apart from its being missing; empty when nothing is.
-std::string TextComplaint(const std::string& name, std::string_view text) {
+// A text of the zman that is changed, as it was before; empty for a new one.
+std::string_view Stored(const Choice& choice, uint32_t number, std::string OwnZman::*text) {
+  const OwnZman* const zman = FindOwn(choice, OwnId(number));
+  return zman ? std::string_view(zman->*text) : std::string_view();
+}
+
+// What is wrong with a description, apart from its being missing; empty when nothing is. What was stored stays usable.
+std::string TextComplaint(const std::string& name, std::string_view text, std::string_view stored) {
+  if (text == stored) return {};
+  constexpr std::string_view kNotInNames = "{}\\";  // they command the word processors that read exported files
+  if (const size_t at = text.find_first_of(kNotInNames); at != text.npos) {
+    return name + " has a \"" + text[at] + "\", which the name of a zman cannot have. Write it without.";
+  }
   if (text.size() > kMostDescriptionBytes) {
     return name + " has " + std::to_string(text.size()) + " letters, but at most " +
            std::to_string(kMostDescriptionBytes) + " have room. Shorten it.";
@@ -55,7 +67,10 @@ std::string DescriptionComplaint(const OwnTyped& typed, const Choice& choice, ui
   }
   const std::string_view description = WithoutBlanks(*typed.description);
   if (description.empty()) return "The description is missing. Write what the zman is called, such as First light.";
-  if (std::string complaint = TextComplaint("The description", description); !complaint.empty()) return complaint;
+  const std::string_view stored = Stored(choice, number, &OwnZman::description);
+  if (std::string complaint = TextComplaint("The description", description, stored); !complaint.empty()) {
+    return complaint;
+  }
   const std::string own = number == 0 ? std::string() : OwnId(number);
   const auto isTaken = [&](const OfferedZman& other) {
     return other.id != own && other.zman.description == description;
@@ -64,8 +79,11 @@ std::string DescriptionComplaint(const OwnTyped& typed, const Choice& choice, ui
   return "Another zman is called " + std::string(description) + " already. Write another description.";
 }
 
-std::string HebrewComplaint(const OwnTyped& typed) {
-  if (typed.hebrew) return TextComplaint("The Hebrew description", WithoutBlanks(*typed.hebrew));
+std::string HebrewComplaint(const OwnTyped& typed, const Choice& choice, uint32_t number) {
+  if (typed.hebrew) {
+    return TextComplaint("The Hebrew description", WithoutBlanks(*typed.hebrew),
+                         Stored(choice, number, &OwnZman::hebrew));
+  }
   return "The Hebrew description has letters that Hebrew names cannot have. Write it in Hebrew letters without points, "
          "or leave it empty.";
 }
@@ -84,7 +102,9 @@ OwnAnswer ReadOwn(const OwnTyped& typed, const Choice& choice, uint32_t number) 
   if (std::string complaint = DescriptionComplaint(typed, choice, number); !complaint.empty()) {
     return {{}, OwnField::kDescription, complaint};
   }
-  if (std::string complaint = HebrewComplaint(typed); !complaint.empty()) return {{}, OwnField::kHebrew, complaint};
+  if (std::string complaint = HebrewComplaint(typed, choice, number); !complaint.empty()) {
+    return {{}, OwnField::kHebrew, complaint};
+  }
   if (std::string complaint = AmountComplaint(typed); !complaint.empty()) return {{}, OwnField::kAmount, complaint};
   OwnAnswer answer;
   answer.zman = {number,

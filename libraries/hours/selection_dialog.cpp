@@ -5,7 +5,6 @@
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/hours/choice_editing.h"
 #include "libraries/hours/description_text.h"
-#include "libraries/hours/hours_file.h"
 #include "libraries/hours/hours_ids.h"
 #include "libraries/hours/own_dialog.h"
 
@@ -103,8 +102,9 @@ INT_PTR SelectionDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 INT_PTR SelectionDialog::OnOpen() {
-  offeredList_.Start(Control(IDC_OFFERED), ZmanList::Numbers::kNo);
-  chosenList_.Start(Control(IDC_CHOSEN), ZmanList::Numbers::kYes);
+  const std::wstring widestTime = Wide(times_.WidestTime());
+  offeredList_.Start(Control(IDC_OFFERED), ZmanList::Numbers::kNo, widestTime);
+  chosenList_.Start(Control(IDC_CHOSEN), ZmanList::Numbers::kYes, widestTime);
   size_.Start(dialog_, kAnchors, kSizeFile);
   OnSize();
   SendDlgItemMessageW(dialog_, IDC_TYPED, EM_LIMITTEXT, kMostTypedLetters, 0);
@@ -290,21 +290,6 @@ void SelectionDialog::DeleteOwn() {
   offered_ = OfferedList(choice_);
   ShowOffered({});
   ShowChosen(row);
-}
-
-void SelectionDialog::Accept() {
-  if (choice_.chosen.empty()) {
-    dialogs::ShowError(dialog_, L"No zman is chosen. Add at least one, or press Restore Defaults.");
-    Focus(IDC_OFFERED);
-    return;
-  }
-  if (choice_ != stored_ && !WriteChoice(choice_)) {
-    dialogs::ShowError(dialog_, L"The selection could not be saved in the file\n" + ChoicePath() +
-                                    L"\n\nSee to it that it can be written (no other program holds it, it is not "
-                                    L"read-only, the disk is not full), then choose OK again.");
-    return;
-  }
-  EndDialog(dialog_, IDOK);
 }
 
 // Escape while a row is being dragged ends that only.

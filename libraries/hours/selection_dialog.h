@@ -46,6 +46,7 @@ class SelectionDialog {
   void ChangeOwnZman();
   void DeleteOwn();
   void Accept();
+  bool Save();
   void Cancel();
 
   void ShowOffered(const std::string& selectedId);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <string_view>
+#include <utility>
 
 namespace hours {
 namespace {
@@ -26,15 +27,16 @@ bool BeginsWith(const std::wstring& text, std::wstring_view typed) {
 const ZmanList::Column ZmanList::kColumns[] = {
     {L"No.", L"888", LVCFMT_LEFT, &ShownRow::number},
     {L"Zman", nullptr, LVCFMT_LEFT, &ShownRow::name},
-    {L"Today", L"88:88", LVCFMT_RIGHT, &ShownRow::time},
+    {L"Today", L"", LVCFMT_RIGHT, &ShownRow::time},  // the sample is the widest time
 };
 
 const ZmanList::Column* ZmanList::ColumnBegin() const {
   return numbers_ == Numbers::kYes ? kColumns : kColumns + 1;
 }
 
-void ZmanList::Start(HWND list, Numbers numbers) {
+void ZmanList::Start(HWND list, Numbers numbers, std::wstring widestTime) {
   list_ = list;
+  widestTime_ = std::move(widestTime);
   numbers_ = numbers;
   constexpr DWORD kStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
   Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kStyle, kStyle);
@@ -85,7 +87,8 @@ void ZmanList::FitColumns() const {
       stretched = index;
       continue;
     }
-    const int width = std::max(WidthOf(column->sample), WidthOf(column->heading)) + margins;
+    const wchar_t* const sample = column->text == &ShownRow::time ? widestTime_.c_str() : column->sample;
+    const int width = std::max(WidthOf(sample), WidthOf(column->heading)) + margins;
     Send(LVM_SETCOLUMNWIDTH, index, width);
     rest -= width;
   }

@@ -26,8 +26,8 @@ class ZmanList {
  public:
   enum class Numbers { kNo, kYes };
 
-  // list: an owner-data list view in report form, which gets its columns.
-  void Start(HWND list, Numbers numbers);
+  // list: an owner-data list view in report form, which gets its columns. widestTime: in the form of times.
+  void Start(HWND list, Numbers numbers, std::wstring widestTime);
 
   // The columns' widths, after the list has changed its own.
   void FitColumns() const;
@@ -76,6 +76,7 @@ class ZmanList {
   HWND list_ = nullptr;
   std::unique_ptr<std::remove_pointer_t<HFONT>, FontDeleter> boldFont_;  // of headings
   Numbers numbers_ = Numbers::kNo;
+  std::wstring widestTime_;
   std::vector<ShownRow> rows_;
 };
 

@@ -1,6 +1,7 @@
 #include "libraries/lections/configure_dialog.h"
 
 #include "libraries/dialogs/dialog_parts.h"
+#include "libraries/dialogs/known_file.h"
 #include "libraries/lections/accept_settings.h"
 #include "libraries/lections/lections_ids.h"
 #include "libraries/lections/settings_store.h"
@@ -83,6 +84,7 @@ INT_PTR CALLBACK ConfigureDialogProc(HWND dialog, UINT message, WPARAM wParam, L
 }  // namespace
 
 bool DoConfigureDialog(HWND owner) {
+  if (!dialogs::IsKnownIni(owner, kSettingsFile)) return false;
   return dialogs::RunDialog(owner, IDD_CONFIGURE, ConfigureDialogProc, nullptr) == IDOK;
 }
 

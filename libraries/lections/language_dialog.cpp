@@ -1,6 +1,7 @@
 #include "libraries/lections/language_dialog.h"
 
 #include "libraries/dialogs/dialog_parts.h"
+#include "libraries/dialogs/known_file.h"
 #include "libraries/lections/accept_settings.h"
 #include "libraries/lections/language.h"
 #include "libraries/lections/lections_ids.h"
@@ -51,6 +52,7 @@ INT_PTR CALLBACK LanguageDialogProc(HWND dialog, UINT message, WPARAM wParam, LP
 }  // namespace
 
 bool DoLanguageDialog(HWND owner) {
+  if (!dialogs::IsKnownIni(owner, kSettingsFile)) return false;
   return dialogs::RunDialog(owner, IDD_LANGUAGE, LanguageDialogProc, nullptr) == IDOK;
 }
 

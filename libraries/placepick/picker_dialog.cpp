@@ -24,7 +24,6 @@ using dialogs::Wide;
 
 constexpr char kSizeFile[] = "placepick.ini";
 
-constexpr char kStartFile[] = "almanac13.ini";
 constexpr char kStartSection[] = "Preferences";
 constexpr char kStartKey[] = "DefaultLocation";
 constexpr wchar_t kCaption[] = L"Times / Readings";

@@ -14,10 +14,7 @@
 namespace placepick {
 namespace {
 
-// "shabbat2.ini" lists the user's places: a key a place, its value not empty. "shabloc2.ini" has a section for each.
-constexpr char kListFile[] = "shabbat2.ini";
 constexpr char kListSection[] = "Locations";
-constexpr char kPlacesFile[] = "shabloc2.ini";
 
 // The list of keys is read in one piece of this many bytes; keys beyond it are not seen.
 constexpr uint32_t kKeyListSize = 20480;

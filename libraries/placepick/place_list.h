@@ -15,6 +15,10 @@ namespace placepick {
 // The program keeps names in buffers of this many bytes, terminator included.
 inline constexpr std::size_t kNameSize = 256;
 
+// kListFile lists the user's places: a key a place, its value not empty. kPlacesFile has a section for each.
+inline constexpr char kListFile[] = "shabbat2.ini";
+inline constexpr char kPlacesFile[] = "shabloc2.ini";
+
 struct Place {
   std::string name;
   // Packed as degrees x 100 + minutes of arc, negative for south and west; of the user's own any numbers.

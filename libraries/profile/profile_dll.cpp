@@ -59,3 +59,7 @@ int32_t ProfileWriteString(const char* section, const char* key, const char* val
 } catch (...) {
   return 0;
 }
+
+int32_t ProfileCanRead(const char* file) try { return !IsName(file) || store.CanRead(file); } catch (...) {
+  return 0;
+}

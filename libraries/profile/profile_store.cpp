@@ -10,12 +10,24 @@ Store::File& Store::FileNamed(const char* name) {
   return known != files_.end() ? known->second : files_.try_emplace(name, name).first->second;
 }
 
+void Store::Refresh(File& file) {
+  std::string text;
+  if (file.watched.Refresh(&text)) file.document = std::make_shared<IniDocument>(std::move(text));
+}
+
 std::shared_ptr<const IniDocument> Store::Read(const char* file) {
   const std::lock_guard lock(mutex_);
   File& asked = FileNamed(file);
-  std::string text;
-  if (asked.watched.Refresh(&text)) asked.document = std::make_shared<IniDocument>(std::move(text));
+  Refresh(asked);
   return asked.document;
+}
+
+bool Store::CanRead(const char* file) {
+  const std::lock_guard lock(mutex_);
+  File& asked = FileNamed(file);
+  asked.watched.Distrust();
+  Refresh(asked);
+  return asked.watched.IsKnown();
 }
 
 bool Store::Edit(const char* file, const Change& change) {

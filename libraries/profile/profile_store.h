@@ -20,6 +20,10 @@ class Store {
   // is empty, or as it was last seen.
   std::shared_ptr<const IniDocument> Read(const char* file);
 
+  // Whether Read answers what the file holds at this moment, or holds what it last held: not when another process keeps
+  // a file to itself that has changed since, or that was never read. Asks the file itself.
+  bool CanRead(const char* file);
+
   // What an edit makes of a file's text; none when it cannot be done.
   using Change = std::function<std::optional<std::string>(const IniDocument& document)>;
 
@@ -36,6 +40,7 @@ class Store {
   };
 
   File& FileNamed(const char* name);
+  static void Refresh(File& file);
 
   std::mutex mutex_;
   std::map<std::string, File, std::less<>> files_;

@@ -27,6 +27,9 @@ class WatchedFile {
   // The next Refresh asks the file itself.
   void Distrust() { distrusted_ = true; }
 
+  // Whether the last Refresh or Edit knew the file as it stood then; a file that is not there counts as known.
+  bool IsKnown() const { return !unreadable_; }
+
   // Alters a file's bytes; whether they may be written so.
   using Change = std::function<bool(std::string& bytes)>;
 

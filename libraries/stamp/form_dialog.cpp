@@ -3,6 +3,7 @@
 #include <string>
 
 #include "libraries/dialogs/dialog_parts.h"
+#include "libraries/dialogs/known_file.h"
 #include "libraries/stamp/form_setting.h"
 #include "libraries/stamp/stamp_core.h"
 #include "libraries/stamp/stamp_ids.h"
@@ -80,6 +81,7 @@ INT_PTR CALLBACK FormDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM
 }  // namespace
 
 bool DoFormDialog(HWND owner) {
+  if (!dialogs::IsKnownIni(owner, kFormFile)) return false;
   return dialogs::RunDialog(owner, IDD_FORM, FormDialogProc, nullptr) == IDOK;
 }
 

@@ -12,7 +12,6 @@ namespace {
 
 constexpr char kSection[] = "Times";
 constexpr char kKey[] = "Form";
-constexpr char kFile[] = "stamp.ini";
 
 }  // namespace
 
@@ -24,16 +23,16 @@ Form RegionalForm() {
 
 std::string StoredChoice() {
   char choice[8];
-  ProfileGetString(kSection, kKey, "", choice, sizeof choice, kFile);
+  ProfileGetString(kSection, kKey, "", choice, sizeof choice, kFormFile);
   return choice;
 }
 
 bool StoreChoice(const char* choice) {
-  return ProfileWriteString(kSection, kKey, choice, kFile) != 0;
+  return ProfileWriteString(kSection, kKey, choice, kFormFile) != 0;
 }
 
 std::wstring SettingPath() {
-  return settings_folder::PathNow(settings_folder::Wide(kFile));
+  return settings_folder::PathNow(settings_folder::Wide(kFormFile));
 }
 
 }  // namespace stamp

@@ -8,6 +8,8 @@
 
 namespace stamp {
 
+constexpr char kFormFile[] = "stamp.ini";
+
 Form RegionalForm();
 
 // As it stands in the file; empty when there is none.

@@ -169,8 +169,8 @@ TEST_F(CandlesDialog, ShowsWhatStandsInTheFileAtThatMoment) {
 }
 
 TEST_F(CandlesDialog, FailingWriteIsToldAndTheDialogStays) {
-  std::filesystem::create_directories(home_.Path("candles.txt"));  // a folder where the file should be
   ListDialog dialog;
+  std::filesystem::create_directories(home_.Path("candles.txt"));  // a folder where the file should be
   const EntryDialog entry(dialog, IDC_ADD);
   entry.Fill(L"Jerusalem", L"8.3.2024", L"17:25", L"18:31");
   ASSERT_TRUE(entry.Accept());

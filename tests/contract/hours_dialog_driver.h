@@ -13,6 +13,7 @@
 #include "companion/hours.h"
 #include "libraries/hours/hours_ids.h"
 #include "tests/contract/dialog_driver.h"
+#include "tests/contract/regional_form.h"
 #include "tests/contract/settings_home.h"
 
 inline constexpr wchar_t kSelectionTitle[] = L"Zmanim Selection";
@@ -158,4 +159,5 @@ class HoursDialog : public testing::Test {
   std::string Stored() const { return home_.Bytes("hours.txt"); }
 
   SettingsHome home_;
+  const RegionalForm region_{"1"};  // 24-hour form
 };

@@ -42,6 +42,9 @@ TEST_F(HoursDialog, EveryFieldIsCheckedAndTheFocusGoesThere) {
   own.Set(IDC_DESCRIPTION, L"a|b");
   EXPECT_EQ(own.ErrorIn(IDC_DESCRIPTION),
             L"The description has a \"|\" or a letter that cannot be shown. Write it without.");
+  own.Set(IDC_DESCRIPTION, L"a\\b");
+  EXPECT_EQ(own.ErrorIn(IDC_DESCRIPTION),
+            L"The description has a \"\\\", which the name of a zman cannot have. Write it without.");
   own.Set(IDC_DESCRIPTION, std::wstring(49, L'x'));
   EXPECT_EQ(own.ErrorIn(IDC_DESCRIPTION), L"The description has 49 letters, but at most 48 have room. Shorten it.");
   for (const wchar_t* taken : {L"Mine", L"HaNetz HaChama"}) {

@@ -9,6 +9,7 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -180,7 +181,8 @@ TEST_F(HoursDialog, AHundredAreTheMost) {
 }
 
 TEST_F(HoursDialog, FailingWriteIsToldAndTheDialogStays) {
-  std::filesystem::create_directories(home_.Path("hours.txt"));  // a folder where the file should be
+  home_.Put("hours.txt", "# none yet\r\n");
+  SetFileAttributesW(home_.Path("hours.txt").c_str(), FILE_ATTRIBUTE_READONLY);
   SelectionRun dialog;
   dialog.Click(IDC_REMOVE);
   Press(dialog.Window(), IDOK);
@@ -189,7 +191,7 @@ TEST_F(HoursDialog, FailingWriteIsToldAndTheDialogStays) {
   EXPECT_NE(text.find(L"then choose OK again"), std::wstring::npos);
   EXPECT_EQ(dialog.Count(IDC_CHOSEN), 24);
 
-  std::filesystem::remove(home_.Path("hours.txt"));
+  SetFileAttributesW(home_.Path("hours.txt").c_str(), FILE_ATTRIBUTE_NORMAL);
   dialog.Accept();
   EXPECT_EQ(HoursGetCount(), 24u);
 }
@@ -228,6 +230,25 @@ TEST_F(HoursDialog, TimesAreThoseOfTodayAtThePlace) {
   }
   dialog.Type(L"shema gro");
   EXPECT_EQ(dialog.Cell(IDC_OFFERED, 1, 1), dialog.Cell(IDC_CHOSEN, 1, 2));
+  dialog.Accept();
+}
+
+TEST_F(HoursDialog, TimesHaveTheFormThatTheUserHasChosen) {
+  home_.Put("stamp.ini", "[Times]\r\nForm=12\r\n");
+  home_.Put("hours.txt", "zman sunrise\r\nzman sunset\r\n");
+  SelectionRun dialog;
+  const std::wstring sunrise = dialog.Cell(IDC_CHOSEN, 0, 2);
+  const std::wstring sunset = dialog.Cell(IDC_CHOSEN, 1, 2);
+  EXPECT_EQ(sunrise.substr(5), L" a.m.") << sunrise;
+  EXPECT_EQ(sunset.substr(5), L" p.m.") << sunset;
+  // The column has room for them.
+  const HWND list = dialog.Control(IDC_CHOSEN);
+  EXPECT_GT(SendMessageW(list, LVM_GETCOLUMNWIDTH, 2, 0),
+            SendMessageW(list, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(sunset.c_str())));
+  const OwnRun own(dialog, IDC_NEW);
+  own.Fill(L"First light", L"72", L"minutes before sunrise");
+  EXPECT_THAT(own.Text(IDC_MEANING), EndsWith(L" a.m."));
+  EXPECT_TRUE(own.Cancel());
   dialog.Accept();
 }
 

@@ -158,8 +158,8 @@ TEST_F(LectionsDialog, CancelAndEscapeChangeNothing) {
 }
 
 TEST_F(LectionsDialog, FailingWriteIsToldAndTheDialogStays) {
-  std::filesystem::create_directories(home_.Path("lections.ini"));  // a folder where the file should be
   ConfigureDialog dialog;
+  std::filesystem::create_directories(home_.Path("lections.ini"));  // a folder where the file should be
   dialog.Click(IDC_SEPHARDI);
   Press(dialog.Window(), IDOK);
   const std::wstring text = dialog.Answer(L"Error", dialog.Window(), IDI_HAND, IDOK);
@@ -198,8 +198,8 @@ TEST_F(LectionsDialog, ChosenLanguageIsStoredAndCountsAtOnce) {
 }
 
 TEST_F(LectionsDialog, FailingWriteOfTheLanguageIsTold) {
-  std::filesystem::create_directories(home_.Path("lections.ini"));
   LanguageDialog dialog;
+  std::filesystem::create_directories(home_.Path("lections.ini"));
   SendMessageW(dialog.List(), LB_SETCURSEL, 1, 0);
   Press(dialog.Window(), IDOK);
   dialog.Answer(L"Error", dialog.Window(), IDI_HAND, IDOK);

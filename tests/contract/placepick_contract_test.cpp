@@ -255,8 +255,8 @@ TEST_F(PlacePickContract, DefaultPickedWithoutTheTickIsNoLongerTheDefault) {
 }
 
 TEST_F(PlacePickContract, WhenTheStartCannotBeWrittenAMessageNamesTheFileAndThePickStands) {
-  std::filesystem::create_directories(home_.Path("almanac13.ini"));  // a folder cannot be written as a file
   PickerRun picker("Jerusalem");
+  std::filesystem::create_directories(home_.Path("almanac13.ini"));  // a folder cannot be written as a file
   picker.Type(L"haif");
   picker.Click(IDC_START);
   PostMessageW(picker.Dialog(), WM_COMMAND, IDOK, 0);

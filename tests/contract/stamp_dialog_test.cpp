@@ -119,8 +119,8 @@ TEST_F(StampDialog, CancelAndEscapeWriteNothing) {
 }
 
 TEST_F(StampDialog, FailingWriteIsToldAndTheDialogStays) {
-  std::filesystem::create_directories(home_.Path("stamp.ini"));  // a folder where the file should be
   FormDialog dialog;
+  std::filesystem::create_directories(home_.Path("stamp.ini"));  // a folder where the file should be
   dialog.Choose(IDC_12_HOURS);
   Press(dialog.Window(), IDOK);
   const std::wstring text = dialog.Answer(L"Error", dialog.Window(), IDI_HAND, IDOK);

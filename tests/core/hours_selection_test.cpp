@@ -178,6 +178,34 @@ TEST(HoursOwnFields, DescriptionMayStayAndMayNotBeAnothers) {
             "Another zman is called Mine already. Write another description.");
 }
 
+// They would command the word processor that reads an exported file.
+TEST(HoursOwnFields, BracesAndBackslashesAreNamedAndRefused) {
+  for (const char* const sign : {"{", "}", "\\"}) {
+    const std::string complaint =
+        std::string(" has a \"") + sign + "\", which the name of a zman cannot have. Write it without.";
+    OwnTyped typed = Typed("1", "hours-gra");
+    typed.description = std::string("Fi") + sign + "rst";
+    EXPECT_EQ(ReadOwn(typed, {}, 0).complaint, "The description" + complaint);
+    EXPECT_EQ(ReadOwn(typed, {}, 0).field, OwnField::kDescription);
+    std::swap(typed.description, typed.hebrew);
+    typed.description = "First";
+    EXPECT_EQ(ReadOwn(typed, {}, 0).complaint, "The Hebrew description" + complaint);
+    EXPECT_EQ(ReadOwn(typed, {}, 0).field, OwnField::kHebrew);
+  }
+}
+
+TEST(HoursOwnFields, ANameThatHasThemAlreadyStaysUsable) {
+  const Choice choice = ReadChoice("own 1 hours-gra 3 up {Mine}|\\\xE0\nown 2 hours-gra 3 up Other\n");
+  OwnTyped typed = Typed("4", "hours-gra");
+  typed.description = "{Mine}";
+  typed.hebrew = "\\\xE0";
+  ASSERT_TRUE(ReadOwn(typed, choice, 1).zman);
+  EXPECT_EQ(ReadOwn(typed, choice, 1).zman->thousandths, 4000);
+  EXPECT_EQ(ReadOwn(typed, choice, 2).field, OwnField::kDescription);
+  typed.description = "{Mine}!";
+  EXPECT_EQ(ReadOwn(typed, choice, 1).field, OwnField::kDescription);
+}
+
 TEST(HoursOwnFields, HebrewComesBackFromUnicode) {
   EXPECT_EQ(WideHebrew("\xE0\xFA 12"), L"\u05D0\u05EA 12");
   EXPECT_EQ(NarrowHebrew(L"\u05D0\u05EA 12"), "\xE0\xFA 12");
@@ -190,12 +218,15 @@ TEST(HoursOwnFields, HebrewComesBackFromUnicode) {
 TEST(HoursDayTimes, DateIsThePlaces) {
   const sun::PlaceSettings apia = {sun::SiteFromPacked(-1350, -17145, 13, 0), 0, {13 * 3600, {}}};
   constexpr double kElevenUtc = 20468 * 86400.0 + 11 * 3600;  // day 20468 is 15 January 2026
-  EXPECT_EQ(DayTimes(apia, kElevenUtc - 1).DateText(), "15.01.2026");
-  DayTimes times(apia, kElevenUtc);
+  EXPECT_EQ(DayTimes(apia, kElevenUtc - 1, stamp::Form::kTwentyFourHours).DateText(), "15.01.2026");
+  DayTimes times(apia, kElevenUtc, stamp::Form::kTwentyFourHours);
   EXPECT_EQ(times.DateText(), "16.01.2026");
   EXPECT_EQ(times.TimeOf(FindInCatalogue("midday")->definition), "12:37");
   EXPECT_EQ(times.TimeOf(FindInCatalogue("midnight")->definition), "00:36");
   EXPECT_EQ(times.TimeOf(FindInCatalogue("chametz-eat-gra")->definition), "----");
+  DayTimes inHalves(apia, kElevenUtc, stamp::Form::kTwelveHours);
+  EXPECT_EQ(inHalves.TimeOf(FindInCatalogue("midday")->definition), "12:37 p.m.");
+  EXPECT_EQ(inHalves.TimeOf(FindInCatalogue("midnight")->definition), "12:36 a.m.");
 }
 
 }  // namespace

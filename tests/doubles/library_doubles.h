@@ -65,6 +65,8 @@ struct LibraryScript {
   bool writesFail = false;
   int failingWrites = 0;       // that are still to come
   std::string unwritableFile;  // takes no write, as the only one
+  // What ProfileCanRead denies; reads of it answer defaults and it takes no write. Tests put the entry in its place.
+  std::set<std::string> unreadFiles;
 
   // twilight: the interval, whatever is asked, unless set for a depression.
   DoubledTime twilightInterval{0, 40};

@@ -96,6 +96,7 @@ int32_t NumberOf(std::string_view text) {
 std::optional<std::string> ReadSetting(const char* section, const char* key, const char* file) {
   const std::string name = std::string(file) + "|" + section + "|" + key;
   if (Libraries().logSettings) LogCall("read %s", name.c_str());
+  if (Libraries().unreadFiles.contains(file)) return std::nullopt;
   if (const std::string* value = Libraries().settings.FindValue(file, Trimmed(section), Trimmed(key))) {
     return std::string(Unquoted(Trimmed(*value)));
   }
@@ -125,6 +126,7 @@ uint32_t ProfileGetString(const char* section, const char* key, const char* defa
 
 int32_t ProfileWriteString(const char* section, const char* key, const char* value, const char* file) {
   if (!section || !IsName(file) || Libraries().writesFail || file == Libraries().unwritableFile) return 0;
+  if (Libraries().unreadFiles.contains(file)) return 0;
   if (Libraries().failingWrites > 0) {
     --Libraries().failingWrites;
     return 0;
@@ -145,4 +147,8 @@ int32_t ProfileWriteString(const char* section, const char* key, const char* val
     settings.ValueOf(file, ownSection, ownKey) = text;
   }
   return 1;
+}
+
+int32_t ProfileCanRead(const char* file) {
+  return !IsName(file) || !Libraries().unreadFiles.contains(file);
 }

@@ -29,7 +29,12 @@ std::string PropertyKey(HWND window, const char* name) {
 
 int WINAPI FakeMessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
   LogCall("message box '%s' caption '%s' type 0x%x owner %s", text, caption, type, owner ? "yes" : "none");
-  return (type & MB_TYPEMASK) == MB_YESNO ? System().answer : IDOK;
+  switch (type & MB_TYPEMASK) {
+    case MB_YESNO: return System().answer;
+    case MB_RETRYCANCEL:
+    case MB_CANCELTRYCONTINUE: return System().onRetryBox ? System().onRetryBox() : IDCANCEL;
+  }
+  return IDOK;
 }
 
 // Zero-terminated texts; an empty one ends them.

@@ -40,6 +40,7 @@ struct SystemScript {
   HWND foregroundWindow;
   int beeps;
   int answer;                           // of message boxes with a question
+  std::function<int()> onRetryBox{};    // answers boxes that offer to try again; none: Cancel
   std::string savedFile;                // chosen in a save dialog; empty: cancelled
   SaveDialog saveDialog;                // the last one
   std::function<void()> whileSaving{};  // what happens while it is open

@@ -225,10 +225,10 @@ TEST_F(ZmanimTest, ATimeThatCannotBeStoredIsReportedAndNotShown) {
   const HWND document = Start();
   ASSERT_NE(document, nullptr);
   const auto before = Table();
-  // A file that is a folder cannot be written.
-  fs::create_directories(settings_.path() / "ownhours.txt");
   ClickTime(document, before.begin()->second, 0);
   const HWND dialog = run_->WaitForDialog("Edit Zmanim");
+  // A file that is a folder cannot be written.
+  fs::create_directories(settings_.path() / "ownhours.txt");
   SetText(dialog, 103, "3");
   SetText(dialog, 104, "33");
   Click(dialog, IDOK);

@@ -44,14 +44,17 @@ TEST_F(FrameCreationTest, TheWindowClassOfTheFrameThatIsRefusedGivesNoFrame) {
 }
 
 // Kinship and the libraries stay: only a run that had a message loop releases them.
-TEST_F(FrameCreationTest, AProgramWithoutItsFrameEndsWithCodeZeroBeforeTheMessageLoop) {
+TEST_F(FrameCreationTest, AProgramWithoutItsFrameSaysSoAndEndsWithCodeOneBeforeTheMessageLoop) {
   for (const char* const refused : {"MDICLIENT", "ShabbatMain"}) {
     CallLog().clear();
     System().refusedWindowClass = refused;
     PostQuitMessage(7);  // a message loop would answer it
-    EXPECT_EQ(Run(), 0) << refused;
+    EXPECT_EQ(Run(), 1) << refused;
     EXPECT_THAT(CallLog(),
-                ElementsAre("StampCheck  1", "KinshipInit", "load CIVILCAL.DLL", "load LUNARCAL.DLL", "load SOLAR.DLL"))
+                ElementsAre("StampCheck  1", "KinshipInit", "load CIVILCAL.DLL", "load LUNARCAL.DLL", "load SOLAR.DLL",
+                            "message box 'The program cannot start, because its main window could not be created.\n"
+                            "Please close other programs or restart Windows, and start the program again.' caption "
+                            "'Times / Readings' type 0x10 owner none"))
         << refused;
     UnhookWindowsHookEx(Program.mouseHook);
     Program.mouseHook = nullptr;

@@ -25,7 +25,7 @@ void ProgramTest::SetUp() {
   CandleOverride = {true, 0};
   static const bool ready = [] {
     LoadStringTable(Program.instance);
-    return RegisterWindowClasses(Program.instance, CreateSolidBrush(RGB(255, 255, 0)));
+    return RegisterWindowClasses(Program.instance, CreateSolidBrush(RGB(255, 255, 0))) == nullptr;
   }();
   ASSERT_TRUE(ready);
   CallLog().clear();

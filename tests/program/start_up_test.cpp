@@ -55,9 +55,13 @@ TEST_F(StartUpTest, AMissingGregorianLibraryEndsStartUpAtOnce) {
   EXPECT_THAT(CallsWith("unload"), IsEmpty());
 }
 
-TEST_F(StartUpTest, AClassThatCannotBeRegisteredEndsStartUp) {
+TEST_F(StartUpTest, AClassThatCannotBeRegisteredEndsStartUpWithCodeOneAndAWord) {
   // The fixture has registered the classes already, so registering them again fails.
-  EXPECT_EQ(RunProgram(GetModuleHandleA(nullptr), nullptr, commandLine, SW_SHOWNORMAL), 0);
+  EXPECT_EQ(RunProgram(GetModuleHandleA(nullptr), nullptr, commandLine, SW_SHOWNORMAL), 1);
+  EXPECT_THAT(CallsWith("message box"),
+              ElementsAre("message box 'The program cannot start, because the window class ShabbatMain could not be "
+                          "registered.\nPlease close other programs or restart Windows, and start the program again.' "
+                          "caption 'Times / Readings' type 0x10 owner none"));
   EXPECT_EQ(FindWindowExA(nullptr, nullptr, "ShabbatMain", nullptr), nullptr);
 }
 
