@@ -29,7 +29,7 @@ struct Time {
   int32_t hour;    // 0 to 23
   int32_t minute;  // 0 to 59
 
-  bool operator==(const Time&) const = default;
+  auto operator<=>(const Time&) const = default;
 };
 
 // A Gregorian date of the years 1 to 9999 in one number that grows with time.

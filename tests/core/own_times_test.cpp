@@ -130,7 +130,7 @@ TEST(OwnTimesChanges, KeepTheirLineAndTheTextAroundIt) {
   const std::string text = "# mine\r\n2024-03-08 01:01 a|b\nrubbish\r\n2024-03-08 02:02 a|b  \n2024-03-08 03:03 a|c";
   EXPECT_EQ(Applied({{{kFriday, "a", "b"}, kTime}}, text),
             "# mine\r\nrubbish\r\n2024-03-08 17:25 a|b\n2024-03-08 03:03 a|c");
-  EXPECT_EQ(Applied({{{kFriday, "a", "c"}, {3, 3}}}, text), text);
+  EXPECT_EQ(Applied({{{kFriday, "a", "c"}, Time{3, 3}}}, text), text);
   EXPECT_EQ(Applied({}, text), text);
 }
 
