@@ -15,7 +15,7 @@
 namespace {
 
 // Offered again by the Browse button, until the program ends.
-std::string lastFile;
+LastExport lastExport;
 
 HWND DocumentOf(HWND dialog) {
   return reinterpret_cast<HWND>(GetWindowLongPtrA(dialog, DWLP_USER));
@@ -61,20 +61,24 @@ bool Require(HWND dialog, int field, const char* complaint) {
   return false;
 }
 
-bool WriteDates(HWND dialog, const std::string& file, const std::string& separator, bool header) {
+// Whether what the export of dates asks for besides is given; else says so.
+bool RequireDatesFields(HWND dialog) {
   if (!Require(dialog, IDC_DELIMITED_READINGS_SEPARATOR, "Separator for multiple readings must not be blank")) {
     return false;
   }
-  const HWND list = GetDlgItem(dialog, IDC_DELIMITED_LANGUAGE);
-  const LRESULT selected = SendMessageA(list, CB_GETCURSEL, 0, 0);
-  if (selected == CB_ERR) {
+  if (SendDlgItemMessageA(dialog, IDC_DELIMITED_LANGUAGE, CB_GETCURSEL, 0, 0) == CB_ERR) {
     ShowFieldError(dialog, IDC_DELIMITED_LANGUAGE, "A language must be selected");
     return false;
   }
-  const LRESULT language = SendMessageA(list, CB_GETITEMDATA, static_cast<WPARAM>(selected), 0);
-  WriteDatesExport(DocumentOf(dialog), file, separator, header, TextOf(dialog, IDC_DELIMITED_READINGS_SEPARATOR),
-                   static_cast<uint32_t>(language));
   return true;
+}
+
+bool WriteDates(HWND dialog, const std::string& file, const std::string& separator, bool header) {
+  const HWND list = GetDlgItem(dialog, IDC_DELIMITED_LANGUAGE);
+  const LRESULT selected = SendMessageA(list, CB_GETCURSEL, 0, 0);
+  const LRESULT language = SendMessageA(list, CB_GETITEMDATA, static_cast<WPARAM>(selected), 0);
+  return WriteDatesExport(DocumentOf(dialog), file, separator, header, TextOf(dialog, IDC_DELIMITED_READINGS_SEPARATOR),
+                          static_cast<uint32_t>(language));
 }
 
 void OnOk(HWND dialog) {
@@ -83,18 +87,19 @@ void OnOk(HWND dialog) {
   const std::string file = TextOf(dialog, IDC_DELIMITED_FILE);
   const std::string separator = TextOf(dialog, IDC_DELIMITED_SEPARATOR);
   const bool header = IsDlgButtonChecked(dialog, IDC_DELIMITED_HEADER) == BST_CHECKED;
-  if (ExportsDates(dialog)) {
-    if (!WriteDates(dialog, file, separator, header)) return;
-  } else {
-    WriteZmanimExport(DocumentOf(dialog), file, separator, header);
+  if (ExportsDates(dialog) && !RequireDatesFields(dialog)) return;
+  const bool written = ExportsDates(dialog) ? WriteDates(dialog, file, separator, header)
+                                            : WriteZmanimExport(DocumentOf(dialog), file, separator, header);
+  if (!written) {
+    ShowFieldError(dialog, IDC_DELIMITED_FILE, UnwritableFileText(file).c_str());
+    return;
   }
-  // Deliberate: said of a file that could not be written, too.
   ShowInformation(dialog, ("Information was written to file " + file).c_str(), "Information");
   EndDialog(dialog, 1);
 }
 
 void OnBrowse(HWND dialog) {
-  if (const auto file = AskForExportFile(dialog, ExportFormat::kText, &lastFile)) {
+  if (const auto file = AskForTextFile(dialog, lastExport)) {
     SetDlgItemTextA(dialog, IDC_DELIMITED_FILE, file->c_str());
   }
 }

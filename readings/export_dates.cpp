@@ -21,7 +21,7 @@ DatesExport::JewishDate JewishDateOf(const CalendarDate& gregorian, uint32_t lan
 
 }  // namespace
 
-void WriteDatesExport(HWND document, const std::string& file, const std::string& separator, bool header,
+bool WriteDatesExport(HWND document, const std::string& file, const std::string& separator, bool header,
                       const std::string& readingsSeparator, uint32_t language) {
   const ScopedWaitCursor wait;
   RenewReadings(document);
@@ -33,4 +33,5 @@ void WriteDatesExport(HWND document, const std::string& file, const std::string&
                              .entries = list ? std::span(list->entries, list->count) : std::span<const ReadingsEntry>(),
                              .jewishDate = JewishDateOf,
                              .language = language});
+  return sink.Commit();
 }

@@ -3,6 +3,7 @@
 #include <span>
 #include <string>
 
+#include "engine/export_file.h"
 #include "engine/properties.h"
 #include "engine/string_table.h"
 #include "readings/core/readings_export.h"
@@ -17,18 +18,14 @@ namespace {
 constexpr std::size_t kTorahWidth = 95;
 constexpr std::size_t kHaftarahWidth = 95;
 
-// Offered again in the next export of the same format, until the program ends.
-std::string lastTextFile;
-std::string lastRtfFile;
-
 void WriteText(TextSink& sink, const ReadingsExport& data) {
   WriteReadingsText(sink, data, kTorahWidth, kHaftarahWidth);
 }
 
-// Asks for the file, and has it written from the list, brought up to date, while nothing else can replace the list.
-void Export(HWND frame, HWND document, ExportFormat format, void (*write)(TextSink&, const ReadingsExport&)) {
-  const auto file = AskForExportFile(frame, format, format == ExportFormat::kText ? &lastTextFile : &lastRtfFile);
-  if (!file) return;
+using Writer = void (*)(TextSink&, const ReadingsExport&);
+
+// Has the file written from the list, brought up to date, while nothing else can replace the list. Whether it could be.
+bool WriteFile(HWND document, const ChosenFile& file, Writer write) {
   const ScopedWaitCursor wait;
   RenewReadings(document);
   const ReadingsForm form = ReadingsFormOf(document);
@@ -39,9 +36,17 @@ void Export(HWND frame, HWND document, ExportFormat format, void (*write)(TextSi
                             .haftarahTitle = TableString(IDS_HAPHTAROTH),
                             .yizkor = form.yizkor,
                             .font = {font.UseDefaultFont == 0, font.FaceName, font.PointSize, font.CharSet},
+                            .rtfForm = file.rtfForm,
                             .entries = list ? std::span(list->entries, list->count) : std::span<const ReadingsEntry>()};
-  FileSink sink(file->c_str());
+  FileSink sink(file.path.c_str());
   write(sink, data);
+  return sink.Commit();
+}
+
+void Export(HWND frame, HWND document, ExportFormat format, Writer write) {
+  const auto file = AskForFileOfView(frame, ExportedView::kReadings, format);
+  if (!file) return;
+  if (!WriteFile(document, *file, write)) ShowUnwritableFile(frame, file->path);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Exports of the active document's readings into a file that the user chooses. A file that cannot be written leaves no
-// word: the user sees that there is none.
+// Exports of the active document's readings into a file that the user chooses, and who is told when it cannot be
+// written.
 #pragma once
 
 #include <windows.h>

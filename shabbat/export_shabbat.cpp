@@ -5,12 +5,12 @@
 #include <vector>
 
 #include "companion/stamp.h"
+#include "engine/export_file.h"
 #include "engine/properties.h"
 #include "engine/string_table.h"
 #include "resources/ids.h"
 #include "shabbat/rtf_options_dialog.h"
 #include "win/file_sink.h"
-#include "win/save_dialog.h"
 #include "win/scoped.h"
 
 namespace {
@@ -31,7 +31,7 @@ std::vector<ShabbatTimeEntry> EntriesOf(HWND document) {
 // Asks for a file and has it written from a copy of the document's times.
 template <typename Writer>
 void Export(HWND frame, HWND document, ExportFormat format, Writer write) {
-  const auto file = AskForExportFile(frame, format);
+  const auto file = AskForFileOfView(frame, ExportedView::kShabbatTimes, format);
   if (!file) return;
   const std::vector<ShabbatTimeEntry> entries = EntriesOf(document);
   const ShabbatExport data{.title = TitleOf(document),
@@ -40,15 +40,16 @@ void Export(HWND frame, HWND document, ExportFormat format, Writer write) {
                            .endTitle = TableString(IDS_END_OF_SHABBAT),
                            .entries = entries,
                            .formatTime = StampConvert,
-                           .amPm = StampIsAmPm() != 0};
+                           .amPm = StampIsAmPm() != 0,
+                           .rtfForm = file->rtfForm};
   bool written = false;
   {
     const ScopedWaitCursor wait;
-    FileSink sink(file->c_str());
+    FileSink sink(file->path.c_str());
     write(sink, data);
-    written = sink.Close();
+    written = sink.Commit();
   }
-  if (!written) ShowUnwritableFile(frame, *file);
+  if (!written) ShowUnwritableFile(frame, file->path);
 }
 
 }  // namespace

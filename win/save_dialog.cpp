@@ -9,30 +9,37 @@ namespace {
 
 constexpr DWORD kFileNameSize = 256;
 
-struct FormatTexts {
-  const char* filter;
-  const char* extension;
-};
+constexpr char kTextTypes[] = "Text files (*.txt)\0*.txt\0All files (*.*)\0*.*\0";
+constexpr char kRtfTypes[] =
+    "RTF files (*.rtf)\0*.rtf\0RTF for all word processors (*.rtf)\0*.rtf\0All files (*.*)\0*.*\0";
+// Types are counted from 1.
+constexpr DWORD kUsualRtf = 1;
+constexpr DWORD kRtfForAll = 2;
 
-constexpr FormatTexts kText{"Text files (*.txt)\0*.txt\0All files (*.*)\0*.*\0", "txt"};
-constexpr FormatTexts kRtf{"RTF files (*.rtf)\0*.rtf\0All files (*.*)\0*.*\0", "rtf"};
+// The dialog's answer; a name to begin with that the dialog refuses is left out.
+bool Run(OPENFILENAMEA& dialog) {
+  if (GetSaveFileNameA(&dialog)) return true;
+  if (CommDlgExtendedError() != FNERR_INVALIDFILENAME || dialog.lpstrFile[0] == '\0') return false;
+  dialog.lpstrFile[0] = '\0';
+  return GetSaveFileNameA(&dialog);
+}
 
 }  // namespace
 
-std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, std::string* lastFile) {
-  const FormatTexts& texts = format == ExportFormat::kText ? kText : kRtf;
+std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, LastExport& last, RtfForm& form) {
   char file[kFileNameSize] = "";
-  if (lastFile) lastFile->copy(file, kFileNameSize - 1);
+  const std::string offered = OfferedName(last.file, last.format, format);
+  if (offered.size() < kFileNameSize) offered.copy(file, kFileNameSize - 1);
   OPENFILENAMEA dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = owner;
-  dialog.lpstrFilter = texts.filter;
-  dialog.nFilterIndex = 1;
+  dialog.lpstrFilter = format == ExportFormat::kText ? kTextTypes : kRtfTypes;
+  dialog.nFilterIndex = format == ExportFormat::kRtf && form == RtfForm::kForAllWordProcessors ? kRtfForAll : kUsualRtf;
   dialog.lpstrFile = file;
   dialog.nMaxFile = kFileNameSize;
-  dialog.lpstrDefExt = texts.extension;
+  dialog.lpstrDefExt = ExtensionOf(format);
   dialog.Flags = OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
-  if (!GetSaveFileNameA(&dialog)) {
+  if (!Run(dialog)) {
     if (CommDlgExtendedError() == FNERR_BUFFERTOOSMALL) {
       ShowStop(owner,
                "The file's name and folder together may have 255 characters.\nPlease choose a shorter name or another "
@@ -41,12 +48,23 @@ std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, std
     }
     return std::nullopt;
   }
-  if (lastFile) *lastFile = file;
+  if (format == ExportFormat::kRtf && dialog.nFilterIndex == kUsualRtf) form = RtfForm::kUsual;
+  if (format == ExportFormat::kRtf && dialog.nFilterIndex == kRtfForAll) form = RtfForm::kForAllWordProcessors;
+  last = {file, format};
   return file;
 }
 
+std::optional<std::string> AskForTextFile(HWND owner, LastExport& last) {
+  RtfForm none = RtfForm::kUsual;
+  return AskForExportFile(owner, ExportFormat::kText, last, none);
+}
+
+std::string UnwritableFileText(const std::string& file) {
+  return "File " + file +
+         " could not be written.\nPlease choose another name or folder, close the file in other programs, or make room "
+         "on the disk. An older file of this name is as it was.";
+}
+
 void ShowUnwritableFile(HWND owner, const std::string& file) {
-  const std::string text =
-      "The file " + file + " could not be written.\nPlease choose another name or folder, or make room on the disk.";
-  ShowStop(owner, text.c_str(), "Error");
+  ShowStop(owner, UnwritableFileText(file).c_str(), "Error");
 }

@@ -5,11 +5,23 @@
 #include <optional>
 #include <string>
 
-enum class ExportFormat { kText, kRtf };
+#include "output/rtf_form.h"
+#include "win/core/export_name.h"
+
+// The file that an export wrote last. The next one offers its name, with the extension of its own format.
+struct LastExport {
+  std::string file;
+  ExportFormat format = ExportFormat::kText;
+};
 
 // Asks for the file to export into; nothing when cancelled. An existing file is only chosen after the user agreed.
-// lastFile, if given, is offered and takes the file that is chosen.
-std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, std::string* lastFile = nullptr);
+// last is offered and takes the file that is chosen. RTF files have a type for each form: that of form is chosen at
+// first, and form takes the one that the user chose, if any; among all files it stays.
+std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, LastExport& last, RtfForm& form);
 
-// The file could not be written whole: names it and what to do.
+// The same for a text file.
+std::optional<std::string> AskForTextFile(HWND owner, LastExport& last);
+
+// What to say of a file that could not be written while an older one was left alone: its name and what to do.
+std::string UnwritableFileText(const std::string& file);
 void ShowUnwritableFile(HWND owner, const std::string& file);

@@ -1,5 +1,6 @@
 #include "zmanim/export_zmanim.h"
 
+#include "engine/export_file.h"
 #include "engine/properties.h"
 #include "win/file_sink.h"
 #include "win/scoped.h"
@@ -11,14 +12,10 @@ namespace {
 
 constexpr std::size_t kTextWidth = 70;
 
-// Offered again in the next export of the same format, until the program ends.
-std::string lastTextFile;
-std::string lastRtfFile;
-
 // Has a file written from the document's block, brought up to date first, which nothing replaces meanwhile. write is
-// called with a sink and the data.
+// called with a sink and the data. Whether the file could be written.
 template <typename Writer>
-void WriteFile(HWND document, const std::string& file, Writer write) {
+bool WriteFile(HWND document, const std::string& file, Writer write) {
   const ScopedWaitCursor wait;
   RenewZmanim(document);
   ZmanimExport data = DescribeZmanim(document);
@@ -26,19 +23,24 @@ void WriteFile(HWND document, const std::string& file, Writer write) {
   if (block) data.days = std::span(block->days, block->count);
   FileSink sink(file.c_str());
   write(sink, data);
+  return sink.Commit();
 }
 
 void ExportRtf(HWND frame, HWND document, ZmanimRtfLayout layout) {
-  const auto file = AskForExportFile(frame, ExportFormat::kRtf, &lastRtfFile);
+  const auto file = AskForFileOfView(frame, ExportedView::kZmanim, ExportFormat::kRtf);
   if (!file) return;
-  WriteFile(document, *file,
-            [layout](TextSink& sink, const ZmanimExport& data) { WriteZmanimRtf(sink, data, layout); });
+  const auto write = [&](TextSink& sink, ZmanimExport& data) {
+    data.rtfForm = file->rtfForm;
+    WriteZmanimRtf(sink, data, layout);
+  };
+  if (!WriteFile(document, file->path, write)) ShowUnwritableFile(frame, file->path);
 }
 
 void ExportText(HWND frame, HWND document) {
-  const auto file = AskForExportFile(frame, ExportFormat::kText, &lastTextFile);
+  const auto file = AskForFileOfView(frame, ExportedView::kZmanim, ExportFormat::kText);
   if (!file) return;
-  WriteFile(document, *file, [](TextSink& sink, const ZmanimExport& data) { WriteZmanimText(sink, data, kTextWidth); });
+  const auto write = [](TextSink& sink, const ZmanimExport& data) { WriteZmanimText(sink, data, kTextWidth); };
+  if (!WriteFile(document, file->path, write)) ShowUnwritableFile(frame, file->path);
 }
 
 }  // namespace
@@ -55,7 +57,8 @@ void ExportZmanimByDay(HWND frame, HWND document) {
   ExportRtf(frame, document, ZmanimRtfLayout::kRowPerDay);
 }
 
-void WriteZmanimExport(HWND document, const std::string& file, const std::string& separator, bool header) {
-  WriteFile(document, file,
-            [&](TextSink& sink, const ZmanimExport& data) { WriteZmanimDelimited(sink, data, separator, header); });
+bool WriteZmanimExport(HWND document, const std::string& file, const std::string& separator, bool header) {
+  return WriteFile(document, file, [&](TextSink& sink, const ZmanimExport& data) {
+    WriteZmanimDelimited(sink, data, separator, header);
+  });
 }

@@ -31,10 +31,19 @@ void WriteParagraph(TextSink& sink, const std::string& text) {
   WriteLine(sink, text + "\\par");
 }
 
+// The readings' own font in the font table, if they have one.
+std::string OwnFont(const ExportFont& font, bool withCharset) {
+  if (!font.ownFont) return "";
+  const std::string charset = withCharset && font.charset != 0 ? "\\fcharset" + std::to_string(font.charset) : "";
+  return "{\\f1\\fnil" + charset + " " + font.face + ";}";
+}
+
 void WriteHead(TextSink& sink, const ReadingsExport& data, const std::string& ownFont, const char* cells) {
   WriteLine(sink, "{\\rtf1\\ansi");
   WriteLine(sink, "{\\fonttbl {\\f0\\froman Times New Roman;}" + ownFont + "}");
-  for (const char* line : {"\\fs24", "\\par", cells, "\\intbl"}) WriteLine(sink, line);
+  for (const char* line : {"\\fs24", "\\par"}) WriteLine(sink, line);
+  WriteLine(sink, StartOfTable(data.rtfForm) + std::string(cells));
+  WriteLine(sink, "\\intbl");
   for (const std::string& title : {data.dateTitle, data.torahTitle, data.haftarahTitle}) {
     WriteLine(sink, "\\b " + title + "\\plain");
     WriteLine(sink, "\\cell");
@@ -137,20 +146,14 @@ void WriteReadingsText(TextSink& sink, const ReadingsExport& data, std::size_t t
 }
 
 void WriteReadingsRtfWide(TextSink& sink, const ReadingsExport& data) {
-  const ExportFont& font = data.font;
-  std::string ownFont;
-  if (font.ownFont) {
-    const std::string charset = font.charset != 0 ? "\\fcharset" + std::to_string(font.charset) : "";
-    ownFont = "{\\f1\\fnil" + charset + " " + font.face + ";}";
-  }
-  WriteHead(sink, data, ownFont, "\\cellx1300\\cellx4970\\cellx8640");
+  WriteHead(sink, data, OwnFont(data.font, true), "\\cellx1300\\cellx4970\\cellx8640");
   for (const ReadingsEntry& entry : data.entries) WriteWideEntry(sink, data, entry);
   WriteLine(sink, "}");
 }
 
 void WriteReadingsRtfNarrow(TextSink& sink, const ReadingsExport& data) {
-  WriteHead(sink, data, data.font.ownFont ? "{\\f1\\fnil " + data.font.face + ";}" : "",
-            "\\cellx700\\cellx4800\\cellx9300");
+  const bool withCharset = data.rtfForm == RtfForm::kForAllWordProcessors;
+  WriteHead(sink, data, OwnFont(data.font, withCharset), "\\cellx700\\cellx4800\\cellx9300");
   WriteLine(sink, kSmallPrint);
   for (const ReadingsEntry& entry : data.entries) {
     WriteNarrowEntry(sink, data, entry);

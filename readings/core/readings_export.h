@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 
+#include "output/rtf_form.h"
 #include "output/text_sink.h"
 #include "readings/core/readings_record.h"
 
@@ -24,6 +25,7 @@ struct ReadingsExport {
   std::string haftarahTitle;
   std::string yizkor;
   ExportFont font;
+  RtfForm rtfForm = RtfForm::kUsual;
   std::span<const ReadingsEntry> entries;
 };
 

@@ -35,7 +35,9 @@ void WriteRtfHead(TextSink& sink, const ShabbatExport& data, RtfLayout layout) {
   WriteLine(sink, "{\\rtf1\\ansi");
   WriteLine(sink, "\\b " + RtfEscape(data.title) + "\\plain\\par");
   WriteLine(sink, "\\par");
-  WriteLine(sink, layout == RtfLayout::kTwoColumns ? "\\cellx2880\\cellx5760" : "\\cellx2880\\cellx5760\\cellx8640");
+  const char* const cells =
+      layout == RtfLayout::kTwoColumns ? "\\cellx2880\\cellx5760" : "\\cellx2880\\cellx5760\\cellx8640";
+  WriteLine(sink, StartOfTable(data.rtfForm) + std::string(cells));
   WriteLine(sink, "\\intbl");
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "output/rtf_form.h"
 #include "output/text_sink.h"
 #include "shabbat/core/shabbat_record.h"
 
@@ -19,6 +20,7 @@ struct ShabbatExport {
   // A time as text into a buffer of 32 bytes.
   void (*formatTime)(int32_t hour, int32_t minute, char* text);
   bool amPm;  // times are ten characters wide, else five
+  RtfForm rtfForm = RtfForm::kUsual;
 };
 
 enum class RtfLayout {

@@ -250,6 +250,28 @@ TEST(ReadingsRtfExport, NarrowLayoutInAFontOfTheTexts) {
             "}\r\n");
 }
 
+TEST(ReadingsRtfExport, ForAllWordProcessorsTableAndCharsetAreToldAndNothingElseChanges) {
+  for (const ExportFont& font : {ExportFont(), kHebrew}) {
+    const std::vector<ReadingsEntry> entries = {kVayechi, kPesach, kFull};
+    ReadingsExport data = Data(entries, font);
+    std::string wide = Wide(data);
+    wide.insert(wide.find("\\cellx1300"), "\\trowd");
+    std::string narrow = Narrow(data);
+    narrow.insert(narrow.find("\\cellx700"), "\\trowd");
+    if (font.ownFont) narrow.insert(narrow.find(" David;"), "\\fcharset177");
+    data.rtfForm = RtfForm::kForAllWordProcessors;
+    EXPECT_EQ(Wide(data), wide);
+    EXPECT_EQ(Narrow(data), narrow);
+  }
+}
+
+TEST(ReadingsRtfExport, ForAllWordProcessorsNoCharsetIsNamedWhereNoneIsGiven) {
+  const std::vector<ReadingsEntry> entries = {kVayechi};
+  ReadingsExport data = Data(entries, {true, "Arial", 9, 0});
+  data.rtfForm = RtfForm::kForAllWordProcessors;
+  EXPECT_NE(Narrow(data).find("{\\f1\\fnil Arial;}"), std::string::npos);
+}
+
 TEST(ReadingsRtfExport, NoGroupOfAFontWhereTheProgramsOwnIsUsed) {
   for (const std::string& text : {Wide(Data({kVayechi, kFull})), Narrow(Data({kVayechi, kFull}))}) {
     EXPECT_EQ(text.find("\\f1"), text.npos);

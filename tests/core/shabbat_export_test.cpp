@@ -126,6 +126,16 @@ TEST(ShabbatExport, RtfOfAnEmptyListHasItsHead) {
   EXPECT_EQ(Rtf(Data(false, {}), RtfLayout::kSameRow), sameRow);
 }
 
+TEST(ShabbatExport, RtfForAllWordProcessorsHasTheMarkOfATableAndNothingElseChanges) {
+  for (const RtfLayout layout : {RtfLayout::kSameRow, RtfLayout::kThreeColumns, RtfLayout::kTwoColumns}) {
+    ShabbatExport data = Data(false);
+    std::string expected = Rtf(data, layout);
+    expected.insert(expected.find("\\cellx2880"), "\\trowd");
+    data.rtfForm = RtfForm::kForAllWordProcessors;
+    EXPECT_EQ(Rtf(data, layout), expected);
+  }
+}
+
 TEST(ShabbatExport, APlaceWithBracesKeepsTheRtfWhole) {
   ShabbatExport data = Data(false, {});
   data.title = "Times / Readings of {Home}\\1";

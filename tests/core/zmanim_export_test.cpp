@@ -237,6 +237,45 @@ TEST(ZmanimRtfExport, PlaceAndEnglishLegendAreNotEscaped) {
   EXPECT_NE(text.find("\r\n1 = Z {1}  "), text.npos);
 }
 
+TEST(ZmanimRtfForAllWordProcessors, EveryTableBeginsWithItsMarkAndNothingElseChanges) {
+  const std::vector<ZmanimDay> days = {Day(5), Day(6)};
+  for (const bool amPm : {false, true}) {
+    for (const ZmanimRtfLayout layout : {ZmanimRtfLayout::kRowPerColumn, ZmanimRtfLayout::kRowPerDay}) {
+      ZmanimExport data = Data(25, days, amPm);
+      std::string expected = Rtf(data, layout);
+      int tables = 0;
+      for (std::size_t at = expected.find("{\\cellx"); at != expected.npos; at = expected.find("{\\cellx", at)) {
+        expected.insert(at + 1, "\\trowd");
+        ++tables;
+      }
+      EXPECT_EQ(tables, amPm ? 5 : 3);
+      data.rtfForm = RtfForm::kForAllWordProcessors;
+      EXPECT_EQ(Rtf(data, layout), expected);
+    }
+  }
+}
+
+TEST(ZmanimRtfForAllWordProcessors, NoBlankStandsBeforeTheFontOfTheHebrewLegend) {
+  ZmanimExport data = Data(1, {});
+  data.hebrew = true;
+  data.hebrewNames = {"ab"};
+  data.rtfForm = RtfForm::kForAllWordProcessors;
+  EXPECT_NE(
+      Rtf(data, ZmanimRtfLayout::kRowPerDay)
+          .find("\r\n{\\fonttbl\r\n{\\f1 \\fnil DisplayHebrew1;}\r\n}\r\n{\\f1\r\n1 = ba \\par\r\n\\par\r\n}\r\n"),
+      std::string::npos);
+}
+
+TEST(ZmanimRtfForAllWordProcessors, PlaceAndEnglishLegendAreEscaped) {
+  ZmanimExport data = Data(1, {});
+  data.location = "{Haifa}";
+  data.names = {"a\\b"};
+  data.rtfForm = RtfForm::kForAllWordProcessors;
+  const std::string text = Rtf(data, ZmanimRtfLayout::kRowPerDay);
+  EXPECT_NE(text.find("\\b Zmanim of \\'7BHaifa\\'7D\\plain\\par\r\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("1 = a\\'5Cb         GR\"O = "), std::string::npos) << text;
+}
+
 TEST(ZmanimDelimitedExport, ALineADayBelowTheNames) {
   EXPECT_EQ(Delimited(Data(2, {Day(5), Day(6)}), true),
             "Gregorian date;Z1;Z2\r\n"

@@ -136,6 +136,31 @@ TEST(ZmanimPage, TheHeadingHasACentredTitleAndTheNamesOfThePagesZmanim) {
                                                                {bold, 436, 64, "M"}}));
 }
 
+// A letter of a title is 14 wide: 142 fill 1988 dots of 2000, ten of them "Zmanim of ".
+TEST(ZmanimPage, APlaceTooLongForTheTitleEndsInAnEllipsis) {
+  const auto titleOf = [](const std::string& place) {
+    ZmanimExport data = Data({"A"});
+    data.location = place;
+    return Heading(data, {0, 1}, 44 + 18).front();
+  };
+  const auto title = [](const std::string& text, int x) { return PrintedText{PrintFont::kTitle, x, 20, text}; };
+  const std::string fits(132, 'x');
+  EXPECT_EQ(titleOf(fits), title("Zmanim of " + fits, 6));
+  const std::string shortened = "Zmanim of " + std::string(129, 'x') + "...";
+  EXPECT_EQ(titleOf(fits + "y"), title(shortened, 6));
+  EXPECT_EQ(titleOf(std::string(255, 'x')), title(shortened, 6));
+  EXPECT_EQ(titleOf(std::string(128, 'x') + " yyyyyyy"),
+            title("Zmanim of " + std::string(128, 'x') + "...", 1000 - 987))
+      << "no blank before the ellipsis";
+}
+
+TEST(ZmanimPage, ATitleOnAPageTooNarrowForAnyOfItsPlaceIsStillAnEllipsis) {
+  constexpr PrinterPage kNarrow{.width = 100, .height = 1000, .dotsPerInchX = 254, .dotsPerInchY = 127};
+  RecordingSurface surface;
+  PassHeading(surface, kNarrow, Data({}), {0, 0}, HeadingPass::kDraw);
+  EXPECT_EQ(surface.texts.front().text, "Zmanim of ...");
+}
+
 // A name of 155 letters would end beyond 1960; so would what follows it, for its spaces count too.
 TEST(ZmanimPage, AWordThatWouldPassTheRightMarginGoesToTheNextLine) {
   const std::string name(155, 'x');

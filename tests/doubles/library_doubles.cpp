@@ -36,6 +36,9 @@ void ResetLibraries() {
       "shabbat2.ini|Shabbat|DegreesBelowHorizon",
       "shabbat2.ini|Shabbat|AddMinutesAfterDegrees",
       "shab30.ini|Zmanim|Hebrew",
+      "shab30.ini|RtfForAllWordProcessors|ShabbatTimes",
+      "shab30.ini|RtfForAllWordProcessors|Zmanim",
+      "shab30.ini|RtfForAllWordProcessors|Readings",
       "shab30.ini|Settings|EnableZmanim",
       "almanac13.ini|Preferences|DefaultLocation",
   };

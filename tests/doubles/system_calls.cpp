@@ -53,6 +53,7 @@ BOOL WINAPI FakeGetSaveFileNameA(LPOPENFILENAMEA dialog) {
                          dialog->nMaxFile,     dialog->lpstrDefExt,
                          dialog->Flags};
   if (System().whileSaving) System().whileSaving();
+  if (System().chosenType != 0) dialog->nFilterIndex = System().chosenType;
   if (System().savedFile.empty()) return FALSE;
   std::strcpy(dialog->lpstrFile, System().savedFile.c_str());
   return TRUE;
@@ -181,6 +182,27 @@ BOOL WINAPI NotedWriteFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD writ
   return real(file, bytes, System().diskIsFull && count > 0 ? count - 1 : count, written, overlapped);
 }
 
+HANDLE WINAPI RefusingCreateFileA(LPCSTR name, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                                  DWORD creation, DWORD flags, HANDLE model) {
+  static const auto real = REAL("kernel32.dll", CreateFileA);
+  if (System().createError == 0) return real(name, access, share, security, creation, flags, model);
+  SetLastError(System().createError);
+  return INVALID_HANDLE_VALUE;
+}
+
+BOOL WINAPI RefusingFlushFileBuffers(HANDLE file) {
+  static const auto real = REAL("kernel32.dll", FlushFileBuffers);
+  return !System().flushFails && real(file);
+}
+
+BOOL WINAPI RefusingMoveFileExA(LPCSTR from, LPCSTR to, DWORD flags) {
+  static const auto real = REAL("kernel32.dll", MoveFileExA);
+  if (System().failingRenames == 0) return real(from, to, flags);
+  --System().failingRenames;
+  SetLastError(System().renameError);
+  return FALSE;
+}
+
 BOOL WINAPI NotedDrawIconEx(HDC dc, int x, int y, HICON icon, int width, int height, UINT step, HBRUSH brush,
                             UINT flags) {
   static const auto real = REAL("user32.dll", DrawIconEx);
@@ -299,6 +321,9 @@ decltype(&GlobalSize) __imp_GlobalSize = SizeWithoutGuard;
 decltype(&CreateWindowExA) __imp_CreateWindowExA = RefusingCreateWindowExA;
 decltype(&SetCursor) __imp_SetCursor = FakeSetCursor;
 decltype(&WriteFile) __imp_WriteFile = NotedWriteFile;
+decltype(&CreateFileA) __imp_CreateFileA = RefusingCreateFileA;
+decltype(&FlushFileBuffers) __imp_FlushFileBuffers = RefusingFlushFileBuffers;
+decltype(&MoveFileExA) __imp_MoveFileExA = RefusingMoveFileExA;
 decltype(&DrawIconEx) __imp_DrawIconEx = NotedDrawIconEx;
 decltype(&GrayStringA) __imp_GrayStringA = NotedGrayStringA;
 decltype(&SetPropA) __imp_SetPropA = CountedSetPropA;

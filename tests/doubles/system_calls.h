@@ -42,6 +42,7 @@ struct SystemScript {
   int answer;                           // of message boxes with a question
   std::function<int()> onRetryBox{};    // answers boxes that offer to try again; none: Cancel
   std::string savedFile;                // chosen in a save dialog; empty: cancelled
+  DWORD chosenType = 0;                 // in it, from 1; 0: the one it began with
   SaveDialog saveDialog;                // the last one
   std::function<void()> whileSaving{};  // what happens while it is open
   std::string missingLibrary;           // what LoadLibrary does not find ...
@@ -50,6 +51,10 @@ struct SystemScript {
   DWORD saveDialogError;           // why a save dialog had no answer; 0: it was cancelled
   int failingWrites;               // of files, that are still to come
   bool diskIsFull;                 // writes of files end before their last byte
+  DWORD createError = 0;           // why no file can be created; 0: all can
+  bool flushFails = false;         // what was written does not reach the disk
+  int failingRenames = 0;          // of files, that are still to come ...
+  DWORD renameError = 0;           // ... and why
   std::string refusedWindowClass;  // of which no window can be created
 
   // Which block and which font cannot be made, counted from now on from 1; 0: all can.

@@ -7,7 +7,9 @@ namespace {
 constexpr unsigned kSelectRange = 1002;
 constexpr int kRangeStart = 101;
 constexpr int kRangeEnd = 102;
-constexpr int kSaveDialogFileName = 0x47C;  // cmb13 of the system's dialog
+// Of the system's dialog: cmb13 and cmb1.
+constexpr int kSaveDialogFileName = 0x47C;
+constexpr int kSaveDialogType = 0x470;
 
 }  // namespace
 
@@ -39,6 +41,20 @@ void SaveAs(const ProgramRun& program, const std::filesystem::path& file) {
   ASSERT_NE(dialog, nullptr);
   SetText(dialog, kSaveDialogFileName, file.string());
   Answer(dialog, IDOK);
+}
+
+int TypeToSave(const ProgramRun& program) {
+  return static_cast<int>(SendDlgItemMessageA(program.WaitForDialog("Save As"), kSaveDialogType, CB_GETCURSEL, 0, 0));
+}
+
+void ChooseTypeToSave(const ProgramRun& program, int type) {
+  const HWND dialog = program.WaitForDialog("Save As");
+  const HWND types = GetDlgItem(dialog, kSaveDialogType);
+  SendMessageA(types, CB_SETCURSEL, static_cast<WPARAM>(type), 0);
+  // Systems differ in which of the two they listen to.
+  for (const int notification : {CBN_SELENDOK, CBN_SELCHANGE}) {
+    SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(kSaveDialogType, notification), reinterpret_cast<LPARAM>(types));
+  }
 }
 
 void CancelSaving(const ProgramRun& program) {

@@ -17,5 +17,9 @@ void Answer(HWND box, int button);
 // a file that exists.
 void SaveAs(const ProgramRun& program, const std::filesystem::path& file);
 
+// The type of file that is chosen in it, counted from 0; and chooses another.
+int TypeToSave(const ProgramRun& program);
+void ChooseTypeToSave(const ProgramRun& program, int type);
+
 // Cancels that dialog, and waits until it is gone.
 void CancelSaving(const ProgramRun& program);

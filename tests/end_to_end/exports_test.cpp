@@ -23,6 +23,7 @@ constexpr unsigned kExportRtf = 1007;
 constexpr unsigned kExportZmanim = 1020;
 constexpr unsigned kExportDates = 1021;
 
+constexpr char kDatesDialog[] = "Export Gregorian/Jewish dates, torah/haphtarah readings, holidays";
 constexpr int kFile = 101;
 constexpr int kSeparator = 102;
 constexpr int kHeader = 103;
@@ -87,6 +88,21 @@ class ExportsEndToEndTest : public testing::Test {
     EXPECT_THAT(Written(row.file), EndsWith(row.end)) << row.file;
   }
 
+  std::size_t CountOfFiles() const {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder_.path()), {}));
+  }
+
+  // The box that names a file which cannot be written; closes it.
+  void ExpectUnwritable(const std::string& file) {
+    const HWND box = program_->WaitForDialog("Error");
+    const std::string text = TextOf(GetDlgItem(box, 0xFFFF));
+    EXPECT_THAT(text, StartsWith("File "));
+    EXPECT_THAT(text, HasSubstr(file));
+    EXPECT_THAT(text, HasSubstr(" could not be written.\n"));
+    Answer(box, IDOK);
+    EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(box); }));
+  }
+
   // Clicks OK in the dialog of a delimited export and closes the word that follows.
   void ExpectInformation(HWND dialog, const std::string& file) {
     Answer(dialog, IDOK);
@@ -137,24 +153,81 @@ TEST_F(ExportsEndToEndTest, ACancelledExportWritesNothing) {
   EXPECT_TRUE(fs::is_empty(folder_.path()));
 }
 
-// Commands are carried out in turn: when the next one asks for its file, the one before has said what it had to say.
-TEST_F(ExportsEndToEndTest, AFileOfZmanimOrReadingsThatCannotBeWrittenLeavesNoWord) {
+TEST_F(ExportsEndToEndTest, AFileThatAnotherProgramHoldsIsNamedAndStaysWhole) {
   for (const Export& row : kExports) {
     const fs::path file = File(row.file);
-    const HANDLE held = CreateFileA(file.string().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    WriteFileText(file, "an older file");
+    const HANDLE held =
+        CreateFileA(file.string().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(held, INVALID_HANDLE_VALUE);
     Show(row.view);
     program_->PostCommand(row.command);
     SaveAs(*program_, file);
     Answer(program_->WaitForQuestion(), IDYES);
-    EXPECT_TRUE(program_->Eventually([&] { return !program_->HasDialog("Save As"); })) << row.file;
-    program_->PostCommand(row.command);
-    CancelSaving(*program_);
-    EXPECT_FALSE(program_->HasDialog("Error")) << row.file;
-    EXPECT_FALSE(program_->HasDialog("Times / Readings")) << row.file;
+    ExpectUnwritable(file.string());
     CloseHandle(held);
-    EXPECT_EQ(Written(row.file), "") << row.file;
+    EXPECT_EQ(Written(row.file), "an older file") << row.file;
   }
+  EXPECT_EQ(CountOfFiles(), std::size(kExports)) << "nothing is left beside";
+}
+
+TEST_F(ExportsEndToEndTest, AReadOnlyFileIsNamedAndStaysWhole) {
+  const fs::path file = File("zmanim.txt");
+  WriteFileText(file, "an older file");
+  SetFileAttributesA(file.string().c_str(), FILE_ATTRIBUTE_READONLY);
+  Show(kViewZmanim);
+  program_->PostCommand(kExportText);
+  SaveAs(*program_, file);
+  Answer(program_->WaitForQuestion(), IDYES);
+  ExpectUnwritable(file.string());
+  SetFileAttributesA(file.string().c_str(), FILE_ATTRIBUTE_NORMAL);
+  EXPECT_EQ(Written("zmanim.txt"), "an older file");
+  EXPECT_EQ(CountOfFiles(), 1u);
+}
+
+TEST_F(ExportsEndToEndTest, ADeviceIsNamedAndNotWrittenTo) {
+  for (const unsigned view : {kViewShabbatTimes, kViewZmanim, kViewReadings}) {
+    Show(view);
+    program_->PostCommand(kExportText);
+    SaveAs(*program_, File("nul"));
+    Answer(program_->WaitForQuestion(), IDYES);
+    ExpectUnwritable("nul");
+  }
+  EXPECT_TRUE(fs::is_empty(folder_.path()));
+}
+
+// The system's dialog keeps these to itself: it complains of the name, and opens the folder.
+TEST_F(ExportsEndToEndTest, AnImpossibleNameAndAFolderAreNotTakenByTheSaveDialog) {
+  fs::create_directories(File("folder.txt"));
+  for (const unsigned view : {kViewShabbatTimes, kViewZmanim, kViewReadings}) {
+    Show(view);
+    program_->PostCommand(kExportText);
+    SaveAs(*program_, File("a|b.txt"));
+    const HWND box = program_->WaitForDialog("Invalid character(s) in path");
+    Answer(box, IDOK);
+    EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(box); }));
+    SaveAs(*program_, File("folder.txt"));
+    CancelSaving(*program_);
+  }
+  EXPECT_TRUE(fs::is_empty(File("folder.txt")));
+  EXPECT_EQ(CountOfFiles(), 1u) << "the folder";
+}
+
+TEST_F(ExportsEndToEndTest, TheSecondTypeIsForAllWordProcessorsAndIsRememberedAfterARestart) {
+  Show(kViewZmanim);
+  program_->PostCommand(kExportRtf);
+  EXPECT_EQ(TypeToSave(*program_), 0);
+  ChooseTypeToSave(*program_, 1);
+  SaveAs(*program_, File("zmanim"));
+  EXPECT_TRUE(program_->Eventually([&] { return Written("zmanim.rtf").ends_with("\\par\r\n}\r\n"); }));
+  EXPECT_THAT(Written("zmanim.rtf"), HasSubstr("\r\n{\\trowd\\cellx1440\\cellx2160"));
+  program_.reset();
+  program_.emplace(ProgramFolder(), settings_.path());
+  program_->WaitForDocuments(1);
+  Show(kViewZmanim);
+  program_->PostCommand(kExportRtf);
+  EXPECT_EQ(TypeToSave(*program_), 1);
+  CancelSaving(*program_);
 }
 
 TEST_F(ExportsEndToEndTest, TheLastNameIsOfferedAgain) {
@@ -164,7 +237,10 @@ TEST_F(ExportsEndToEndTest, TheLastNameIsOfferedAgain) {
   ExpectWritten(kExports[0]);
   program_->PostCommand(kExportText);
   const HWND dialog = program_->WaitForDialog("Save As");
-  EXPECT_THAT(TextOf(GetDlgItem(dialog, 0x47C)), HasSubstr("zmanim"));
+  EXPECT_THAT(TextOf(GetDlgItem(dialog, 0x47C)), HasSubstr("zmanim.txt"));
+  CancelSaving(*program_);
+  program_->PostCommand(kExportRtf);
+  EXPECT_THAT(TextOf(GetDlgItem(program_->WaitForDialog("Save As"), 0x47C)), HasSubstr("zmanim.rtf"));
   CancelSaving(*program_);
 }
 
@@ -193,7 +269,7 @@ TEST_F(ExportsEndToEndTest, DatesAndReadingsForDatabases) {
   } languages[] = {{"English", "06.01.2007|16 Tevet 5767|"}, {"German", "06.01.2007|16. Tevet 5767|"}};
   for (const auto& row : languages) {
     program_->PostCommand(kExportDates);
-    const HWND dialog = program_->WaitForDialog("Export Gregorian/Jewish dates, torah/haphtarah readings, holidays");
+    const HWND dialog = program_->WaitForDialog(kDatesDialog);
     const fs::path file = File((std::string(row.language) + ".csv").c_str());
     SetText(dialog, kFile, file.string());
     SetText(dialog, kSeparator, "|");
@@ -205,18 +281,25 @@ TEST_F(ExportsEndToEndTest, DatesAndReadingsForDatabases) {
   }
 }
 
-// Deliberate: the dialogs speak of success without asking whether there was any.
-TEST_F(ExportsEndToEndTest, AFolderForAFileLeavesNoOtherWordThanSuccess) {
-  program_->PostCommand(kExportZmanim);
-  const HWND dialog = program_->WaitForDialog("Export Zmanim");
-  SetText(dialog, kFile, folder_.path().string());
-  ExpectInformation(dialog, folder_.path().string());
+TEST_F(ExportsEndToEndTest, AFileForDatabasesThatCannotBeWrittenIsNamedAndTheDialogStays) {
+  for (const auto& [command, title] : {std::pair{kExportZmanim, "Export Zmanim"}, {kExportDates, kDatesDialog}}) {
+    program_->PostCommand(command);
+    const HWND dialog = program_->WaitForDialog(title);
+    for (const std::string& name : {folder_.path().string(), File("a|b.csv").string(), File("nul").string()}) {
+      SetText(dialog, kFile, name);
+      Answer(dialog, IDOK);
+      ExpectUnwritable(name);
+      EXPECT_TRUE(program_->Eventually([&] { return IsWindowEnabled(dialog); }));
+    }
+    Answer(dialog, IDCANCEL);
+    EXPECT_TRUE(program_->Eventually([&] { return !IsWindow(dialog); }));
+  }
   EXPECT_TRUE(fs::is_empty(folder_.path()));
 }
 
 TEST_F(ExportsEndToEndTest, ADialogThatLacksSomethingStaysOpen) {
   program_->PostCommand(kExportDates);
-  const HWND dialog = program_->WaitForDialog("Export Gregorian/Jewish dates, torah/haphtarah readings, holidays");
+  const HWND dialog = program_->WaitForDialog(kDatesDialog);
   const struct {
     int field;
     const char* text;

@@ -1,16 +1,12 @@
 // Which export a command runs by the visible view, what it writes, and the two dialogs of the delimited exports. The
 // formats themselves are tested as cores.
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "app/active_document.h"
 #include "app/compute_document.h"
-#include "engine/current.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
-#include "tests/program/program_fixture.h"
-#include "zmanim/zmanim_in_use.h"
+#include "tests/program/exports_fixture.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -20,40 +16,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class ExportsTest : public ProgramTest {
+class ExportsTest : public ExportsFixture {
  protected:
-  void SetUp() override {
-    ProgramTest::SetUp();
-    Libraries().settings["shabbat2.ini|Locations|Aachen"] = "";
-    Libraries().zmanimCount = 2;
-    Libraries().readings = {{"6.1.5767", {"Vayechi", "", "", "H1", "", "", "Extra"}}};
-    OpenFrame();
-    CurrentRange = {{5, 1, 2007}, {6, 1, 2007}};
-    CalculateShabbatTimes(ActiveDocument(), 5, 1, 2007, 6, 1, 2007);
-    folder_ = fs::temp_directory_path() / ("exports_test_" + std::to_string(GetCurrentProcessId()));
-    fs::create_directories(folder_);
-    CallLog().clear();
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-    ProgramTest::TearDown();
-  }
-
-  void Command(unsigned id) {
-    SendMessageA(frame_, WM_COMMAND, id, 0);
-    DispatchPendingMessages();
-  }
-  std::string Exported(unsigned id, const char* name) {
-    System().savedFile = (folder_ / name).string();
-    Command(id);
-    return Bytes(System().savedFile);
-  }
-  static std::string Bytes(const std::string& file) {
-    std::ostringstream text;
-    text << std::ifstream(file, std::ios::binary).rdbuf();
-    return text.str();
-  }
   bool IsEnabled(unsigned id) {
     SendMessageA(frame_, WM_INITMENU, reinterpret_cast<WPARAM>(GetMenu(frame_)), 0);
     return (GetMenuState(GetMenu(frame_), id, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
@@ -66,8 +30,6 @@ class ExportsTest : public ProgramTest {
                 ElementsAre("message box '" + std::string(complaint) + "' caption 'Error' type 0x10 owner yes"));
     EXPECT_EQ(GetFocus(), GetDlgItem(dialog, field));
   }
-
-  fs::path folder_;
 };
 
 }  // namespace
@@ -142,28 +104,6 @@ TEST_F(ExportsTest, ACancelledExportWritesNothing) {
     }
   }
   EXPECT_TRUE(fs::is_empty(folder_));
-}
-
-TEST_F(ExportsTest, AFileThatCannotBeWrittenLeavesNoWord) {
-  fs::create_directories(folder_ / "taken.txt");
-  for (const unsigned view : {IDM_VIEW_ZMANIM, IDM_VIEW_READINGS}) {
-    Command(view);
-    Exported(IDM_EXPORT_TEXT, "taken.txt");
-    Exported(IDM_EXPORT_RTF, "taken.txt");
-  }
-  EXPECT_THAT(CallsWith("message box"), IsEmpty());
-  EXPECT_EQ(System().locks, 0);
-}
-
-TEST_F(ExportsTest, AFileThatAnotherProgramReadsIsReplaced) {
-  Command(IDM_VIEW_READINGS);
-  const fs::path file = folder_ / "readings.txt";
-  std::ofstream(file) << "an older file";
-  const HANDLE reader = CreateFileA(file.string().c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                    OPEN_EXISTING, 0, nullptr);
-  ASSERT_NE(reader, INVALID_HANDLE_VALUE);
-  EXPECT_THAT(Exported(IDM_EXPORT_TEXT, "readings.txt"), StartsWith("Date        Parashioth"));
-  CloseHandle(reader);
 }
 
 TEST_F(ExportsTest, WithoutADocumentNothingIsExported) {
@@ -283,13 +223,4 @@ TEST_F(ExportsTest, BrowseFillsTheFieldAndACancelledBrowseLeavesIt) {
                EXPECT_THAT(FieldText(dialog, 101), HasSubstr("chosen.txt"));
                Click(dialog, IDCANCEL);
              });
-}
-
-TEST_F(ExportsTest, SuccessIsSaidOfAFileThatCannotBeWrittenToo) {
-  WithDialog([&] { Command(IDM_EXPORT_ZMANIM); },
-             [&](HWND dialog) {
-               SetField(dialog, 101, folder_.string().c_str());
-               Click(dialog, IDOK);
-             });
-  EXPECT_THAT(CallsWith("message box"), ElementsAre(HasSubstr("Information was written to file")));
 }

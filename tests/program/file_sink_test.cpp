@@ -1,4 +1,4 @@
-// Files that are written from start to end, on a disk that fails.
+// Files that are written beside their place and take it when they are whole, on a disk that fails.
 #include "win/file_sink.h"
 
 #include <filesystem>
@@ -16,62 +16,129 @@ constexpr std::size_t kLarge = 200'000;
 
 class FileSinkTest : public testing::Test {
  protected:
-  void SetUp() override { ResetSystem(); }
+  void SetUp() override {
+    ResetSystem();
+    fs::create_directories(folder_);
+    std::ofstream(file_) << "an older file";
+  }
   void TearDown() override {
     ResetSystem();
     std::error_code ignored;
-    fs::remove_all(file_, ignored);
+    fs::remove_all(folder_, ignored);
   }
 
   std::string Bytes() const {
     std::ifstream file(file_, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), {});
   }
+  std::ptrdiff_t Files() const { return std::distance(fs::directory_iterator(folder_), {}); }
+  void ExpectOnlyTheOlderFile() const {
+    EXPECT_EQ(Bytes(), "an older file");
+    EXPECT_EQ(Files(), 1);
+  }
 
-  const std::string file_ =
-      (fs::temp_directory_path() / ("file_sink_test_" + std::to_string(GetCurrentProcessId()))).string();
+  const fs::path folder_ = fs::temp_directory_path() / ("file_sink_test_" + std::to_string(GetCurrentProcessId()));
+  const std::string file_ = (folder_ / "file").string();
 };
 
 }  // namespace
 
 TEST_F(FileSinkTest, WritesEveryByteInOrder) {
   std::string expected;
-  FileSink sink(file_.c_str());
-  while (expected.size() < kLarge) {
-    const std::string text = std::to_string(expected.size()) + "\r\n";
-    sink.Write(text);
-    expected += text;
+  {
+    FileSink sink(file_.c_str());
+    while (expected.size() < kLarge) {
+      const std::string text = std::to_string(expected.size()) + "\r\n";
+      sink.Write(text);
+      expected += text;
+    }
+    EXPECT_EQ(Bytes(), "an older file") << "until all is written";
+    EXPECT_TRUE(sink.Commit());
+    EXPECT_TRUE(sink.Commit()) << "once more changes nothing";
+    EXPECT_EQ(Bytes(), expected);
   }
-  EXPECT_TRUE(sink.Close());
-  EXPECT_TRUE(sink.Close()) << "closing again changes nothing";
   EXPECT_EQ(Bytes(), expected);
+  EXPECT_EQ(Files(), 1);
 }
 
-TEST_F(FileSinkTest, IsWrittenWithoutBeingClosed) {
-  { FileSink(file_.c_str()).Write("text"); }
-  EXPECT_EQ(Bytes(), "text");
+TEST_F(FileSinkTest, AFileThatIsGivenUpLeavesTheOlderOne) {
+  { FileSink(file_.c_str()).Write(std::string(kLarge, 'a')); }
+  ExpectOnlyTheOlderFile();
 }
 
-TEST_F(FileSinkTest, OneFailingWriteIsToldAndNothingIsWrittenBehindTheGap) {
-  FileSink sink(file_.c_str());
-  System().failingWrites = 1;
-  sink.Write(std::string(kLarge, 'a'));
-  sink.Write(std::string(kLarge, 'b'));
-  EXPECT_FALSE(sink.Close());
-  EXPECT_FALSE(sink.Close());
-  EXPECT_EQ(Bytes(), "");
+TEST_F(FileSinkTest, TwoFilesGrowSideBySide) {
+  const std::string other = (folder_ / "other").string();
+  FileSink first(file_.c_str());
+  FileSink second(other.c_str());
+  first.Write("first");
+  second.Write("second");
+  EXPECT_TRUE(first.Commit());
+  EXPECT_TRUE(second.Commit());
+  EXPECT_EQ(Bytes(), "first");
+  EXPECT_EQ(fs::file_size(other), 6u);
+  EXPECT_EQ(Files(), 2);
+}
+
+TEST_F(FileSinkTest, OneFailingWriteIsToldThoughTheNextOnesWouldSucceed) {
+  {
+    FileSink sink(file_.c_str());
+    System().failingWrites = 1;
+    sink.Write(std::string(kLarge, 'a'));
+    sink.Write(std::string(kLarge, 'b'));
+    EXPECT_FALSE(sink.Commit());
+    EXPECT_FALSE(sink.Commit());
+  }
+  ExpectOnlyTheOlderFile();
 }
 
 TEST_F(FileSinkTest, AWriteThatEndsTooSoonIsTold) {
-  FileSink sink(file_.c_str());
-  System().diskIsFull = true;
-  sink.Write("text");
-  EXPECT_FALSE(sink.Close());
+  {
+    FileSink sink(file_.c_str());
+    System().diskIsFull = true;
+    sink.Write("text");
+    EXPECT_FALSE(sink.Commit());
+  }
+  ExpectOnlyTheOlderFile();
 }
 
 TEST_F(FileSinkTest, AFileThatCannotBeCreatedIsTold) {
-  fs::create_directories(file_);
+  System().createError = ERROR_ACCESS_DENIED;
   FileSink sink(file_.c_str());
   sink.Write(std::string(kLarge, 'a'));
-  EXPECT_FALSE(sink.Close());
+  EXPECT_FALSE(sink.Commit());
+  ExpectOnlyTheOlderFile();
+}
+
+TEST_F(FileSinkTest, ANameThatIsTakenBesideIsPassedOver) {
+  for (int i = 0; i < 2; ++i) {
+    FileSink sink(file_.c_str());
+    FileSink again(file_.c_str());
+    EXPECT_EQ(Files(), 3);
+    again.Write("again");
+    EXPECT_TRUE(again.Commit());
+  }
+  EXPECT_EQ(Bytes(), "again");
+  EXPECT_EQ(Files(), 1);
+}
+
+// The longest folder that the system makes has room for a name of eight letters and three.
+TEST_F(FileSinkTest, AFileInTheLongestFolderIsWritten) {
+  constexpr std::size_t kLongestFolder = MAX_PATH - 13;
+  const std::string start = folder_.string() + "\\";
+  const std::string folder = start + std::string(kLongestFolder - start.size(), 'd');
+  ASSERT_TRUE(CreateDirectoryA(folder.c_str(), nullptr)) << GetLastError();
+  const std::string file = folder + "\\f";
+  FileSink sink(file.c_str());
+  EXPECT_TRUE(sink.Commit());
+  EXPECT_NE(GetFileAttributesA(file.c_str()), INVALID_FILE_ATTRIBUTES);
+}
+
+TEST_F(FileSinkTest, ANameWithoutAFolderIsThatOfTheCurrentFolder) {
+  const fs::path before = fs::current_path();
+  fs::current_path(folder_);
+  FileSink sink("file");
+  sink.Write("text");
+  EXPECT_TRUE(sink.Commit());
+  fs::current_path(before);
+  EXPECT_EQ(Bytes(), "text");
 }

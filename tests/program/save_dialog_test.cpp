@@ -6,42 +6,19 @@
 
 #include <filesystem>
 
-#include "app/active_document.h"
-#include "app/compute_document.h"
-#include "engine/current.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
-#include "tests/program/program_fixture.h"
-#include "zmanim/zmanim_in_use.h"
+#include "tests/program/exports_fixture.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 namespace fs = std::filesystem;
 
 namespace {
 
-class SaveDialogTest : public ProgramTest {
+class SaveDialogTest : public ExportsFixture {
  protected:
-  void SetUp() override {
-    ProgramTest::SetUp();
-    Libraries().settings["shabbat2.ini|Locations|Aachen"] = "";
-    Libraries().zmanimCount = 2;
-    OpenFrame();
-    CurrentRange = {{5, 1, 2007}, {6, 1, 2007}};
-    CalculateShabbatTimes(ActiveDocument(), 5, 1, 2007, 6, 1, 2007);
-    folder_ = fs::temp_directory_path() / ("save_dialog_test_" + std::to_string(GetCurrentProcessId()));
-    fs::create_directories(folder_);
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-    ProgramTest::TearDown();
-  }
-
-  void Command(unsigned id) {
-    SendMessageA(frame_, WM_COMMAND, id, 0);
-    DispatchPendingMessages();
-  }
   // Runs an export; the name that its save dialog offered.
   std::string OfferedBy(unsigned id, const std::string& chosen = "") {
     System().saveDialog = {};
@@ -50,19 +27,28 @@ class SaveDialogTest : public ProgramTest {
     EXPECT_NE(System().saveDialog.size, 0u) << "no save dialog was shown";
     return System().saveDialog.offeredFile;
   }
-  void ExpectDialog(HWND owner, const char* name, const char* pattern, const char* extension) {
+  void ExpectDialog(HWND owner, const std::vector<std::string>& filter, const char* extension) {
     const SaveDialog& dialog = System().saveDialog;
     EXPECT_EQ(dialog.owner, owner);
-    EXPECT_THAT(dialog.filter, ElementsAre(name, pattern, "All files (*.*)", "*.*"));
+    EXPECT_EQ(dialog.filter, filter);
     EXPECT_EQ(dialog.filterIndex, 1u);
     EXPECT_EQ(dialog.size, 256u);
     EXPECT_EQ(dialog.extension, extension);
     EXPECT_EQ(dialog.flags, DWORD{OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST});
   }
-  void ExpectTextDialog(HWND owner) { ExpectDialog(owner, "Text files (*.txt)", "*.txt", "txt"); }
-  void ExpectRtfDialog(HWND owner) { ExpectDialog(owner, "RTF files (*.rtf)", "*.rtf", "rtf"); }
-
-  fs::path folder_;
+  void ExpectTextDialog(HWND owner) {
+    ExpectDialog(owner, {"Text files (*.txt)", "*.txt", "All files (*.*)", "*.*"}, "txt");
+  }
+  void ExpectRtfDialog(HWND owner) {
+    ExpectDialog(
+        owner, {"RTF files (*.rtf)", "*.rtf", "RTF for all word processors (*.rtf)", "*.rtf", "All files (*.*)", "*.*"},
+        "rtf");
+  }
+  // Exports as RTF, with a type chosen in the dialog; the file.
+  std::string ExportedAs(DWORD type, unsigned id) {
+    System().chosenType = type;
+    return Exported(id, "table.rtf");
+  }
 };
 
 // Browses in a dialog of the delimited exports; the name that is offered.
@@ -112,33 +98,100 @@ TEST_F(SaveDialogTest, TheDelimitedExportsAskForATextFileOfTheirOwnDialog) {
   }
 }
 
-TEST_F(SaveDialogTest, ShabbatTimesAreOfferedNoName) {
-  EXPECT_EQ(OfferedBy(IDM_EXPORT_TEXT, "times.txt"), "");
-  EXPECT_EQ(OfferedBy(IDM_EXPORT_TEXT), "");
-  EXPECT_EQ(OfferedBy(IDM_EXPORT_RTF_TWO_COLUMNS, "times.rtf"), "");
-  EXPECT_EQ(OfferedBy(IDM_EXPORT_RTF_TWO_COLUMNS), "");
-}
-
-TEST_F(SaveDialogTest, ZmanimAndReadingsOfferTheLastNameOfTheirOwnTextAndRtfFiles) {
+TEST_F(SaveDialogTest, EveryViewOffersItsLastNameWithTheExtensionOfTheFormat) {
   const struct {
     unsigned view;
-    unsigned secondLayout;
-    std::string name;
-  } exports[] = {{IDM_VIEW_ZMANIM, IDM_EXPORT_RTF_BY_DAY, "zmanim"},
-                 {IDM_VIEW_READINGS, IDM_EXPORT_RTF_NARROW, "readings"}};
+    unsigned rtf;
+    const char* name;
+  } exports[] = {{IDM_VIEW_SHABBAT_TIMES, IDM_EXPORT_RTF_TWO_COLUMNS, "times"},
+                 {IDM_VIEW_ZMANIM, IDM_EXPORT_RTF, "zmanim"},
+                 {IDM_VIEW_READINGS, IDM_EXPORT_RTF, "readings"}};
   for (const auto& row : exports) {
     Command(row.view);
-    OfferedBy(IDM_EXPORT_TEXT, row.name + ".txt");
-    OfferedBy(IDM_EXPORT_RTF, row.name + ".rtf");
+    OfferedBy(IDM_EXPORT_TEXT, row.name + std::string(".txt"));
   }
   for (const auto& row : exports) {
     Command(row.view);
-    EXPECT_EQ(OfferedBy(IDM_EXPORT_TEXT), (folder_ / (row.name + ".txt")).string());
-    EXPECT_EQ(OfferedBy(IDM_EXPORT_RTF), (folder_ / (row.name + ".rtf")).string());
-    // Both layouts of a view share their name, and a cancelled dialog leaves it as it was.
-    EXPECT_EQ(OfferedBy(row.secondLayout, row.name + "2.rtf"), (folder_ / (row.name + ".rtf")).string());
-    EXPECT_EQ(OfferedBy(IDM_EXPORT_RTF), (folder_ / (row.name + "2.rtf")).string());
+    const std::string base = PathOf(row.name);
+    EXPECT_EQ(OfferedBy(IDM_EXPORT_TEXT), base + ".txt");
+    EXPECT_EQ(OfferedBy(row.rtf), base + ".rtf");
+    // A second layout shares the name, and a cancelled dialog leaves it as it was.
+    EXPECT_EQ(OfferedBy(IDM_EXPORT_RTF_THREE_COLUMNS, row.name + std::string("2.rtf")), base + ".rtf");
+    EXPECT_EQ(OfferedBy(row.rtf), base + "2.rtf");
+    EXPECT_EQ(OfferedBy(IDM_EXPORT_TEXT), base + "2.txt");
   }
+}
+
+TEST_F(SaveDialogTest, ANameThatTheDialogRefusesIsNotOfferedAgain) {
+  OfferedBy(IDM_EXPORT_TEXT, "times.txt");
+  System().savedFile.clear();
+  System().saveDialogError = FNERR_INVALIDFILENAME;
+  std::vector<std::string> offered;
+  System().whileSaving = [&] { offered.push_back(System().saveDialog.offeredFile); };
+  Command(IDM_EXPORT_TEXT);
+  EXPECT_THAT(offered, ElementsAre(PathOf("times.txt"), ""));
+}
+
+TEST_F(SaveDialogTest, TheSecondTypeIsRtfForAllWordProcessors) {
+  const unsigned commands[] = {IDM_EXPORT_RTF_THREE_COLUMNS, IDM_EXPORT_RTF_TWO_COLUMNS};
+  for (const unsigned view : {IDM_VIEW_SHABBAT_TIMES, IDM_VIEW_ZMANIM, IDM_VIEW_READINGS}) {
+    Command(view);
+    for (const unsigned id : commands) {
+      EXPECT_THAT(ExportedAs(1, id), Not(HasSubstr("\\trowd"))) << view;
+      EXPECT_THAT(ExportedAs(2, id), HasSubstr("\\trowd\\cellx")) << view;
+    }
+    if (view == IDM_VIEW_SHABBAT_TIMES) continue;
+    EXPECT_THAT(ExportedAs(1, IDM_EXPORT_RTF), Not(HasSubstr("\\trowd"))) << view;
+    EXPECT_THAT(ExportedAs(2, IDM_EXPORT_RTF), HasSubstr("\\trowd\\cellx")) << view;
+  }
+}
+
+TEST_F(SaveDialogTest, TheSecondTypeOfTheSameRowExportIsForAllWordProcessorsToo) {
+  System().chosenType = 2;
+  System().savedFile = PathOf("table.rtf");
+  WithDialog([&] { Command(IDM_EXPORT_RTF); }, [](HWND dialog) { Click(dialog, IDOK); });
+  EXPECT_THAT(Bytes(PathOf("table.rtf")), HasSubstr("\\trowd\\cellx"));
+}
+
+TEST_F(SaveDialogTest, TheChosenTypeIsRememberedForItsViewAlone) {
+  Command(IDM_VIEW_ZMANIM);
+  ExportedAs(2, IDM_EXPORT_RTF);
+  EXPECT_EQ(Libraries().settings.Stored("shab30.ini|RtfForAllWordProcessors|Zmanim"), "1");
+  System().chosenType = 0;
+  OfferedBy(IDM_EXPORT_RTF_BY_DAY);
+  EXPECT_EQ(System().saveDialog.filterIndex, 2u);
+  Command(IDM_VIEW_READINGS);
+  OfferedBy(IDM_EXPORT_RTF);
+  EXPECT_EQ(System().saveDialog.filterIndex, 1u);
+  Command(IDM_VIEW_ZMANIM);
+  ExportedAs(1, IDM_EXPORT_RTF);
+  EXPECT_EQ(Libraries().settings.Stored("shab30.ini|RtfForAllWordProcessors|Zmanim"), "0");
+  System().chosenType = 0;
+  OfferedBy(IDM_EXPORT_RTF);
+  EXPECT_EQ(System().saveDialog.filterIndex, 1u);
+}
+
+TEST_F(SaveDialogTest, AmongAllFilesTheRememberedTypeIsWrittenAndStays) {
+  Command(IDM_VIEW_READINGS);
+  EXPECT_THAT(ExportedAs(3, IDM_EXPORT_RTF), Not(HasSubstr("\\trowd")));
+  EXPECT_EQ(Libraries().settings.Stored("shab30.ini|RtfForAllWordProcessors|Readings"), "(none)");
+  Libraries().settings["shab30.ini|RtfForAllWordProcessors|Readings"] = "1";
+  EXPECT_THAT(ExportedAs(3, IDM_EXPORT_RTF), HasSubstr("\\trowd"));
+  EXPECT_EQ(Libraries().settings.Stored("shab30.ini|RtfForAllWordProcessors|Readings"), "1");
+}
+
+TEST_F(SaveDialogTest, ACancelledDialogRemembersNoType) {
+  Command(IDM_VIEW_READINGS);
+  System().chosenType = 2;
+  OfferedBy(IDM_EXPORT_RTF);
+  EXPECT_EQ(Libraries().settings.Stored("shab30.ini|RtfForAllWordProcessors|Readings"), "(none)");
+}
+
+TEST_F(SaveDialogTest, AFileIsWrittenThoughItsTypeCannotBeRemembered) {
+  Command(IDM_VIEW_READINGS);
+  Libraries().writesFail = true;
+  EXPECT_THAT(ExportedAs(2, IDM_EXPORT_RTF), HasSubstr("\\trowd"));
+  EXPECT_THAT(CallsWith("message box"), testing::IsEmpty());
 }
 
 TEST_F(SaveDialogTest, TheTwoDelimitedExportsShareTheNameTheyOffer) {

@@ -1,40 +1,17 @@
 // The hourglass: while times are calculated and files written, and the earlier cursor after it.
-#include <filesystem>
-
 #include "app/active_document.h"
 #include "app/compute_document.h"
-#include "engine/current.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
-#include "tests/program/program_fixture.h"
-#include "zmanim/zmanim_in_use.h"
-
-namespace fs = std::filesystem;
+#include "tests/program/exports_fixture.h"
 
 namespace {
 
-class WaitCursorTest : public ProgramTest {
+class WaitCursorTest : public ExportsFixture {
  protected:
   void SetUp() override {
-    ProgramTest::SetUp();
-    Libraries().settings["shabbat2.ini|Locations|Aachen"] = "";
-    Libraries().zmanimCount = 2;
-    OpenFrame();
-    CurrentRange = {{5, 1, 2007}, {6, 1, 2007}};
-    CalculateShabbatTimes(ActiveDocument(), 5, 1, 2007, 6, 1, 2007);
-    folder_ = fs::temp_directory_path() / ("wait_cursor_test_" + std::to_string(GetCurrentProcessId()));
-    fs::create_directories(folder_);
+    ExportsFixture::SetUp();
     System().cursor = before_;
-  }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-    ProgramTest::TearDown();
-  }
-
-  void Command(unsigned id) {
-    SendMessageA(frame_, WM_COMMAND, id, 0);
-    DispatchPendingMessages();
   }
   void ExpectHourglassWhileWriting(const char* what) {
     EXPECT_EQ(System().cursorWhileWriting, wait_) << what;
@@ -44,7 +21,6 @@ class WaitCursorTest : public ProgramTest {
 
   const HCURSOR wait_ = LoadCursor(nullptr, IDC_WAIT);
   const HCURSOR before_ = LoadCursor(nullptr, IDC_CROSS);
-  fs::path folder_;
 };
 
 }  // namespace

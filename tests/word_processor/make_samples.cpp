@@ -1,5 +1,6 @@
-// Writes one RTF file of every layout into a folder: make_samples FOLDER. The readings are those of a whole year in
-// both languages, the zmanim have both marks and a Hebrew legend as the zmanim library describes them.
+// Writes one RTF file of every layout and form into a folder: make_samples FOLDER. The readings are those of a whole
+// year in both languages, the zmanim have both marks and a Hebrew legend as the zmanim library describes them. Those
+// for all word processors come in every number that makes tables of another kind.
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -35,23 +36,28 @@ void Save(const fs::path& file, const StringSink& sink) {
   std::ofstream(file, std::ios::binary) << sink.text();
 }
 
+const std::string kForAll = "_for_all";  // in the names of the files in that form
+
 void SaveShabbatTimes(const fs::path& folder) {
   std::vector<ShabbatTimeEntry> entries;
   for (uint32_t week = 0; week < 4; ++week) entries.push_back({5 + 7 * week, 1, 2007, 16, 27 + week, 16, 45, 17, 31});
-  const ShabbatExport data{.title = "Times / Readings of {Aachen}",
-                           .dateTitle = "Date",
-                           .candleTitle = "Candle Lighting",
-                           .endTitle = "End of Shabbat",
-                           .entries = entries,
-                           .formatTime = Format24,
-                           .amPm = false};
-  const std::pair<const char*, RtfLayout> layouts[] = {{"shabbat_same_row.rtf", RtfLayout::kSameRow},
-                                                       {"shabbat_three_columns.rtf", RtfLayout::kThreeColumns},
-                                                       {"shabbat_two_columns.rtf", RtfLayout::kTwoColumns}};
+  ShabbatExport data{.title = "Times / Readings of {Aachen}",
+                     .dateTitle = "Date",
+                     .candleTitle = "Candle Lighting",
+                     .endTitle = "End of Shabbat",
+                     .entries = entries,
+                     .formatTime = Format24,
+                     .amPm = false};
+  const std::pair<std::string, RtfLayout> layouts[] = {{"shabbat_same_row", RtfLayout::kSameRow},
+                                                       {"shabbat_three_columns", RtfLayout::kThreeColumns},
+                                                       {"shabbat_two_columns", RtfLayout::kTwoColumns}};
   for (const auto& [name, layout] : layouts) {
-    StringSink sink;
-    WriteShabbatRtf(sink, data, layout);
-    Save(folder / name, sink);
+    for (const RtfForm form : {RtfForm::kUsual, RtfForm::kForAllWordProcessors}) {
+      data.rtfForm = form;
+      StringSink sink;
+      WriteShabbatRtf(sink, data, layout);
+      Save(folder / (name + (form == RtfForm::kUsual ? "" : kForAll) + ".rtf"), sink);
+    }
   }
 }
 
@@ -106,6 +112,52 @@ void SaveZmanim(const fs::path& folder) {
   save("zmanim_days_12_hours.rtf", ZmanimRtfLayout::kRowPerDay);
 }
 
+// Two weeks in which no zman has the time of another: check_rtf knows how they go on.
+std::vector<ZmanimDay> DaysOfUniqueTimes() {
+  constexpr uint32_t kTwoWeeks = 14;
+  std::vector<ZmanimDay> days;
+  for (uint32_t day = 0; day < kTwoWeeks; ++day) {
+    ZmanimDay record{{day + 1, 1, 2007}, {}};
+    for (uint32_t zman = 0; zman < kMostZmanim; ++zman) {
+      const auto minutes = static_cast<int32_t>(day * kMostZmanim + zman);
+      record.times[zman] = {minutes / 60, minutes % 60};
+    }
+    days.push_back(record);
+  }
+  return days;
+}
+
+void SaveZmanimForAll(const fs::path& folder) {
+  const std::vector<ZmanimDay> days = DaysOfUniqueTimes();
+  for (const std::size_t count : {10, 19, 20, 25, 100}) {
+    for (const bool amPm : {false, true}) {
+      for (const bool hebrew : {false, true}) {
+        ZmanimExport data{.location = "{Aachen}",
+                          .dateTitle = "Date",
+                          .names = std::vector<std::string>(count, "Zman {72}"),
+                          .hebrew = hebrew,
+                          .hebrewNames = std::vector<std::string>(count),
+                          .hebrewFont = "DisplayHebrew1",
+                          .vilnaGaon = "GR\"O = Vilna Gaon",
+                          .magenAvraham = "M\"A = Magen Avraham",
+                          .days = days,
+                          .formatTime = amPm ? Format12 : Format24,
+                          .amPm = amPm,
+                          .rtfForm = RtfForm::kForAllWordProcessors};
+        data.hebrewNames[0] = hours::DisplayHebrew(hours::EightBitFromUtf8("עלות השחר (72 דקות)"));
+        for (const auto& [name, layout] :
+             {std::pair{"columns", ZmanimRtfLayout::kRowPerColumn}, {"days", ZmanimRtfLayout::kRowPerDay}}) {
+          StringSink sink;
+          WriteZmanimRtf(sink, data, layout);
+          Save(folder / ("zmanim_" + std::string(name) + kForAll + "_" + std::to_string(count) +
+                         (amPm ? "_12" : "_24") + (hebrew ? "_hebrew" : "_english") + ".rtf"),
+               sink);
+        }
+      }
+    }
+  }
+}
+
 void Put(const std::string& text, char (&slot)[kTextSize]) {
   slot[text.copy(slot, kTextSize - 1)] = '\0';
 }
@@ -139,18 +191,22 @@ void SaveReadings(const fs::path& folder, uint32_t language, const ExportFont& f
   lections::Settings settings;
   settings.language = language;
   const std::vector<ReadingsEntry> entries = ReadingsOfAYear(settings);
-  const ReadingsExport data{.dateTitle = "Date",
-                            .torahTitle = "Parashioth",
-                            .haftarahTitle = "Haphtaroth",
-                            .yizkor = "Yizkor",
-                            .font = font,
-                            .entries = entries};
-  StringSink wide;
-  WriteReadingsRtfWide(wide, data);
-  Save(folder / ("readings_wide" + suffix + ".rtf"), wide);
-  StringSink narrow;
-  WriteReadingsRtfNarrow(narrow, data);
-  Save(folder / ("readings_narrow" + suffix + ".rtf"), narrow);
+  ReadingsExport data{.dateTitle = "Date",
+                      .torahTitle = "Parashioth",
+                      .haftarahTitle = "Haphtaroth",
+                      .yizkor = "Yizkor",
+                      .font = font,
+                      .entries = entries};
+  for (const RtfForm form : {RtfForm::kUsual, RtfForm::kForAllWordProcessors}) {
+    data.rtfForm = form;
+    const std::string ending = (form == RtfForm::kUsual ? "" : kForAll) + suffix + ".rtf";
+    StringSink wide;
+    WriteReadingsRtfWide(wide, data);
+    Save(folder / ("readings_wide" + ending), wide);
+    StringSink narrow;
+    WriteReadingsRtfNarrow(narrow, data);
+    Save(folder / ("readings_narrow" + ending), narrow);
+  }
 }
 
 }  // namespace
@@ -160,6 +216,7 @@ int main(int count, char** arguments) {
   const fs::path folder = arguments[1];
   SaveShabbatTimes(folder);
   SaveZmanim(folder);
+  SaveZmanimForAll(folder);
   SaveReadings(folder, kEnglish, {}, "");
   SaveReadings(folder, kHebrew, {.ownFont = true, .face = "Times New Roman", .points = 12, .charset = 177}, "_hebrew");
 }

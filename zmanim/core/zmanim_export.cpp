@@ -74,14 +74,23 @@ void WriteTextTable(TextSink& sink, const ZmanimExport& data, const ZmanimGroup&
   WriteLine(sink, "");
 }
 
+bool IsForAll(const ZmanimExport& data) {
+  return data.rtfForm == RtfForm::kForAllWordProcessors;
+}
+
+// A text of places and zmanim, which the usual form takes as it is.
+std::string RtfText(const ZmanimExport& data, const std::string& text) {
+  return IsForAll(data) ? RtfEscape(text) : text;
+}
+
 void WriteRtfLegend(TextSink& sink, const ZmanimExport& data) {
   if (!data.hebrew) {
-    WriteLine(sink, EnglishLegend(data) + "\\par");
+    WriteLine(sink, RtfText(data, EnglishLegend(data)) + "\\par");
     WriteLine(sink, "\\par");
     return;
   }
   WriteLine(sink, "{\\fonttbl");
-  WriteLine(sink, " {\\f1 \\fnil " + data.hebrewFont + ";}");
+  WriteLine(sink, std::string(IsForAll(data) ? "" : " ") + "{\\f1 \\fnil " + data.hebrewFont + ";}");
   WriteLine(sink, "}");
   WriteLine(sink, "{\\f1");
   for (const std::string& line : HebrewLegend(data)) WriteLine(sink, RtfEscape(line) + " \\par");
@@ -91,7 +100,7 @@ void WriteRtfLegend(TextSink& sink, const ZmanimExport& data) {
 
 void WriteRtfTableHead(TextSink& sink, const ZmanimExport& data, const ZmanimGroup& group) {
   int edge = kDateCell;
-  std::string edges = "{\\cellx" + std::to_string(edge);
+  std::string edges = std::string("{") + StartOfTable(data.rtfForm) + "\\cellx" + std::to_string(edge);
   for (std::size_t zman = group.first; zman < group.end; ++zman) {
     edge += data.amPm ? kAmPmTimeCell : kTimeCell;
     edges += "\\cellx" + std::to_string(edge);
@@ -146,7 +155,7 @@ void WriteZmanimText(TextSink& sink, const ZmanimExport& data, std::size_t width
 
 void WriteZmanimRtf(TextSink& sink, const ZmanimExport& data, ZmanimRtfLayout layout) {
   WriteLine(sink, "{\\rtf1\\ansi");
-  WriteLine(sink, "\\b Zmanim of " + data.location + "\\plain\\par");
+  WriteLine(sink, "\\b Zmanim of " + RtfText(data, data.location) + "\\plain\\par");
   WriteLine(sink, "\\par");
   WriteRtfLegend(sink, data);
   ZmanTexts texts(data.formatTime);

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "output/rtf_form.h"
 #include "output/text_sink.h"
 #include "zmanim/core/zman_texts.h"
 #include "zmanim/core/zmanim_block.h"
@@ -29,6 +30,7 @@ struct ZmanimExport {
   std::span<const ZmanimDay> days;
   FormatTime formatTime;
   bool amPm;  // times are ten characters wide, else five
+  RtfForm rtfForm = RtfForm::kUsual;
 };
 
 enum class ZmanimRtfLayout {

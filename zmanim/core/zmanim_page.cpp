@@ -40,9 +40,21 @@ DrawWord DrawOn(PageSurface& surface, HeadingPass pass) {
   return [&surface](int x, int y, std::string_view word) { surface.Draw(x, y, word); };
 }
 
+// The title, whose place is shortened where the page is too narrow for it.
+std::string TitleFor(PageSurface& surface, int width, std::string_view place) {
+  const std::string start = "Zmanim of ";
+  std::string title = start + std::string(place);
+  while (surface.Measure(title).width > width && !place.empty()) {
+    place.remove_suffix(1);
+    while (place.ends_with(' ')) place.remove_suffix(1);
+    title = start + std::string(place) + "...";
+  }
+  return title;
+}
+
 int PassTitle(PageSurface& surface, const PrinterPage& page, const ZmanimExport& data, HeadingPass pass) {
   surface.UseFont(PrintFont::kTitle);
-  const std::string title = "Zmanim of " + data.location;
+  const std::string title = TitleFor(surface, page.width, data.location);
   const TextSize size = surface.Measure(title);
   if (pass == HeadingPass::kDraw) surface.Draw(page.width / 2 - size.width / 2, page.TopMargin(), title);
   return 2 * size.height;
