@@ -40,7 +40,9 @@ std::string Readable(const std::string& text) {
   std::string readable;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0xE0 && byte <= 0xFA) {
+    if (byte == 0xD7) {
+      readable += "׳";
+    } else if (byte >= 0xE0 && byte <= 0xFA) {
       readable += '\xD7';
       readable += static_cast<char>(byte - 0xE0 + 0x90);
     } else {
