@@ -10,6 +10,7 @@ constexpr char kClassProcedure[] = "SpinClassProcedure";
 constexpr char kBarProperty[] = "SpinBar";
 constexpr char kRepeated[] = "SpinRepeated";
 
+constexpr int kFocusWidth = 2;
 constexpr UINT_PTR kRepeatTimer = 1;
 constexpr UINT kFirstRepeatMilliseconds = 400;
 constexpr UINT kNextRepeatMilliseconds = 60;
@@ -65,9 +66,11 @@ LRESULT OnDrawArrow(const DRAWITEMSTRUCT& item) {
   RECT area = item.rcItem;
   const UINT arrow = item.CtlID == SB_LINEUP ? DFCS_SCROLLUP : DFCS_SCROLLDOWN;
   DrawFrameControl(item.hDC, &area, DFC_SCROLL, arrow | (item.itemState & ODS_SELECTED ? DFCS_PUSHED : 0u));
-  if (item.itemState & ODS_FOCUS) {
-    InflateRect(&area, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
-    DrawFocusRect(item.hDC, &area);
+  if (item.itemState & ODS_FOCUS) {  // a dotted line would run into the small arrow
+    for (int width = 0; width < kFocusWidth; ++width) {
+      FrameRect(item.hDC, &area, GetSysColorBrush(COLOR_HIGHLIGHT));
+      InflateRect(&area, -1, -1);
+    }
   }
   return TRUE;
 }
@@ -101,9 +104,10 @@ LRESULT CALLBACK FieldProc(HWND field, UINT message, WPARAM wParam, LPARAM lPara
 }
 
 void AddArrow(HWND bar, int code, const char* name, const RECT& area) {
-  CreateWindowExA(0, "BUTTON", name, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, area.left, area.top,
-                  area.right - area.left, area.bottom - area.top, bar,
-                  reinterpret_cast<HMENU>(static_cast<INT_PTR>(code)), GetModuleHandleA(nullptr), nullptr);
+  static_cast<void>(CreateWindowExA(0, "BUTTON", name, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, area.left,
+                                    area.top, area.right - area.left, area.bottom - area.top, bar,
+                                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(code)), GetModuleHandleA(nullptr),
+                                    nullptr));
 }
 
 }  // namespace
