@@ -20,8 +20,9 @@ void StampCheck(HINSTANCE instance, HINSTANCE previousInstance, LPSTR commandLin
 int32_t StampIsAmPm(void);
 
 /* The time as text into a buffer of STAMP_TEXT_SIZE bytes: "18:47", or "06:47 p.m." in 12-hour form (midnight is
- * "12:00 a.m.", noon "12:00 p.m."). Hours outside 0 to 23 or minutes outside 0 to 59 are printed as they stand, each to
- * at least two characters, in either form ("24:05", "19:-3"). */
+ * "12:00 a.m.", noon "12:00 p.m."). Hours 24 to 47 are shown as the next day's: 25:18 is "01:18" or "01:18 a.m.". Any
+ * other hour, and minutes outside 0 to 59, are printed as they stand, each to at least two characters, in either form
+ * ("48:05", "-1:30", "19:-3"). */
 void StampConvert(int32_t hour, int32_t minute, char* text);
 
 /* The modal dialog in which the user chooses the form; owner may be null. Nonzero when it was accepted: the choice then

@@ -66,7 +66,7 @@ constexpr int32_t SimchatTorah(Land land) {
   return land == Land::kIsrael ? 21 : 22;
 }
 
-// The festivals with their Chol haMoed that can fall on a Shabbat.
+// The festivals with their Chol HaMoed that can fall on a Shabbat.
 constexpr bool IsFestival(int32_t day, int32_t daysInYear, Land land) {
   constexpr int32_t kDaysFromNisanToYearEnd = 177;
   constexpr int32_t kDaysFromNisanToSivan = 59;

@@ -1,7 +1,7 @@
 // The yearly cycle of Torah portions: which are read on each Shabbat, in the Land of Israel and in the diaspora.
 //
-// The cycle opens with Bereshit on the first Shabbat after Simchat Torah and closes with Vezot Haberakhah on Simchat
-// Torah itself. A Shabbat that is a festival or Chol haMoed has no portion of the cycle. Years are Jewish years, 1 to
+// The cycle opens with Bereshit on the first Shabbat after Simchat Torah and closes with Vezot Haberachah on Simchat
+// Torah itself. A Shabbat that is a festival or Chol HaMoed has no portion of the cycle. Years are Jewish years, 1 to
 // 9999; days are absolute days.
 #pragma once
 
@@ -89,11 +89,11 @@ struct WeeklyPortion {
 std::optional<WeeklyPortion> PortionOnShabbat(int32_t absoluteDay, Land land);
 
 // The portion of the week of any day: that of the first Shabbat on or after the day which has one; after Ha'azinu,
-// until Simchat Torah, Vezot Haberakhah. This is the portion whose beginning is read on Mondays and Thursdays, and on a
+// until Simchat Torah, Vezot Haberachah. This is the portion whose beginning is read on Mondays and Thursdays, and on a
 // Shabbat afternoon if asked for the day after. Nothing outside the years, or when that Shabbat is outside them.
 std::optional<WeeklyPortion> PortionOfWeek(int32_t absoluteDay, Land land);
 
-// The days of a year on which a portion is read, alone or joined, in ascending order: Vezot Haberakhah on Simchat
+// The days of a year on which a portion is read, alone or joined, in ascending order: Vezot Haberachah on Simchat
 // Torah, every other on Shabbat. One day; but Vayeilech, being read either before Rosh Hashana or after it, has none in
 // some years and two in others. Empty outside the years.
 std::vector<int32_t> DaysOfPortion(Portion portion, int32_t jewishYear, Land land);

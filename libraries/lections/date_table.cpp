@@ -1,4 +1,4 @@
-// The dates of the year that have readings of their own. Orach Chaim 488-490 (Pesach), 494 (Shavuot), 559 (Tisha beAv),
+// The dates of the year that have readings of their own. Orach Chaim 488-490 (Pesach), 494 (Shavuot), 559 (Tisha BeAv),
 // 566 (fasts), 584 and 601 (Rosh Hashana), 621-622 (Yom Kippur), 659-669 (Sukkot to Simchat Torah), 693 and 688
 // (Purim); for Israel the luach of Rabbi Y. M. Tucazinsky.
 #include <algorithm>
@@ -14,7 +14,7 @@ using enum Occasion;
 using namespace calendar;
 
 constexpr char kFastTorah[] = "Exodus 32:11-14, 34:1-10";
-// Sephardim have no haftarah on the afternoon of a fast, but on Tisha beAv.
+// Sephardim have no haftarah on the afternoon of a fast, but on Tisha BeAv.
 constexpr Haftarot kFastHaftarot = {"Isaiah 55:6-56:8", "", kAsAshkenazi};
 constexpr Haftarot kTishaBeAvAfternoon = {"Isaiah 55:6-56:8", "Hosea 14:2-10, Micah 7:18-20", kAsAshkenazi};
 constexpr char kFestivals[] = "Leviticus 22:26-23:44";
@@ -54,7 +54,7 @@ constexpr DateRow TishaBeAv(int32_t day, uint8_t weekdays) {
           .scroll = "Lamentations"};
 }
 
-// Chol haMoed of Sukkot: a weekday of the diaspora reads three days' offerings, its doubt about the date between them;
+// Chol HaMoed of Sukkot: a weekday of the diaspora reads three days' offerings, its doubt about the date between them;
 // Israel the day's alone. number: of the day of Sukkot.
 constexpr DateRow SukkotWeekday(int number, uint8_t lands, const char* torah) {
   return {.month = kTishri,
@@ -81,7 +81,7 @@ constexpr DateRow SukkotShabbat(int number, uint8_t lands, const char* maftir) {
           .scroll = "Ecclesiastes"};
 }
 
-// Chol haMoed of Pesach; when Shabbat is its third day, Sunday and Monday read what the days before them would have.
+// Chol HaMoed of Pesach; when Shabbat is its third day, Sunday and Monday read what the days before them would have.
 constexpr DateRow PesachWeekday(int number, uint8_t lands, uint8_t weekdays, const char* torah) {
   return {.month = kNisan,
           .day = 14 + number,

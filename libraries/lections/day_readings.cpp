@@ -103,8 +103,8 @@ void NameShabbat(const Day& day, const WeeklyPortion& read, DayReadings& reading
   if (read.portion == kBeshalach) name(Occasion::kShabbatShira);
   if (read.portion == kDevarim) name(Occasion::kShabbatChazon);
   if (read.portion == kVaetchanan) name(Occasion::kShabbatNachamu);
-  if (const int number = ChanukahDayOn(day)) name(Occasion::kChanukah, number);
   if (const int32_t month = RoshChodeshOn(day.date)) name(Occasion::kRoshChodesh, month);
+  if (const int number = ChanukahDayOn(day)) name(Occasion::kChanukah, number);
   if (HaftarotInsteadOfPortion(day, read) == &HaftarotOfMacharChodesh()) name(Occasion::kMacharChodesh);
 }
 

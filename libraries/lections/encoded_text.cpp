@@ -29,9 +29,14 @@ char ByteOf(uint32_t character, CodePage page) {
   constexpr uint32_t kAlef = 0x05D0;
   constexpr uint32_t kTav = 0x05EA;
   constexpr uint32_t kAlefIn1255 = 0xE0;
+  constexpr uint32_t kGeresh = 0x05F3;  // behind a numeral; gershayim follows it in Unicode and in windows-1255
+  constexpr uint32_t kGereshIn1255 = 0xD7;
   if (character < 0x80) return static_cast<char>(character);
   if (page == CodePage::kHebrew && character >= kAlef && character <= kTav) {
     return static_cast<char>(kAlefIn1255 + (character - kAlef));
+  }
+  if (page == CodePage::kHebrew && (character == kGeresh || character == kGeresh + 1)) {
+    return static_cast<char>(kGereshIn1255 + (character - kGeresh));
   }
   if (page == CodePage::kWestern && character >= 0xA0 && character <= 0xFF) return static_cast<char>(character);
   return '?';

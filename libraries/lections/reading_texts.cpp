@@ -128,35 +128,39 @@ class DayWriter {
     return isNameEnough ? "" : PassageText(line.passage, language_, settings_.verses);
   }
 
-  // The lines of one part: one when all customs read the same, else one for each reading, named after the first custom
-  // that has it.
+  // The lines of one part: one when all customs read the same, else one for each reading, named after every custom that
+  // has it.
   template <typename LinesOf>
   void AddPart(Part part, const LinesOf& linesOf, const std::string& nameOfMain, bool isHaftarah,
                std::vector<std::string>& lines) const {
     struct Read {
-      Custom custom;
+      std::string customs;
       const Line* line;
       std::string passage;
     };
     std::vector<Read> reads;
-    bool isSameForAll = true;
+    bool isReadByAll = true;
     for (size_t i = 0; i < customs_.size(); ++i) {
       const Line* line = LineOf(linesOf(readings_[i]), part);
-      std::string passage = line ? PassageOf(*line, isHaftarah) : "";
-      const bool isNew = line && std::ranges::find(reads, passage, &Read::passage) == reads.end();
-      if (isNew) reads.push_back({customs_[i], line, std::move(passage)});
-      if (!line || reads.size() > 1) isSameForAll = false;
+      if (!line) {
+        isReadByAll = false;
+        continue;
+      }
+      const std::string passage = PassageOf(*line, isHaftarah);
+      auto read = std::ranges::find(reads, passage, &Read::passage);
+      if (read == reads.end()) read = reads.insert(read, {"", line, passage});
+      AppendItem(read->customs, language_.words.customs[static_cast<size_t>(customs_[i])]);
     }
     for (const Read& read : reads) {
       const bool isTitle = part == Part::kMain && !isHaftarah;
       std::string text = isTitle && &read != &reads[0] ? "" : PartName(*read.line, nameOfMain);
-      if (!isSameForAll) AppendItem(text, language_.words.customs[static_cast<size_t>(read.custom)]);
+      if (!isReadByAll || reads.size() > 1) AppendItem(text, read.customs);
       AppendItem(text, read.passage, ": ");
       lines.push_back(std::move(text));
     }
   }
 
-  // The lines in the slots; what the last has no room for joins it.
+  // The lines in the slots; what the last has no room for joins it, told apart by a mark that no passage holds.
   template <typename LinesOf>
   std::array<std::string, 3> Slots(const LinesOf& linesOf, const std::string& nameOfMain, bool isHaftarah) const {
     std::vector<std::string> lines;
@@ -164,7 +168,7 @@ class DayWriter {
       AddPart(static_cast<Part>(part), linesOf, nameOfMain, isHaftarah, lines);
     }
     std::array<std::string, 3> slots;
-    for (size_t i = 0; i < lines.size(); ++i) AppendItem(slots[std::min(i, slots.size() - 1)], lines[i]);
+    for (size_t i = 0; i < lines.size(); ++i) AppendItem(slots[std::min(i, slots.size() - 1)], lines[i], " / ");
     for (std::string& slot : slots) slot = Encoded(slot, language_.codePage).substr(0, kLongestText);
     return slots;
   }

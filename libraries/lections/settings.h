@@ -17,7 +17,7 @@ enum class Customs : uint8_t { kAshkenazi, kSephardi, kBoth };
 struct Settings {
   calendar::Land land = calendar::Land::kDiaspora;
   Customs customs = Customs::kBoth;
-  bool chabad = false;   // listed too, where it differs
+  bool chabad = false;   // listed too
   bool verses = true;    // chapters and verses, or the books alone
   bool newMonth = true;  // announced on the Shabbat before
   Optional optional;

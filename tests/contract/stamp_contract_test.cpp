@@ -26,7 +26,8 @@ TEST_F(StampContract, UsersChoiceDecidesTheForm) {
   EXPECT_NE(StampIsAmPm(), 0);
   EXPECT_EQ(Text(18, 47), "06:47 p.m.");
   EXPECT_EQ(Text(0, 0), "12:00 a.m.");
-  EXPECT_EQ(Text(24, 10), "24:10");
+  EXPECT_EQ(Text(25, 18), "01:18 a.m.");
+  EXPECT_EQ(Text(48, 10), "48:10");
   EXPECT_EQ(Text(19, -3), "19:-3");
 }
 
@@ -34,6 +35,7 @@ TEST_F(StampContract, ChangedChoiceCountsAtOnce) {
   ProfileWriteString("Times", "Form", "24", "stamp.ini");
   EXPECT_EQ(StampIsAmPm(), 0);
   EXPECT_EQ(Text(18, 47), "18:47");
+  EXPECT_EQ(Text(25, 18), "01:18");
   ProfileWriteString("Times", "Form", "12", "stamp.ini");
   EXPECT_NE(StampIsAmPm(), 0);
   EXPECT_EQ(Text(18, 47), "06:47 p.m.");

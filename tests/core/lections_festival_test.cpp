@@ -41,17 +41,17 @@ TEST(LectionsFestival, CholHaMoedOfSukkotInBothLands) {
     const char* israel;
   };
   const Row kRows[] = {
-      {2, "Sukkot, day 3, Chol haMoed: Numbers 29:17-25", "Sukkot, day 3, Chol haMoed: Numbers 29:20-22"},
-      {3, "Sukkot, day 4, Chol haMoed: Numbers 29:20-28", "Sukkot, day 4, Chol haMoed: Numbers 29:23-25"},
-      {4, "Sukkot, day 5, Chol haMoed: Numbers 29:23-31", "Sukkot, day 5, Chol haMoed: Numbers 29:26-28"},
-      {5, "Sukkot, day 6, Chol haMoed: Numbers 29:26-34", "Sukkot, day 6, Chol haMoed: Numbers 29:29-31"},
+      {2, "Sukkot, day 3, Chol HaMoed: Numbers 29:17-25", "Sukkot, day 3, Chol HaMoed: Numbers 29:20-22"},
+      {3, "Sukkot, day 4, Chol HaMoed: Numbers 29:20-28", "Sukkot, day 4, Chol HaMoed: Numbers 29:23-25"},
+      {4, "Sukkot, day 5, Chol HaMoed: Numbers 29:23-31", "Sukkot, day 5, Chol HaMoed: Numbers 29:26-28"},
+      {5, "Sukkot, day 6, Chol HaMoed: Numbers 29:26-34", "Sukkot, day 6, Chol HaMoed: Numbers 29:29-31"},
       {6, "Sukkot, day 7, Hoshana Rabba: Numbers 29:26-34", "Sukkot, day 7, Hoshana Rabba: Numbers 29:32-34"},
   };
   for (const Row& row : kRows) {  // October 2023; the first day was a Shabbat, 30 September
     EXPECT_EQ(InDiaspora(row.day, 10, 2023), row.diaspora);
     EXPECT_EQ(InIsrael(row.day, 10, 2023), row.israel);
   }
-  EXPECT_EQ(InIsrael(1, 10, 2023), "Sukkot, day 2, Chol haMoed: Numbers 29:17-19");
+  EXPECT_EQ(InIsrael(1, 10, 2023), "Sukkot, day 2, Chol HaMoed: Numbers 29:17-19");
 }
 
 TEST(LectionsFestival, ShabbatCholHaMoedOfSukkotTakesItsMaftirByTheDay) {
@@ -66,7 +66,7 @@ TEST(LectionsFestival, ShabbatCholHaMoedOfSukkotTakesItsMaftirByTheDay) {
                        {{6, 10, 2012}, "6", "29:26-31", "29:29-31"}};
   for (const Row& row : kRows) {
     const std::string before =
-        std::string("Sukkot, day ") + row.day + ", Shabbat Chol haMoed: Exodus 33:12-34:26 | Maftir: Numbers ";
+        std::string("Sukkot, day ") + row.day + ", Shabbat Chol HaMoed: Exodus 33:12-34:26 | Maftir: Numbers ";
     const std::string after = " | Scroll: Ecclesiastes // Ezekiel 38:18-39:16";
     EXPECT_EQ(InDiaspora(row.civil.day, row.civil.month, row.civil.year), before + row.diaspora + after);
     EXPECT_EQ(InIsrael(row.civil.day, row.civil.month, row.civil.year), before + row.israel + after);
@@ -78,10 +78,10 @@ TEST(LectionsFestival, SheminiAtzeretAndSimchatTorah) {
   EXPECT_EQ(InDiaspora(24, 10, 2024),
             "Shemini Atzeret: Deuteronomy 14:22-16:17 | Maftir: Numbers 29:35-30:1 // I Kings 8:54-66");
   EXPECT_EQ(InDiaspora(25, 10, 2024),
-            "Vezot Haberakhah (Simchat Torah): Deuteronomy 33:1-34:12, Genesis 1:1-2:3 | Maftir: Numbers 29:35-30:1 "
+            "Vezot Haberachah (Simchat Torah): Deuteronomy 33:1-34:12, Genesis 1:1-2:3 | Maftir: Numbers 29:35-30:1 "
             "// Ashkenazi: Joshua 1:1-18 | Sephardi: Joshua 1:1-9");
   EXPECT_EQ(InIsrael(24, 10, 2024, Customs::kAshkenazi),
-            "Vezot Haberakhah (Simchat Torah): Deuteronomy 33:1-34:12, Genesis 1:1-2:3 | Maftir: Numbers 29:35-30:1 "
+            "Vezot Haberachah (Simchat Torah): Deuteronomy 33:1-34:12, Genesis 1:1-2:3 | Maftir: Numbers 29:35-30:1 "
             "// Joshua 1:1-18");
   EXPECT_EQ(InIsrael(25, 10, 2024), "");
 }
@@ -95,7 +95,7 @@ TEST(LectionsFestival, EcclesiastesWithoutAShabbatBetween) {
             "Sukkot, day 1, Shabbat: Leviticus 22:26-23:44 | Maftir: Numbers 29:12-16 | "
             "Scroll: Ecclesiastes // Zechariah 14:1-21");
   EXPECT_EQ(InIsrael(10, 10, 2020, Customs::kSephardi),
-            "Vezot Haberakhah (Simchat Torah, Shabbat): Deuteronomy 33:1-34:12, Genesis 1:1-2:3 | "
+            "Vezot Haberachah (Simchat Torah, Shabbat): Deuteronomy 33:1-34:12, Genesis 1:1-2:3 | "
             "Maftir: Numbers 29:35-30:1 // Joshua 1:1-9");
 }
 
@@ -154,7 +154,7 @@ TEST(LectionsFestival, FastsThatWouldBeOnShabbatAreMoved) {
 // The Sephardi afternoon: Orach Chaim 559:9 with Beit Yosef.
 TEST(LectionsFestival, TishaBeAv) {
   constexpr char kRead[] =
-      "Tisha beAv: Deuteronomy 4:25-40 | Afternoon: Exodus 32:11-14, 34:1-10 | Scroll: Lamentations // "
+      "Tisha BeAv: Deuteronomy 4:25-40 | Afternoon: Exodus 32:11-14, 34:1-10 | Scroll: Lamentations // "
       "Morning: Jeremiah 8:13-9:23 | Afternoon, Ashkenazi: Isaiah 55:6-56:8 | "
       "Afternoon, Sephardi: Hosea 14:2-10, Micah 7:18-20";
   EXPECT_EQ(InDiaspora(13, 8, 2024), kRead);
@@ -186,31 +186,31 @@ TEST(LectionsFestival, PesachsFirstDays) {
 }
 
 TEST(LectionsFestival, CholHaMoedOfPesach) {
-  EXPECT_EQ(InDiaspora(15, 4, 2025), "Pesach, day 3, Chol haMoed: Exodus 13:1-16, Numbers 28:19-25");
-  EXPECT_EQ(InDiaspora(16, 4, 2025), "Pesach, day 4, Chol haMoed: Exodus 22:24-23:19, Numbers 28:19-25");
-  EXPECT_EQ(InDiaspora(17, 4, 2025), "Pesach, day 5, Chol haMoed: Exodus 34:1-26, Numbers 28:19-25");
-  EXPECT_EQ(InDiaspora(18, 4, 2025), "Pesach, day 6, Chol haMoed: Numbers 9:1-14, 28:19-25");
-  EXPECT_EQ(InIsrael(14, 4, 2025), "Pesach, day 2, Chol haMoed: Leviticus 22:26-23:44, Numbers 28:19-25");
-  EXPECT_EQ(InIsrael(15, 4, 2025), "Pesach, day 3, Chol haMoed: Exodus 13:1-16, Numbers 28:19-25");
+  EXPECT_EQ(InDiaspora(15, 4, 2025), "Pesach, day 3, Chol HaMoed: Exodus 13:1-16, Numbers 28:19-25");
+  EXPECT_EQ(InDiaspora(16, 4, 2025), "Pesach, day 4, Chol HaMoed: Exodus 22:24-23:19, Numbers 28:19-25");
+  EXPECT_EQ(InDiaspora(17, 4, 2025), "Pesach, day 5, Chol HaMoed: Exodus 34:1-26, Numbers 28:19-25");
+  EXPECT_EQ(InDiaspora(18, 4, 2025), "Pesach, day 6, Chol HaMoed: Numbers 9:1-14, 28:19-25");
+  EXPECT_EQ(InIsrael(14, 4, 2025), "Pesach, day 2, Chol HaMoed: Leviticus 22:26-23:44, Numbers 28:19-25");
+  EXPECT_EQ(InIsrael(15, 4, 2025), "Pesach, day 3, Chol HaMoed: Exodus 13:1-16, Numbers 28:19-25");
 }
 
 // Orach Chaim 490:5: when Shabbat is the third day, its own passage is not read twice. The rule names no land.
 TEST(LectionsFestival, WeekdaysOfPesachAreShiftedWhenTheThirdDayIsShabbat) {
   for (const auto& read : {InDiaspora, InIsrael}) {
     EXPECT_EQ(read(11, 4, 2020, Customs::kBoth),
-              "Pesach, day 3, Shabbat Chol haMoed: Exodus 33:12-34:26 | Maftir: Numbers 28:19-25 | "
+              "Pesach, day 3, Shabbat Chol HaMoed: Exodus 33:12-34:26 | Maftir: Numbers 28:19-25 | "
               "Scroll: Song of Songs // Ezekiel 37:1-14");
-    EXPECT_EQ(read(12, 4, 2020, Customs::kBoth), "Pesach, day 4, Chol haMoed: Exodus 13:1-16, Numbers 28:19-25");
-    EXPECT_EQ(read(13, 4, 2020, Customs::kBoth), "Pesach, day 5, Chol haMoed: Exodus 22:24-23:19, Numbers 28:19-25");
-    EXPECT_EQ(read(14, 4, 2020, Customs::kBoth), "Pesach, day 6, Chol haMoed: Numbers 9:1-14, 28:19-25");
+    EXPECT_EQ(read(12, 4, 2020, Customs::kBoth), "Pesach, day 4, Chol HaMoed: Exodus 13:1-16, Numbers 28:19-25");
+    EXPECT_EQ(read(13, 4, 2020, Customs::kBoth), "Pesach, day 5, Chol HaMoed: Exodus 22:24-23:19, Numbers 28:19-25");
+    EXPECT_EQ(read(14, 4, 2020, Customs::kBoth), "Pesach, day 6, Chol HaMoed: Numbers 9:1-14, 28:19-25");
   }
 }
 
 TEST(LectionsFestival, ShabbatCholHaMoedOfPesachOnTheFifthDay) {
   EXPECT_EQ(InIsrael(23, 4, 2011),
-            "Pesach, day 5, Shabbat Chol haMoed: Exodus 33:12-34:26 | Maftir: Numbers 28:19-25 "
+            "Pesach, day 5, Shabbat Chol HaMoed: Exodus 33:12-34:26 | Maftir: Numbers 28:19-25 "
             "| Scroll: Song of Songs // Ezekiel 37:1-14");
-  EXPECT_EQ(InIsrael(22, 4, 2011), "Pesach, day 4, Chol haMoed: Exodus 22:24-23:19, Numbers 28:19-25");
+  EXPECT_EQ(InIsrael(22, 4, 2011), "Pesach, day 4, Chol HaMoed: Exodus 22:24-23:19, Numbers 28:19-25");
 }
 
 TEST(LectionsFestival, PesachsLastDays) {
@@ -229,7 +229,7 @@ TEST(LectionsFestival, SongOfSongsOnTheShabbatOfPesach) {
   EXPECT_EQ(InIsrael(7, 4, 2012, Customs::kSephardi),
             "Pesach, day 1, Shabbat: Exodus 12:21-51 | Maftir: Numbers 28:16-25 | Scroll: Song of Songs // "
             "Joshua 5:2-6:1, 6:27");
-  EXPECT_EQ(InIsrael(14, 4, 2012, Customs::kSephardi), "Shmini: Leviticus 9:1-11:47 // II Samuel 6:1-19");
+  EXPECT_EQ(InIsrael(14, 4, 2012, Customs::kSephardi), "Shemini: Leviticus 9:1-11:47 // II Samuel 6:1-19");
   for (const std::string& read : {InDiaspora(19, 4, 2025), InIsrael(19, 4, 2025)}) {
     EXPECT_EQ(read,
               "Pesach, day 7, Shabbat: Exodus 13:17-15:26 | Maftir: Numbers 28:19-25 | "
@@ -276,9 +276,9 @@ TEST(LectionsFestival, ShabbatAfternoonsOnRequest) {
   EXPECT_EQ(Read(9, 11, 2024, settings),
             "Lech Lecha: Genesis 12:1-17:27 | Afternoon, Vayera: Genesis 18:1-14 // Isaiah 40:27-41:16");
   EXPECT_EQ(Read(19, 10, 2024, settings),
-            "Sukkot, day 3, Shabbat Chol haMoed: Exodus 33:12-34:26 | "
-            "Maftir: Numbers 29:17-22 | Afternoon, Vezot Haberakhah: "
-            "Deuteronomy 33:1-17, Scroll: Ecclesiastes // Ezekiel 38:18-39:16");
+            "Sukkot, day 3, Shabbat Chol HaMoed: Exodus 33:12-34:26 | "
+            "Maftir: Numbers 29:17-22 | Afternoon, Vezot Haberachah: "
+            "Deuteronomy 33:1-17 / Scroll: Ecclesiastes // Ezekiel 38:18-39:16");
   EXPECT_EQ(Read(12, 10, 2024, settings),  // Yom Kippur has its own
             "Yom Kippur, Shabbat: Leviticus 16:1-34 | Maftir: Numbers 29:7-11 | Afternoon: Leviticus 18:1-30 // "
             "Morning: Isaiah 57:14-58:14 | Afternoon: Jonah 1:1-4:11, Micah 7:18-20");

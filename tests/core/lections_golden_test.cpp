@@ -1,7 +1,9 @@
-// A whole year in each land and custom, day by day, against files that have been read through once.
+// A whole year in each land and custom, day by day, against files that have been read through once; how they were made,
+// and how they are written anew, says tests/golden/README.md.
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -40,7 +42,9 @@ std::string Readable(const std::string& text) {
   std::string readable;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0xE0 && byte <= 0xFA) {
+    if (byte == 0xD7) {
+      readable += "׳";
+    } else if (byte >= 0xE0 && byte <= 0xFA) {
       readable += '\xD7';
       readable += static_cast<char>(byte - 0xE0 + 0x90);
     } else {
@@ -70,9 +74,15 @@ std::string YearText(const GoldenYear& year) {
   return text;
 }
 
+// The folder in which the years are written anew, null for none.
+const char* FolderToWriteTo() {
+  return std::getenv("TIMES_READINGS_GOLDEN_FOLDER");
+}
+
 TEST(LectionsGolden, YearsAreAsTheyWereReadThrough) {
   const fs::path folder = fs::path(__FILE__).parent_path().parent_path() / "golden" / "lections";
   for (const GoldenYear& year : kYears) {
+    if (FolderToWriteTo()) std::ofstream(fs::path(FolderToWriteTo()) / year.file, std::ios::binary) << YearText(year);
     std::ifstream file(folder / year.file, std::ios::binary);
     const std::string expected(std::istreambuf_iterator<char>(file), {});
     EXPECT_EQ(YearText(year), expected) << year.file;

@@ -111,7 +111,7 @@ TEST(LectionsSchedule, EveryFestivalHasTorahMaftirAndHaftarah) {
   });
 }
 
-// Every portion once from one Simchat Torah to the next, and Vezot Haberakhah on the day itself.
+// Every portion once from one Simchat Torah to the next, and Vezot Haberachah on the day itself.
 TEST(LectionsSchedule, EachPortionIsReadOnceACycle) {
   ForEveryYear([](int32_t year, Land land, Custom custom) {
     const int32_t simchatTorah = land == Land::kIsrael ? 22 : 23;
@@ -182,7 +182,7 @@ TEST(LectionsSchedule, RoshChodeshIsReadWheneverItFalls) {
   });
 }
 
-// Four fasts and Tisha beAv a year, none on a Shabbat, and all five scrolls once.
+// Four fasts and Tisha BeAv a year, none on a Shabbat, and all five scrolls once.
 TEST(LectionsSchedule, FastsAndScrollsOfEveryYear) {
   const Passage fast = "Exodus 32:11-14, 34:1-10";
   ForEveryYear([&](int32_t year, Land land, Custom custom) {

@@ -96,7 +96,7 @@ TEST(LectionsShabbat, RoshChodesh) {
 
 TEST(LectionsShabbat, MacharChodesh) {
   EXPECT_EQ(InDiaspora(30, 11, 2024), "Toldot (Machar Chodesh): Genesis 25:19-28:9 // I Samuel 20:18-42");
-  EXPECT_EQ(InDiaspora(21, 4, 2012), "Shmini (Machar Chodesh): Leviticus 9:1-11:47 // I Samuel 20:18-42");
+  EXPECT_EQ(InDiaspora(21, 4, 2012), "Shemini (Machar Chodesh): Leviticus 9:1-11:47 // I Samuel 20:18-42");
   EXPECT_EQ(InIsrael(21, 4, 2012), "Tazria-Metzora (Machar Chodesh): Leviticus 12:1-15:33 // I Samuel 20:18-42");
 }
 
@@ -216,7 +216,7 @@ TEST(LectionsShabbat, ShabbatOfEachDayOfChanukah) {
       {{4, 12, 2010}, "Miketz (Chanukah, day 3): Genesis 41:1-44:17 | Maftir: Numbers 7:24-29 // Zechariah 2:14-4:7"},
       {{24, 12, 2011}, "Miketz (Chanukah, day 4): Genesis 41:1-44:17 | Maftir: Numbers 7:30-35 // Zechariah 2:14-4:7"},
       {{12, 12, 2015},
-       "Miketz (Chanukah, day 6, Rosh Chodesh Tevet): Genesis 41:1-44:17 | Rosh Chodesh: Numbers 28:9-15 | "
+       "Miketz (Rosh Chodesh Tevet, Chanukah, day 6): Genesis 41:1-44:17 | Rosh Chodesh: Numbers 28:9-15 | "
        "Maftir: Numbers 7:42-47 // Zechariah 2:14-4:7"},
       {{15, 12, 2012}, "Miketz (Chanukah, day 7): Genesis 41:1-44:17 | Maftir: Numbers 7:48-53 // Zechariah 2:14-4:7"},
       {{12, 12, 2026}, "Miketz (Chanukah, day 8): Genesis 41:1-44:17 | Maftir: Numbers 7:54-8:4 // I Kings 7:40-50"},
@@ -248,13 +248,13 @@ TEST(LectionsShabbat, ChabadIsListedWhereItDiffers) {
             "Bereshit: Genesis 1:1-6:8 // Ashkenazi: Isaiah 42:5-43:10 | Chabad: Isaiah 42:5-21");
   EXPECT_EQ(Read(26, 10, 2024, sephardi), "Bereshit: Genesis 1:1-6:8 // Isaiah 42:5-21");
   EXPECT_EQ(Read(26, 10, 2024, both),
-            "Bereshit: Genesis 1:1-6:8 // Ashkenazi: Isaiah 42:5-43:10 | Sephardi: Isaiah 42:5-21");
+            "Bereshit: Genesis 1:1-6:8 // Ashkenazi: Isaiah 42:5-43:10 | Sephardi, Chabad: Isaiah 42:5-21");
   EXPECT_EQ(Read(8, 2, 2025, sephardi),
             "Beshalach (Shabbat Shira): Exodus 13:17-17:16 // "
             "Sephardi: Judges 5:1-31 | Chabad: Judges 4:4-5:31");
   EXPECT_EQ(Read(28, 3, 2026, both),
             "Tzav (Shabbat HaGadol): Leviticus 6:1-8:36 // "
-            "Ashkenazi: Malachi 3:4-24 | Chabad: Jeremiah 7:21-28, 9:22-23");
+            "Ashkenazi, Sephardi: Malachi 3:4-24 | Chabad: Jeremiah 7:21-28, 9:22-23");
 }
 
 }  // namespace

@@ -178,7 +178,7 @@ TEST(LectionsTexts, Hebrew) {
   EXPECT_EQ(texts.haftarot[1], Encoded("ספרדים: מלכים ב ד:א-כג", CodePage::kHebrew));
   EXPECT_EQ(texts.torah[0].substr(0, 5), "\xE5\xE9\xF8\xE0:");
   EXPECT_EQ(TextsOn(JewishDate(26, 12, 2024), settings).torah[0],
-            Encoded("חנוכה, יום א, אשכנזים: במדבר ז:א-יז", CodePage::kHebrew));
+            Encoded("א׳ דחנוכה, אשכנזים: במדבר ז:א-יז", CodePage::kHebrew));
 }
 
 TEST(LectionsTexts, NewMonthIsAnnouncedInEnglishBesideHebrewAndCanBeLeftOut) {
@@ -218,6 +218,7 @@ TEST(LectionsNumerals, DecimalAndHebrew) {
 
 TEST(LectionsEncodedText, KnowsTheLettersOfItsCodePage) {
   EXPECT_EQ(Encoded("אבת \"'", CodePage::kHebrew), "\xE0\xE1\xFA \"'");
+  EXPECT_EQ(Encoded("א׳ ״", CodePage::kHebrew), "\xE0\xD7 \xD8");
   EXPECT_EQ(Encoded("Säule é", CodePage::kWestern), "S\xE4ule \xE9");
   EXPECT_EQ(Encoded("א", CodePage::kWestern), "?");
   EXPECT_EQ(Encoded("ä–", CodePage::kHebrew), "??");

@@ -54,7 +54,7 @@ TEST(LectionsTriennial, FestivalsAndHaftarotStayWhole) {
   Settings settings = Of(Land::kDiaspora, Customs::kAshkenazi);
   settings.optional.triennial = true;
   EXPECT_EQ(Read(19, 10, 2024, settings),
-            "Sukkot, day 3, Shabbat Chol haMoed: Exodus 33:12-34:26 | "
+            "Sukkot, day 3, Shabbat Chol HaMoed: Exodus 33:12-34:26 | "
             "Maftir: Numbers 29:17-22 | Scroll: Ecclesiastes // Ezekiel 38:18-39:16");
   EXPECT_EQ(Read(16, 11, 2024, settings), "Vayera: Genesis 21:1-22:24 // II Kings 4:1-37");
 }

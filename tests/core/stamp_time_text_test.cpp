@@ -30,7 +30,7 @@ TEST(StampTimeText, MidnightAndNoonAreTwelve) {
 }
 
 TEST(StampTimeText, EveryTimeFillsItsColumn) {
-  for (int hour = 0; hour <= 23; ++hour) {
+  for (int hour = 0; hour <= 47; ++hour) {
     for (int minute = 0; minute <= 59; ++minute) {
       ASSERT_EQ(TimeText(hour, minute, Form::kTwentyFourHours).size(), 5u);
       ASSERT_EQ(TimeText(hour, minute, Form::kTwelveHours).size(), 10u);
@@ -38,9 +38,22 @@ TEST(StampTimeText, EveryTimeFillsItsColumn) {
   }
 }
 
+// The end of Shabbat of 30.5.2026 in Helsinki by 8.5 degrees stands as 25:18 in the program's list.
+TEST(StampTimeText, HoursUpTo47AreTheNextDays) {
+  EXPECT_EQ(TimeText(25, 18, Form::kTwentyFourHours), "01:18");
+  EXPECT_EQ(TimeText(25, 18, Form::kTwelveHours), "01:18 a.m.");
+  EXPECT_EQ(TimeText(24, 0, Form::kTwentyFourHours), "00:00");
+  EXPECT_EQ(TimeText(24, 0, Form::kTwelveHours), "12:00 a.m.");
+  EXPECT_EQ(TimeText(36, 30, Form::kTwelveHours), "12:30 p.m.");
+  EXPECT_EQ(TimeText(47, 59, Form::kTwentyFourHours), "23:59");
+  EXPECT_EQ(TimeText(47, 59, Form::kTwelveHours), "11:59 p.m.");
+}
+
 TEST(StampTimeText, OtherNumbersArePrintedAsTheyStand) {
   for (const Form form : {Form::kTwentyFourHours, Form::kTwelveHours}) {
-    EXPECT_EQ(TimeText(24, 5, form), "24:05");
+    EXPECT_EQ(TimeText(48, 5, form), "48:05");
+    EXPECT_EQ(TimeText(25, -3, form), "25:-3");
+    EXPECT_EQ(TimeText(25, 60, form), "25:60");
     EXPECT_EQ(TimeText(19, -3, form), "19:-3");
     EXPECT_EQ(TimeText(-1, 30, form), "-1:30");
     EXPECT_EQ(TimeText(5, 60, form), "05:60");

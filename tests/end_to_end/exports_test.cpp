@@ -332,3 +332,26 @@ TEST_F(ExportsEndToEndTest, ShabbatTimesInOneRow) {
       "\\row\r\n\\pard\r\n}\r\n";
   EXPECT_TRUE(program_->Eventually([&] { return Written("times.rtf") == expected; })) << Written("times.rtf");
 }
+
+// Helsinki, 60:10 N, 24:56 E, by PyEphem (EEST): sunset on Friday 22:23:49; in the night after Shabbat the sun does not
+// get 8.5 degrees down and is lowest at 01:17:52.
+TEST(LateShabbatEndToEndTest, AnEndAfterMidnightIsExportedAsTheClockShowsIt) {
+  const TemporaryFolder settings;
+  const TemporaryFolder folder;
+  WriteFileText(settings.path() / "almanac13.ini", "[Preferences]\r\nDefaultLocation=Helsinki\r\n");
+  WriteFileText(settings.path() / "shabbat2.ini", "[Shabbat]\r\nDoMinutes=0\r\nDegreesBelowHorizon=8.5\r\n");
+  struct Row {
+    const char* form;
+    const char* line;
+  };
+  for (const Row& row : {Row{"24", "29.05.2026   22:06             01:18\r\n"},
+                         Row{"12", "29.05.2026   10:06 p.m.        01:18 a.m.\r\n"}}) {
+    WriteFileText(settings.path() / "stamp.ini", std::string("[Times]\r\nForm=") + row.form + "\r\n");
+    const ProgramRun program(ProgramFolder(), settings.path());
+    ASSERT_NE(OpenRange(program, "29.5.2026", "29.5.2026"), nullptr);
+    const fs::path file = folder.path() / (std::string(row.form) + ".txt");
+    program.PostCommand(kExportText);
+    SaveAs(program, file);
+    EXPECT_TRUE(program.Eventually([&] { return ReadFileText(file).ends_with(row.line); })) << ReadFileText(file);
+  }
+}

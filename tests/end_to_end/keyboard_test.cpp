@@ -25,6 +25,15 @@ class KeyboardTest : public testing::Test {
     keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
   }
 
+  static void PressWithShift(BYTE key) {
+    keybd_event(VK_SHIFT, 0, 0, 0);
+    Press(key);
+    keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
+  }
+  static void Type(const char* digits) {
+    for (const char* digit = digits; *digit; ++digit) Press(static_cast<BYTE>(*digit));
+  }
+
   TemporaryFolder settings_;
 };
 
@@ -75,4 +84,49 @@ TEST_F(KeyboardTest, AMenuCommandIsReachedByItsLettersAndEscapeLeavesItsDialog) 
   BringUp(program, dialog);
   Press(VK_ESCAPE);
   EXPECT_TRUE(program.Eventually([&] { return !IsWindow(dialog); }));
+}
+
+// Aachen, the place of the first document: the sunset of 22 June 2027 by PyEphem (see tools/sun_reference.py).
+TEST_F(KeyboardTest, TheSunsetOfADayIsFoundWithoutAMouse) {
+  constexpr unsigned kSunsetOfADay = 1004;
+  constexpr int kDay = 101;
+  constexpr int kMonth = 103;
+  constexpr int kYear = 105;
+  constexpr int kTime = 107;
+  WriteFileText(settings_.path() / "stamp.ini", "[Times]\r\nForm=24\r\n");
+  ProgramRun program(ProgramFolder(), settings_.path());
+  program.WaitForDocuments(1);
+  program.PostCommand(kSunsetOfADay);
+  const HWND dialog = program.WaitForDialog("Sunset time of a day");
+  BringUp(program, dialog);
+  const auto text = [dialog](int control) { return TextOf(GetDlgItem(dialog, control)); };
+  const auto expectDate = [&](const std::string& date) {
+    EXPECT_TRUE(program.Eventually([&] { return text(kDay) + "." + text(kMonth) + "." + text(kYear) == date; }))
+        << text(kDay) << "." << text(kMonth) << "." << text(kYear);
+  };
+  const auto tab = [](int times) {
+    for (int i = 0; i < times; ++i) Press(VK_TAB);
+  };
+  Type("22");  // each field is selected as it gets the focus, and has two arrows behind it
+  tab(3);
+  Type("6");
+  tab(3);
+  Type("2027");
+  expectDate("22.6.2027");
+  EXPECT_TRUE(program.Eventually([&] { return text(kTime) == "21:53"; })) << text(kTime);
+  tab(1);
+  Press(VK_SPACE);  // the year's upper arrow
+  expectDate("22.6.2028");
+  tab(1);
+  Press(VK_SPACE);
+  expectDate("22.6.2027");
+  PressWithShift(VK_TAB);
+  PressWithShift(VK_TAB);
+  Press(VK_DOWN);
+  expectDate("22.6.2026");
+  Type("20");
+  EXPECT_TRUE(program.Eventually([&] { return text(kYear) == "20" && text(kTime).empty(); })) << text(kTime);
+  Press(VK_ESCAPE);
+  EXPECT_TRUE(program.Eventually([&] { return !IsWindow(dialog); }));
+  EXPECT_EQ(program.WaitForDocuments(1).size(), 1u);
 }

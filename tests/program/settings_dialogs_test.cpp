@@ -1,4 +1,4 @@
-// The dialogs for preferences, range and the sunset of a day.
+// The dialogs for preferences and range.
 #include "app/active_document.h"
 #include "app/open_document.h"
 #include "app/program.h"
@@ -232,82 +232,6 @@ TEST_F(SettingsDialogsTest, ARangeOfOneDayIsAccepted) {
     Click(dialog, IDOK);
   });
   EXPECT_EQ(ShabbatTimesOf(ActiveDocument()).size(), 1u);
-}
-
-TEST_F(SettingsDialogsTest, SunsetOpensOnTodayAtTheDocumentsPlace) {
-  Open(IDM_SUNSET_OF_A_DAY, [](HWND dialog) {
-    EXPECT_EQ(FieldText(dialog, 101) + "." + FieldText(dialog, 103) + "." + FieldText(dialog, 105), "20.11.2026");
-    EXPECT_EQ(FieldText(dialog, 107), "<19:5>");
-    Click(dialog, IDOK);
-  });
-  EXPECT_THAT(CallsWith("sunset"), ElementsAre("sunset 20.11.2026 5046 606 1:0"));
-}
-
-TEST_F(SettingsDialogsTest, SunsetIsTheActiveDocumentsThoughAnotherPlaceIsCurrent) {
-  const HWND first = ActiveDocument();
-  CurrentLocation = {"St. John's", 4734, -5243, -3, -30};
-  OpenAndCompute(frame_);
-  const auto sunsetAsked = [this] {
-    CallLog().clear();
-    Open(IDM_SUNSET_OF_A_DAY, [](HWND dialog) { Click(dialog, IDOK); });
-    return CallsWith("sunset");
-  };
-  CurrentLocation = {"Haifa", 3249, 3459, 2, 0};
-  EXPECT_THAT(sunsetAsked(), ElementsAre("sunset 20.11.2026 4734 -5243 -3:-30"));
-  SendMessageA(Program.mdiClient, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(first), 0);
-  EXPECT_THAT(sunsetAsked(), ElementsAre("sunset 20.11.2026 5046 606 1:0"));
-  EXPECT_STREQ(CurrentLocation.name, "Haifa");
-}
-
-TEST_F(SettingsDialogsTest, SunsetStepsByItsSpinBars) {
-  Open(IDM_SUNSET_OF_A_DAY, [](HWND dialog) {
-    const auto spin = [dialog](int bar, int code) {
-      SendMessageA(dialog, WM_VSCROLL, MAKEWPARAM(code, 0), reinterpret_cast<LPARAM>(GetDlgItem(dialog, bar)));
-      return FieldText(dialog, 101) + "." + FieldText(dialog, 103) + "." + FieldText(dialog, 105);
-    };
-    const auto type = [dialog](const char* day, const char* month, const char* year) {
-      SetField(dialog, 101, day);
-      SetField(dialog, 103, month);
-      SetField(dialog, 105, year);
-    };
-    EXPECT_EQ(spin(102, SB_LINEUP), "21.11.2026");
-    EXPECT_EQ(spin(104, SB_LINEDOWN), "21.10.2026");
-    EXPECT_EQ(spin(106, SB_LINEUP), "21.10.2027");
-    EXPECT_EQ(spin(106, SB_PAGEUP), "21.10.2027");
-    type("31", "12", "2000");
-    CallLog().clear();
-    EXPECT_EQ(spin(102, SB_LINEUP), "1.1.2001");
-    EXPECT_THAT(CallsWith("sunset"), ElementsAre("sunset 1.1.2001 5046 606 1:0"));
-    type("1", "1", "1583");
-    EXPECT_EQ(spin(102, SB_LINEDOWN), "1.1.1583");
-    Click(dialog, IDOK);
-  });
-}
-
-TEST_F(SettingsDialogsTest, TypingAloneDoesNotAskForTheSunset) {
-  Open(IDM_SUNSET_OF_A_DAY, [](HWND dialog) {
-    CallLog().clear();
-    SetField(dialog, 101, "7");
-    EXPECT_THAT(CallsWith("sunset"), IsEmpty());
-    Click(dialog, IDOK);
-  });
-}
-
-TEST_F(SettingsDialogsTest, ATypedMonthThatDoesNotExistEndsTheProcess) {
-  Open(IDM_SUNSET_OF_A_DAY, [](HWND dialog) {
-    SetField(dialog, 103, "14");
-    SendMessageA(dialog, WM_VSCROLL, MAKEWPARAM(SB_LINEUP, 0), reinterpret_cast<LPARAM>(GetDlgItem(dialog, 106)));
-    Click(dialog, IDOK);
-  });
-  EXPECT_THAT(CallsWith("fatal"), ElementsAre("fatal exit 0 'CalculateSelectDate: uMonth must be in the range 1-12'"));
-}
-
-TEST_F(SettingsDialogsTest, WithoutADocumentThereIsNoSunset) {
-  SendMessageA(frame_, WM_COMMAND, IDM_WINDOW_CLOSE_ALL, 0);
-  Open(IDM_SUNSET_OF_A_DAY, [](HWND dialog) {
-    EXPECT_EQ(FieldText(dialog, 107), "");
-    Click(dialog, IDOK);
-  });
 }
 
 TEST_F(SettingsDialogsTest, BuiltInZmanimAreCheckedByTheirFlagAndOpenADocument) {

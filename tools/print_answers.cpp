@@ -1,0 +1,92 @@
+// Writes down what the libraries answer, for the programs beside it that compare the answers with those of others.
+//
+//   print_answers readings FIRST LAST   the Jewish years: a line of JSON for each day, land and custom with readings
+//   print_answers calendar              the years 1583 to 3000: "year-month-day day.month.year" of both calendars
+//   print_answers clocks                for each line "zone seconds" of the input the offset from UTC, "-" for none
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "libraries/calendar/gregorian.h"
+#include "libraries/calendar/jewish.h"
+#include "libraries/lections/language.h"
+#include "libraries/lections/reading_texts.h"
+#include "libraries/sun/clock_rules.h"
+
+namespace {
+
+using calendar::Land;
+using lections::Custom;
+
+constexpr const char* kPartNames[] = {"main",         "roshChodesh", "maftir", "maftirOfWalledCities",
+                                      "walledCities", "afternoon",   "scroll"};
+constexpr const char* kCustomNames[] = {"ashkenazi", "sephardi", "chabad"};
+
+std::string CivilText(int32_t day) {
+  const calendar::Date civil = calendar::GregorianFromAbsolute(day);
+  char text[48];
+  std::snprintf(text, sizeof text, "%04d-%02d-%02d", civil.year, civil.month, civil.day);
+  return text;
+}
+
+// {"main":"Genesis 1:1-6:8","maftir":...}
+template <typename Lines>
+std::string JsonOf(const Lines& lines) {
+  std::string text = "{";
+  for (const lections::Line& line : lines) {
+    if (text.size() > 1) text += ',';
+    text += std::string("\"") + kPartNames[static_cast<int>(line.part)] + "\":\"" +
+            lections::PassageText(line.passage, lections::kEnglish, true) + "\"";
+  }
+  return text + "}";
+}
+
+void PrintReadings(int32_t firstYear, int32_t lastYear) {
+  for (int32_t day = calendar::JewishNewYear(firstYear); day < calendar::JewishNewYear(lastYear + 1); ++day) {
+    const calendar::Date date = calendar::JewishFromAbsolute(day);
+    for (const Land land : {Land::kDiaspora, Land::kIsrael}) {
+      for (int custom = 0; custom < lections::kCustomCount; ++custom) {
+        const lections::DayReadings readings = lections::ReadingsOn(date, land, static_cast<Custom>(custom), {});
+        if (readings.torah.empty()) continue;
+        std::cout << R"({"date":")" << CivilText(day) << R"(","israel":)" << (land == Land::kIsrael ? "true" : "false")
+                  << R"(,"custom":")" << kCustomNames[custom] << R"(","torah":)" << JsonOf(readings.torah)
+                  << R"(,"haftarot":)" << JsonOf(readings.haftarot) << "}\n";
+      }
+    }
+  }
+}
+
+void PrintCalendar() {
+  const int32_t end = calendar::AbsoluteFromGregorian({1, 1, 3001});
+  for (int32_t day = calendar::AbsoluteFromGregorian({1, 1, 1583}); day < end; ++day) {
+    const calendar::Date date = calendar::JewishFromAbsolute(day);
+    std::cout << CivilText(day) << ' ' << date.day << '.' << date.month << '.' << date.year << '\n';
+  }
+}
+
+void PrintClocks() {
+  std::string zone;
+  for (int64_t moment = 0; std::cin >> zone >> moment;) {
+    const std::optional<int32_t> offset = sun::UtcOffsetSeconds(zone, moment);
+    std::cout << (offset ? std::to_string(*offset) : "-") << '\n';
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::string_view what = argc > 1 ? argv[1] : "";
+  if (what == "readings" && argc == 4) {
+    PrintReadings(std::atoi(argv[2]), std::atoi(argv[3]));
+  } else if (what == "calendar") {
+    PrintCalendar();
+  } else if (what == "clocks") {
+    PrintClocks();
+  } else {
+    std::cerr << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | clocks\n";
+    return 1;
+  }
+  return 0;
+}
