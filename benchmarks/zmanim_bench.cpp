@@ -115,7 +115,7 @@ bool ChooseZmanim(const SettingsHome& home, uint32_t count) {
 bool MeasureZmanim(const SettingsHome& home) {
   Program.instance = GetModuleHandleA(nullptr);
   const HBRUSH tooltipBrush = CreateSolidBrush(RGB(255, 255, 0));
-  if (!RegisterWindowClasses(Program.instance, tooltipBrush)) return false;
+  if (RegisterWindowClasses(Program.instance, tooltipBrush)) return false;
   const HWND frame = CreateFrameWindow(SW_SHOWNORMAL);
   const HWND document = frame ? ActiveDocument() : nullptr;
   if (!document) return false;
