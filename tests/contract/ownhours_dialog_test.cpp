@@ -295,12 +295,11 @@ TEST_F(OwnTimesDialogTest, WhatBothChangedIsReplacedWhenTheUserWantsIt) {
 TEST_F(OwnTimesDialogTest, AFileThatCannotBeWrittenIsNamedAndTheDialogStays) {
   OwnTimesRun run;
   run.Key(VK_DELETE);
-  const HANDLE held = CreateFileW(home_.Path("ownhours.txt").c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                  OPEN_EXISTING, 0, nullptr);
-  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  const std::wstring file = home_.Path("ownhours.txt").wstring();
+  ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
   Press(run.Window(), IDOK);
   EXPECT_NE(run.Answer(kTitle, run.Window(), IDI_HAND, IDOK).find(L"ownhours.txt"), std::wstring::npos);
-  CloseHandle(held);
+  ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL));
   EXPECT_EQ(run.End(IDOK), 1);
 }
 
