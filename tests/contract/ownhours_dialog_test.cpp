@@ -298,9 +298,23 @@ TEST_F(OwnTimesDialogTest, AFileThatCannotBeWrittenIsNamedAndTheDialogStays) {
   const std::wstring file = home_.Path("ownhours.txt").wstring();
   ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
   Press(run.Window(), IDOK);
-  EXPECT_NE(run.Answer(kTitle, run.Window(), IDI_HAND, IDOK).find(L"ownhours.txt"), std::wstring::npos);
+  EXPECT_NE(run.Answer(L"Error", run.Window(), IDI_HAND, IDOK).find(L"ownhours.txt"), std::wstring::npos);
   ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL));
   EXPECT_EQ(run.End(IDOK), 1);
+}
+
+TEST_F(OwnTimesDialogTest, AFileThatCannotBeReadIsNamedAndTheDialogComesWhenItCan) {
+  const HANDLE held =
+      CreateFileW(home_.Path("ownhours.txt").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  DialogDriver driver([](HWND owner) { return OwnHoursDoDialog(owner, Calculate); });
+  EXPECT_NE(driver.Answer(L"Times / Readings", driver.Owner(), IDI_WARNING, IDRETRY).find(L"ownhours.txt"),
+            std::wstring::npos);
+  EXPECT_NE(driver.Answer(L"Times / Readings", driver.Owner(), IDI_WARNING, IDCANCEL).find(L"ownhours.txt"),
+            std::wstring::npos);
+  EXPECT_EQ(driver.Result(), 0);
+  CloseHandle(held);
+  EXPECT_EQ(Stored(), kThree);
 }
 
 TEST_F(OwnTimesDialogTest, WithoutTimesThereIsNothingToChange) {
