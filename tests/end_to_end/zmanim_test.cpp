@@ -18,6 +18,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr unsigned kTimesSetByHand = 1104;
 constexpr unsigned kViewZmanim = 1112;
 constexpr int kZmanimPane = 4;
 constexpr int kTable = 2;
@@ -219,6 +220,34 @@ TEST_F(ZmanimTest, ATimeSetByHandHoldsForItsPlaceOnly) {
     const auto table = Table();
     return table.count(date) && !table.at(date).times.empty() && table.at(date).times[0] == libraries.Zman(date, 0);
   }));
+}
+
+TEST_F(ZmanimTest, ATimeSetByHandIsListedAndTakenBackInTheOpenDocument) {
+  const HWND document = Start();
+  ASSERT_NE(document, nullptr);
+  const auto before = Table();
+  const auto& [date, row] = *before.begin();
+  const auto shows = [&, day = date](const std::string& time) {
+    return run_->Eventually([&] {
+      const auto table = Table();
+      return table.count(day) && table.at(day).times.size() > 2 && table.at(day).times[2] == time;
+    });
+  };
+  ClickTime(document, row, 2);
+  const HWND editor = run_->WaitForDialog("Edit Zmanim");
+  SetText(editor, 103, "3");
+  SetText(editor, 104, "33");
+  Click(editor, IDOK);
+  EXPECT_TRUE(shows("03:33"));
+
+  run_->PostCommand(kTimesSetByHand);
+  const HWND list = run_->WaitForDialog("Times Set by Hand");
+  EXPECT_TRUE(run_->Eventually([&] { return TextOf(GetDlgItem(list, 102)) == "1 time"; }));
+  Click(list, 105);  // Remove
+  EXPECT_TRUE(run_->Eventually([&] { return TextOf(GetDlgItem(list, 102)) == "No times are set by hand"; }));
+  Click(list, IDOK);
+  EXPECT_TRUE(shows(row.times[2]));
+  EXPECT_EQ(run_->WaitForDocuments(1).size(), 1u);
 }
 
 TEST_F(ZmanimTest, ATimeThatCannotBeStoredIsReportedAndNotShown) {
