@@ -1,6 +1,7 @@
 #include "app/frame_commands.h"
 
 #include <cstring>
+#include <string>
 
 #include "app/about_box.h"
 #include "app/active_document.h"
@@ -17,6 +18,8 @@
 #include "companion/placepick.h"
 #include "companion/stamp.h"
 #include "engine/current.h"
+#include "engine/optional_entries.h"
+#include "engine/properties.h"
 #include "engine/settings_flags.h"
 #include "locations/location_lookup.h"
 #include "locations/location_manager.h"
@@ -107,7 +110,13 @@ void ChangeReadings(HWND frame) {
 
 // Deliberate: a document is opened whatever the dialog's outcome.
 void ChangeCustomTimes(HWND frame) {
-  CandlesDoDialog(frame);
+  const HWND document = ActiveDocument();
+  const std::string place = document ? DocumentPlace(document) : CurrentLocation.name;
+  if (OptionalEntries.CandlesDoDialogAt) {
+    OptionalEntries.CandlesDoDialogAt(frame, place.c_str());
+  } else {
+    CandlesDoDialog(frame);
+  }
   OpenAndCompute(frame);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/default_location.h"
 #include "app/frame_commands.h"
+#include "app/help_key.h"
 #include "app/menu_update.h"
 #include "app/open_document.h"
 #include "app/program.h"
@@ -66,7 +67,7 @@ LRESULT CALLBACK FrameWindowProc(HWND frame, UINT message, WPARAM wParam, LPARAM
       return result;
     }
     case WM_INITMENU: UpdateMenus(frame); break;
-    case WM_HELP: RunFrameCommand(frame, IDM_HELP); return TRUE;
+    case WM_HELP: ShowHelpWhere(frame, *reinterpret_cast<const HELPINFO*>(lParam)); return TRUE;
   }
   return DefFrameProcA(frame, Program.mdiClient, message, wParam, lParam);
 }

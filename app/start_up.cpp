@@ -1,5 +1,9 @@
 #include "app/start_up.h"
 
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include <string>
 
 #include "app/core/notice_line.h"
@@ -19,6 +23,12 @@
 ProgramState Program;
 
 namespace {
+
+// The system's tooltips, which the zmanim view uses. Without them it has none.
+void RegisterSystemTooltips() {
+  const INITCOMMONCONTROLSEX tooltips{sizeof tooltips, ICC_TAB_CLASSES};
+  InitCommonControlsEx(&tooltips);
+}
 
 constexpr COLORREF kTooltipYellow = RGB(255, 255, 0);
 
@@ -75,6 +85,7 @@ int RunProgram(HINSTANCE instance, HINSTANCE previousInstance, LPSTR commandLine
   Program.tooltipBrush = CreateSolidBrush(kTooltipYellow);
   Tooltip = {.window = nullptr, .enabled = true};
   Program.mouseHook = SetWindowsHookExA(WH_MOUSE, TooltipMouseHook, nullptr, GetCurrentThreadId());
+  RegisterSystemTooltips();
   ProduceNoticeLine(Program.notice);
   LoadStringTable(instance);
   if (!BindLibraries()) return 0;

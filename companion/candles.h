@@ -21,6 +21,11 @@ int32_t CandlesGetTime(const char* location, uint32_t day, uint32_t month, uint3
  * place of the dialog. */
 void CandlesDoDialog(HWND owner);
 
+/* The same; new entries are preset with the place named, by its exact spelling, and with the first Friday from today on
+ * that it has no times for. A null, empty or longer name than 255 bytes presets what CandlesDoDialog does: the place of
+ * the selected entry. The library may be older than this entry: look it up by name. */
+void CandlesDoDialogAt(HWND owner, const char* place);
+
 #ifdef __cplusplus
 }
 #endif

@@ -29,6 +29,12 @@ int32_t HoursGetDescription(uint32_t index, char* text);
  * the text with all its bytes reversed reads right when it is drawn from left to right. */
 int32_t HoursGetDescriptionHebrew(uint32_t index, char* text);
 
+/* What the zman is and how it is rounded, a sentence in English that may be long, as UTF-16 into text, a buffer of size
+ * units; a longer text is cut, and always ended by a zero. Answers the units that the whole text takes, its zero
+ * included, so that a null text or a size of 0 asks for the size; 0 with text untouched when there is no such zman. The
+ * library may be older than this entry: look it up by name. */
+uint32_t HoursGetDefinition(uint32_t index, WCHAR* text, uint32_t size);
+
 /* By which a caller recognises the selection, here and in other processes: two numbers, the same as long as count,
  * order, descriptions and definitions of the zmanim are, others when any of these differs. Costs no more than
  * HoursGetCount. Null is ignored. The library may be older than this entry: look it up by name. */

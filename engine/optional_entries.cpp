@@ -20,6 +20,8 @@ void LookUp(const char* library, const char* name, Function& entry) {
 
 void LookUpOptionalEntries() {
   OptionalEntryPoints& entries = OptionalEntries;
+  LookUp("candles.dll", "CandlesDoDialogAt", entries.CandlesDoDialogAt);
+  LookUp("hours.dll", "HoursGetDefinition", entries.HoursGetDefinition);
   LookUp("hours.dll", "HoursGetFingerprint", entries.HoursGetFingerprint);
   LookUp("lections.dll", "LectionsGetChoice", entries.LectionsGetChoice);
   LookUp("lections.dll", "LectionsGetReadingsBy", entries.LectionsGetReadingsBy);

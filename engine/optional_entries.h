@@ -2,12 +2,15 @@
 // libraries that the program imports anyway; one that a library has not is null, and the program does without.
 #pragma once
 
+#include "companion/candles.h"
 #include "companion/hours.h"
 #include "companion/lections.h"
 #include "companion/ownhours.h"
 #include "companion/profile.h"
 
 struct OptionalEntryPoints {
+  decltype(&::CandlesDoDialogAt) CandlesDoDialogAt;
+  decltype(&::HoursGetDefinition) HoursGetDefinition;
   decltype(&::HoursGetFingerprint) HoursGetFingerprint;
   // These three are there together or not at all.
   decltype(&::LectionsGetChoice) LectionsGetChoice;

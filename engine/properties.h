@@ -34,6 +34,9 @@ inline constexpr char kZmanimLabels[] = "ZmanimLabels";
 inline constexpr char kParashaReadings[] = "ParashaReadings";
 inline constexpr char kReadingsForm[] = "ReadingsForm";
 
+// On the container of the zmanim view: the window of its tooltips.
+inline constexpr char kZmanimTooltip[] = "ZmanimTooltip";
+
 // Fonts. The bold one of a pair is named kBoldPrefix + name.
 inline constexpr char kBoldPrefix[] = "Bold";
 inline constexpr char kFont[] = "Font";

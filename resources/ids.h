@@ -192,4 +192,18 @@
 #define IDC_LOCATION_ZONE_MINUTES 200
 #define IDC_LOCATION_ELEVATION 300
 
+/* Help ids of the dialogs, by which the help key finds its page; those of the libraries are in companion/dialog_help.h.
+ */
+#define HELPID_PREFERENCES 1
+#define HELPID_RANGE 2
+#define HELPID_SUNSET 3
+#define HELPID_ABOUT 4
+#define HELPID_RTF_OPTIONS 5
+#define HELPID_LOCATIONS 6
+#define HELPID_LOCATION 7
+#define HELPID_DELIMITED_ZMANIM 8
+#define HELPID_DELIMITED_DATES 9
+#define HELPID_PRINTING 10
+#define HELPID_EDIT_ZMAN 11
+
 #endif

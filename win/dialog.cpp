@@ -47,7 +47,7 @@ INT_PTR AnswerDialogMessage(DialogHandler handler, HWND dialog, UINT message, WP
     inDefaultProcessing = nullptr;
     return FALSE;
   }
-  if (message == WM_HELP) {  // F1 in any dialog is answered by the frame, the last of its owners
+  if (message == WM_HELP) {  // answered by the frame, the last of the owners, which finds the dialog in the record
     SendMessageA(GetParent(dialog), message, wParam, lParam);
     return TRUE;
   }

@@ -11,6 +11,7 @@
 #include "zmanim/core/zmanim_layout.h"
 #include "zmanim/zmanim_in_use.h"
 #include "zmanim/zmanim_panes.h"
+#include "zmanim/zmanim_tooltip.h"
 
 namespace {
 
@@ -61,6 +62,7 @@ void RememberForm(HWND document) {
 }  // namespace
 
 LRESULT CALLBACK ZmanimContainerProc(HWND container, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_DESTROY) DestroyZmanimTooltip(container);
   return PaneContainerMessage(kContainer, container, message, wParam, lParam);
 }
 
@@ -68,6 +70,7 @@ void RefreshZmanimView(HWND document) {
   const HWND container = GetDlgItem(document, IDC_ZMANIM_PANE);
   const HWND table = GetDlgItem(container, IDC_ZMANIM_TABLE);
   if (!table) return;
+  DropZmanimTooltip(container);
   RememberForm(document);
   RECT client;
   GetClientRect(container, &client);

@@ -3,10 +3,11 @@
 #include "companion/glyphs.h"
 #include "companion/stamp.h"
 #include "engine/properties.h"
+#include "engine/settings_flags.h"
 #include "engine/string_table.h"
 #include "resources/ids.h"
 #include "win/scoped.h"
-#include "zmanim/zmanim_in_use.h"
+#include "zmanim/core/zmanim_labels.h"
 
 namespace {
 
@@ -26,7 +27,7 @@ ZmanimExport DescribeZmanim(HWND document) {
   return {.location = DocumentPlace(document),
           .dateTitle = TableString(IDS_DATE),
           .names = names(&ZmanLabel::english),
-          .hebrew = labels && IsLegendHebrew(*labels.get()),
+          .hebrew = labels && ZmanimInHebrew(),
           .hebrewNames = names(&ZmanLabel::hebrew),
           .hebrewFont = HebrewFontName(),
           .vilnaGaon = TableString(IDS_VILNA_GAON),

@@ -9,6 +9,7 @@
 #include "win/scoped.h"
 #include "zmanim/zmanim_measures.h"
 #include "zmanim/zmanim_panes.h"
+#include "zmanim/zmanim_tooltip.h"
 
 namespace {
 
@@ -52,5 +53,6 @@ constexpr PanePainting kPainting{PrepareZmanimPane, PaintHeading};
 }  // namespace
 
 LRESULT CALLBACK ZmanimHeadingPaneProc(HWND pane, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (const std::optional<LRESULT> answer = ZmanimTooltipMessage(pane, message, wParam, lParam)) return *answer;
   return PaintingPaneMessage(kPainting, pane, message, wParam, lParam);
 }

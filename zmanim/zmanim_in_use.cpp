@@ -10,6 +10,7 @@
 #include "resources/ids.h"
 #include "win/scoped.h"
 #include "zmanim/core/builtin_zmanim.h"
+#include "zmanim/core/builtin_zmanim_texts.h"
 #include "zmanim/core/text_fingerprint.h"
 #include "zmanim/core/zmanim_block.h"
 #include "zmanim/custom_zmanim.h"
@@ -68,7 +69,7 @@ HGLOBAL DescribeZmanimInUse() {
   ZmanLabel* const zmanim = labels->zmanim;
   for (uint32_t zman = 0; zman < count; ++zman) {
     Copy(fromLibrary ? LibraryZmanName(zman) : TableString(IDS_FIRST_BUILT_IN_ZMAN + zman), zmanim[zman].english);
-    Copy(fromLibrary ? HebrewZmanName(zman) : "", zmanim[zman].hebrew);
+    Copy(fromLibrary ? HebrewZmanName(zman) : DisplayHebrewName(kBuiltInZmanimTexts[zman].hebrew), zmanim[zman].hebrew);
   }
   return block;
 }
@@ -77,10 +78,6 @@ bool AreInUse(const ZmanimLabels& labels) {
   const bool fromLibrary = ZmanimEnabled();
   if (fromLibrary != (labels.fromLibrary != 0)) return false;
   return !fromLibrary || (labels.setByHand == CustomZmanimEdition() && SelectionFingerprint() == labels.selection);
-}
-
-bool IsLegendHebrew(const ZmanimLabels& labels) {
-  return labels.fromLibrary && ZmanimInHebrew();
 }
 
 std::string LibraryZmanName(uint32_t zman) {

@@ -19,10 +19,6 @@ HGLOBAL DescribeZmanimInUse();
 // tells, definitions; and whether no list of the times set by hand has been changed since.
 bool AreInUse(const ZmanimLabels& labels);
 
-// Whether legends name these zmanim in Hebrew: when the user wants it, and they are the library's. The built-in ones
-// have English names only.
-bool IsLegendHebrew(const ZmanimLabels& labels);
-
 // The description of a zman of the library now; empty when it has none.
 std::string LibraryZmanName(uint32_t zman);
 

@@ -2,6 +2,7 @@
 
 #include "companion/glyphs.h"
 #include "engine/properties.h"
+#include "engine/settings_flags.h"
 #include "engine/string_table.h"
 #include "resources/ids.h"
 #include "win/make_font.h"
@@ -9,8 +10,8 @@
 #include "win/scoped.h"
 #include "win/text_metrics.h"
 #include "zmanim/core/right_to_left_flow.h"
+#include "zmanim/core/zmanim_labels.h"
 #include "zmanim/core/zmanim_legend.h"
-#include "zmanim/zmanim_in_use.h"
 #include "zmanim/zmanim_panes.h"
 
 namespace {
@@ -54,7 +55,7 @@ void PaintLegend(HWND pane, HDC dc, const RECT&) {
   if (!labels) return;
   RECT client;
   GetClientRect(pane, &client);
-  if (IsLegendHebrew(*labels.get()) && PaintHebrewLegend(dc, client, *labels.get())) return;
+  if (ZmanimInHebrew() && PaintHebrewLegend(dc, client, *labels.get())) return;
   PaintEnglishLegend(dc, client, GetFontProperty(document, property::kBoldZmanimFont), *labels.get());
 }
 

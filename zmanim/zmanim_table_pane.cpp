@@ -16,6 +16,7 @@
 #include "zmanim/zmanim_measures.h"
 #include "zmanim/zmanim_panes.h"
 #include "zmanim/zmanim_time_text.h"
+#include "zmanim/zmanim_tooltip.h"
 
 namespace {
 
@@ -99,13 +100,13 @@ void MoveColumns(HWND pane, const ZmanimGeometry& geometry, int columns) {
 }
 
 // Nothing pages sideways.
-LRESULT OnHorizontalScroll(HWND table, int code, int thumb) {
+void OnHorizontalScroll(HWND table, int code, int thumb) {
   const std::optional<ScrollRequest> request = ScrollRequestOf(code);
-  if (!request || *request == ScrollRequest::kPageUp || *request == ScrollRequest::kPageDown) return 0;
+  if (!request || *request == ScrollRequest::kPageUp || *request == ScrollRequest::kPageDown) return;
   ScrollState state = ScrollStateOf(table, SB_HORZ);
   state.thumb = thumb;
   const int position = ScrolledPosition(*request, state);
-  if (position == state.position) return 0;
+  if (position == state.position) return;
   const HWND heading = HeadingOf(table);
   const ShownBlocks blocks = BlocksOf(DocumentOf(table));
   MoveColumns(table, GeometryOf(table, blocks), state.position - position);
@@ -113,7 +114,6 @@ LRESULT OnHorizontalScroll(HWND table, int code, int thumb) {
   SetScrollPos(table, SB_HORZ, position, TRUE);
   UpdateWindow(table);
   UpdateWindow(heading);
-  return 0;
 }
 
 // Whether the key scrolls sideways.
@@ -145,11 +145,20 @@ LRESULT OnLeftButtonUp(HWND table, int x, int y) {
 }  // namespace
 
 LRESULT CALLBACK ZmanimTablePaneProc(HWND table, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (const std::optional<LRESULT> answer = ZmanimTooltipMessage(table, message, wParam, lParam)) return *answer;
   switch (message) {
     case WM_KEYDOWN:
       if (TakeSidewaysKey(table, wParam)) return 0;
       break;
-    case WM_HSCROLL: return OnHorizontalScroll(table, LOWORD(wParam), HIWORD(wParam));
+    case WM_HSCROLL:
+      OnHorizontalScroll(table, LOWORD(wParam), HIWORD(wParam));
+      FollowMouseOverZmanim(GetParent(table));
+      return 0;
+    case WM_VSCROLL:
+    case WM_MOUSEWHEEL:
+      ListPaneMessage(kTable, table, message, wParam, lParam);
+      FollowMouseOverZmanim(GetParent(table));
+      return 0;
     case WM_LBUTTONUP: return OnLeftButtonUp(table, GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
   }
   return ListPaneMessage(kTable, table, message, wParam, lParam);

@@ -28,6 +28,7 @@ struct ListState {
   Entries stored;  // as they were when the dialog opened
   Entries entries;
   std::vector<Occasion> rows;  // the order on the screen
+  std::string newPlace;        // for new entries; empty: that of the selected one
 };
 
 struct Column {
@@ -158,7 +159,8 @@ INT_PTR OnOpen(HWND dialog, ListState& state) {
 INT_PTR OnAdd(HWND dialog) {
   ListState& state = StateOf(dialog);
   const std::vector<size_t> selected = Selected(dialog);
-  const std::string place = selected.empty() ? std::string() : state.rows[selected.front()].place;
+  std::string place = state.newPlace;
+  if (place.empty() && !selected.empty()) place = state.rows[selected.front()].place;
   const std::optional<Entry> entry = AskForNewEntry(dialog, state.entries, place);
   if (!entry) return TRUE;
   state.entries.insert_or_assign(entry->occasion, entry->times);
@@ -252,7 +254,7 @@ INT_PTR CALLBACK CandlesDialogProc(HWND dialog, UINT message, WPARAM wParam, LPA
 
 }  // namespace
 
-void DoCandlesDialog(HWND owner) {
+void DoCandlesDialog(HWND owner, const std::string& place) {
   const INITCOMMONCONTROLSEX listView = {sizeof listView, ICC_LISTVIEW_CLASSES};
   InitCommonControlsEx(&listView);
   std::optional<Entries> stored;
@@ -261,6 +263,7 @@ void DoCandlesDialog(HWND owner) {
   ListState state;
   state.stored = *stored;
   state.entries = state.stored;
+  state.newPlace = place;
   RunDialog(owner, IDD_CANDLES, CandlesDialogProc, &state);
 }
 

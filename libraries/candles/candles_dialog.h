@@ -3,8 +3,11 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace candles {
 
-void DoCandlesDialog(HWND owner);
+// place: what new entries are preset with; empty: the place of the entry that is selected.
+void DoCandlesDialog(HWND owner, const std::string& place);
 
 }  // namespace candles

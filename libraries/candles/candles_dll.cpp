@@ -1,5 +1,6 @@
 #include "companion/candles.h"
 
+#include <cstring>
 #include <optional>
 
 #include "libraries/candles/candles_dialog.h"
@@ -19,5 +20,12 @@ int32_t CandlesGetTime(const char* location, uint32_t day, uint32_t month, uint3
   return 0;
 }
 
-void CandlesDoDialog(HWND owner) try { candles::DoCandlesDialog(owner); } catch (...) {
+void CandlesDoDialog(HWND owner) try { candles::DoCandlesDialog(owner, ""); } catch (...) {
+}
+
+void CandlesDoDialogAt(HWND owner, const char* place) try {
+  constexpr std::size_t kMostPlaceBytes = 255;  // the program's places are shorter than 256 bytes
+  const bool isUsable = place && std::strlen(place) <= kMostPlaceBytes;
+  candles::DoCandlesDialog(owner, isUsable ? place : "");
+} catch (...) {
 }

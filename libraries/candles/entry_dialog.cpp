@@ -169,7 +169,7 @@ calendar::Date Today() {
 }  // namespace
 
 std::optional<Entry> AskForNewEntry(HWND owner, const Entries& entries, const std::string& place) {
-  return Ask(owner, {L"Add Times", entries, {}, place, ComingFriday(Today()), "", "", {}, {}, {}});
+  return Ask(owner, {L"Add Times", entries, {}, place, FreeFriday(entries, place, Today()), "", "", {}, {}, {}});
 }
 
 std::optional<Entry> AskForChangedEntry(HWND owner, const Entries& entries, const Entry& entry) {

@@ -9,8 +9,8 @@
 
 namespace candles {
 
-// A new entry, its place preset. An entry that replaces one of the entries there has been asked about. None when the
-// user cancels.
+// A new entry, its place preset, and the first Friday from today on that the place has no times for. An entry that
+// replaces one of the entries there has been asked about. None when the user cancels.
 std::optional<Entry> AskForNewEntry(HWND owner, const Entries& entries, const std::string& place);
 
 // The same for an entry to be changed, which is one of the entries.

@@ -104,6 +104,15 @@ calendar::Date ComingFriday(const calendar::Date& today) {
   return calendar::GregorianFromAbsolute(day + wait);
 }
 
+calendar::Date FreeFriday(const Entries& entries, const std::string& place, const calendar::Date& today) {
+  calendar::Date friday = ComingFriday(today);
+  while (entries.contains({place, static_cast<uint32_t>(friday.year), static_cast<uint32_t>(friday.month),
+                           static_cast<uint32_t>(friday.day)})) {
+    friday = calendar::GregorianFromAbsolute(calendar::AbsoluteFromGregorian(friday) + kDaysInWeek);
+  }
+  return friday;
+}
+
 FridayAnswer ReadFriday(std::string_view text) {
   const std::optional<calendar::Date> date = DateIn(Trimmed(text));
   if (!date) return {{}, "The Friday must be a date written day.month.year, such as 08.03.2024."};

@@ -24,6 +24,9 @@ std::string DateText(const calendar::Date& date);
 // The Friday on or after a day.
 calendar::Date ComingFriday(const calendar::Date& today);
 
+// The first Friday on or after a day that the place has no times for.
+calendar::Date FreeFriday(const Entries& entries, const std::string& place, const calendar::Date& today);
+
 // A Friday as typed: day.month.year in digits, blanks around it allowed. Without a Friday there is a complaint, a
 // sentence that says what to write instead; for another weekday it names the nearest Fridays.
 struct FridayAnswer {

@@ -26,7 +26,7 @@ void FocusField(HWND dialog, int fieldId);
 // An error in a field, which then has the focus.
 void ShowFieldError(HWND dialog, int fieldId, const std::wstring& text);
 
-// WM_HELP for a dialog procedure: F1 in any dialog is answered by the last of its owners.
+// WM_HELP for a dialog procedure: F1 in any dialog is answered by the last of its owners, see companion/dialog_help.h.
 INT_PTR PassHelpOn(HWND dialog, LPARAM helpInfo);
 
 // A question under the dialog's own title; "No" is the default.

@@ -1,8 +1,12 @@
+#include <algorithm>
 #include <cstring>
 #include <optional>
+#include <string>
 
 #include "companion/hours.h"
 #include "companion/profile.h"
+#include "libraries/dialogs/windows_1252.h"
+#include "libraries/hours/definition_text.h"
 #include "libraries/hours/description_text.h"
 #include "libraries/hours/hours_dialog.h"
 #include "libraries/hours/hours_file.h"
@@ -88,6 +92,19 @@ int32_t HoursGetDescription(uint32_t index, char* text) try {
 
 int32_t HoursGetDescriptionHebrew(uint32_t index, char* text) try {
   return Answer(index, &hours::AnsweredZman::displayHebrew, text);
+} catch (...) {
+  return 0;
+}
+
+uint32_t HoursGetDefinition(uint32_t index, WCHAR* text, uint32_t size) try {
+  const hours::SelectionLock selection;
+  if (index >= selection.Zmanim().size()) return 0;
+  const std::wstring sentence = dialogs::Wide(hours::DefinitionSentence(selection.Zmanim()[index].definition));
+  if (text && size > 0) {
+    const std::size_t length = std::min<std::size_t>(sentence.size(), size - 1);
+    text[sentence.copy(text, length)] = L'\0';
+  }
+  return static_cast<uint32_t>(sentence.size()) + 1;
 } catch (...) {
   return 0;
 }

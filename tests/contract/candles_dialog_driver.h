@@ -22,7 +22,8 @@ using Row = std::vector<std::wstring>;
 // A run of the list dialog.
 class ListDialog : public DialogDriver {
  public:
-  ListDialog() : DialogDriver(Call), window_(WaitFor(kTitle)), list_(GetDlgItem(window_, IDC_TIMES)) {}
+  explicit ListDialog(int32_t (*call)(HWND owner) = Call)
+      : DialogDriver(call), window_(WaitFor(kTitle)), list_(GetDlgItem(window_, IDC_TIMES)) {}
 
   HWND Window() const { return window_; }
   HWND List() const { return list_; }

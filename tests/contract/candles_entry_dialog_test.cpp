@@ -63,6 +63,61 @@ TEST_F(CandlesDialog, NewEntryStartsWithTheSelectedPlaceAndTheComingFriday) {
   EXPECT_EQ(Stored(), kTwoEntries);
 }
 
+int32_t CallAtHaifa(HWND owner) {
+  CandlesDoDialogAt(owner, "Haifa");
+  return 0;
+}
+
+int32_t CallAtNowhere(HWND owner) {
+  CandlesDoDialogAt(owner, nullptr);
+  return 0;
+}
+
+int32_t CallAtTooLongAName(HWND owner) {
+  CandlesDoDialogAt(owner, std::string(256, 'x').c_str());
+  return 0;
+}
+
+std::string DateOfFile(uint64_t dayNumber) {
+  const uint64_t ticks = dayNumber * 864000000000;
+  const FILETIME fileTime = {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+  SYSTEMTIME day = {};
+  FileTimeToSystemTime(&fileTime, &day);
+  char text[16];
+  std::snprintf(text, sizeof text, "%04u-%02u-%02u", day.wYear, day.wMonth, day.wDay);
+  return text;
+}
+
+// The place has times for every day of the first two weeks but the second Friday's; the selected entry is another's.
+TEST_F(CandlesDialog, NewEntryAtAPlaceStartsWithItAndItsFirstFridayWithoutTimes) {
+  const uint64_t before = Today();
+  std::string file = "2024-03-08 17:25 18:31 Aachen\r\n";
+  for (uint64_t day = before; day < before + 7; ++day) file += DateOfFile(day) + " 17:25 18:31 Haifa\r\n";
+  home_.Put("candles.txt", file);
+  ListDialog dialog(CallAtHaifa);
+  const EntryDialog entry(dialog, IDC_ADD);
+  EXPECT_EQ(entry.Text(IDC_PLACE), L"Haifa");
+  SYSTEMTIME shown = {};
+  EXPECT_EQ(swscanf(entry.Text(IDC_FRIDAY).c_str(), L"%hu.%hu.%hu", &shown.wDay, &shown.wMonth, &shown.wYear), 3);
+  const Day friday = DayOf(shown);
+  EXPECT_EQ(friday.weekday, 5);
+  EXPECT_GE(friday.number, before + 7);
+  EXPECT_LE(friday.number, Today() + 13);
+  EXPECT_TRUE(entry.Cancel());
+  dialog.Accept();
+}
+
+TEST_F(CandlesDialog, WithoutAUsableNameTheSelectedPlaceIsPreset) {
+  home_.Put("candles.txt", kTwoEntries);
+  for (int32_t (*const call)(HWND) : {CallAtNowhere, CallAtTooLongAName}) {
+    ListDialog dialog(call);
+    const EntryDialog entry(dialog, IDC_ADD);
+    EXPECT_EQ(entry.Text(IDC_PLACE), L"Jerusalem");
+    EXPECT_TRUE(entry.Cancel());
+    dialog.Accept();
+  }
+}
+
 TEST_F(CandlesDialog, OffersBuiltInPlacesTheUsersAndStoredOnesOnce) {
   home_.Put("candles.txt", "2024-03-08 17:25 18:31 Elsewhere\n2024-03-08 17:25 18:31 Jerusalem\n");
   home_.Put("shabbat2.ini", "[Locations]\r\nCastle Z\xFC=1\r\nGone=\r\nJerusalem=1\r\n[Shabbat]\r\nEnd=45\r\n");

@@ -181,6 +181,44 @@ TEST_F(HoursContract, FingerprintChangesWithNamesAndDefinitions) {
   }
 }
 
+// The sentence as the selection dialog shows it.
+TEST_F(HoursContract, DefinitionIsASentenceInUtf16) {
+  Choose("zman shema-gra\nzman dawn-16.1\n");
+  wchar_t text[200] = L"";
+  const std::wstring expected = L"3 of the 12 hours from sunrise to sunset, rounded down.";
+  EXPECT_EQ(HoursGetDefinition(0, text, 200), expected.size() + 1);
+  EXPECT_EQ(text, expected);
+  EXPECT_NE(HoursGetDefinition(1, text, 200), 0u);
+  EXPECT_EQ(std::wstring(text), L"The sun 16.1\u00B0 below the horizon in the morning, rounded down.");
+}
+
+TEST_F(HoursContract, DefinitionIsCutToTheBufferAndAlwaysEnded) {
+  Choose("zman shema-gra\n");
+  const uint32_t whole = HoursGetDefinition(0, nullptr, 0);
+  EXPECT_EQ(HoursGetDefinition(0, nullptr, 100), whole);
+  wchar_t text[8] = L"-------";
+  EXPECT_EQ(HoursGetDefinition(0, text, 0), whole);
+  EXPECT_EQ(text[0], L'-');
+  EXPECT_EQ(HoursGetDefinition(0, text, 1), whole);
+  EXPECT_EQ(std::wstring(text, 3), std::wstring(L"\0--", 3));
+  EXPECT_EQ(HoursGetDefinition(0, text, 5), whole);
+  EXPECT_STREQ(text, L"3 of");
+  EXPECT_EQ(text[5], L'-');
+  std::wstring fitting(whole, L'-');
+  EXPECT_EQ(HoursGetDefinition(0, fitting.data(), whole), whole);
+  EXPECT_EQ(fitting[whole - 2], L'.');
+  EXPECT_EQ(fitting[whole - 1], L'\0');
+}
+
+TEST_F(HoursContract, AZmanThatIsNotThereHasNoDefinition) {
+  wchar_t text[8] = L"before";
+  for (const uint32_t index : {HoursGetCount(), 100u, 0xFFFFFFFFu}) {
+    EXPECT_EQ(HoursGetDefinition(index, text, 8), 0u);
+    EXPECT_EQ(HoursGetDefinition(index, nullptr, 0), 0u);
+    EXPECT_STREQ(text, L"before");
+  }
+}
+
 TEST_F(HoursContract, FingerprintOfNobodyIsIgnored) {
   HoursGetFingerprint(nullptr);
 }

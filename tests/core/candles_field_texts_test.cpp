@@ -77,6 +77,14 @@ TEST(CandlesFieldTexts, ComingFridayIsTodayOnAFriday) {
   EXPECT_EQ(ComingFriday({30, 12, 2023}), (Date{5, 1, 2024}));
 }
 
+TEST(CandlesFieldTexts, FreeFridayIsTheFirstThatThePlaceHasNoTimesFor) {
+  const Entries entries = {{{"Haifa", 2024, 3, 8}, {}}, {{"Haifa", 2024, 3, 15}, {}}, {{"Haifa", 2024, 3, 29}, {}}};
+  EXPECT_EQ(FreeFriday(entries, "Haifa", {4, 3, 2024}), (Date{22, 3, 2024}));
+  EXPECT_EQ(FreeFriday(entries, "Haifa", {23, 3, 2024}), (Date{5, 4, 2024}));
+  EXPECT_EQ(FreeFriday(entries, "haifa", {4, 3, 2024}), (Date{8, 3, 2024}));
+  EXPECT_EQ(FreeFriday({}, "", {4, 3, 2024}), (Date{8, 3, 2024}));
+}
+
 TEST(CandlesFieldTexts, TimesOfTheTwentyFourHourForm) {
   EXPECT_EQ(ReadTime("18:47"), (TypedTime{18, 47, false}));
   EXPECT_EQ(ReadTime(" 6:07 "), (TypedTime{6, 7, false}));

@@ -278,6 +278,7 @@ int32_t PlacePickSelectLocation(HWND owner, char* name) {
 }
 
 void GuideGo(HWND owner, const char* topic) {
+  Libraries().helpOwner = owner;
   LogCall("help '%s' owner %s", topic, owner ? "yes" : "none");
 }
 

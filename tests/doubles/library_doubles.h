@@ -106,6 +106,8 @@ struct LibraryScript {
   // placepick: the name that the user picks; empty: cancelled
   std::string pickedLocation;
 
+  HWND helpOwner = nullptr;  // guide: the window that the last help was for
+
   // glyphs
   std::vector<Draw> draws;         // on windows
   std::vector<Draw> printedDraws;  // on the doubled printer, a device context of memory

@@ -2,8 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <utility>
-
 #include "tests/end_to_end/program_driver.h"
 
 using testing::HasSubstr;
@@ -40,33 +38,44 @@ class KeyboardTest : public testing::Test {
 }  // namespace
 
 // F1 becomes a request for help only when it comes from the keyboard. A page that is missing shows which was asked for.
-TEST_F(KeyboardTest, TheHelpKeyAsksForHelpInTheFrameAndInADialog) {
+TEST_F(KeyboardTest, TheHelpKeyOpensThePageOfTheViewOrTheDialog) {
   TemporaryFolder folder;
   fs::copy(ProgramFolder(), folder.path(), fs::copy_options::recursive);
   fs::remove_all(folder.path() / "help");
   ProgramRun program(folder.path(), settings_.path());
   program.WaitForDocuments(1);
-  const auto expectHelp = [&](HWND window) {
+  const auto expectHelp = [&](HWND window, const char* page) {
     BringUp(program, window);
     Press(VK_F1);
     const HWND box = program.WaitForDialog("Times / Readings");
-    EXPECT_THAT(TextOf(GetDlgItem(box, 0xFFFF)), HasSubstr("index.html"));
+    EXPECT_THAT(TextOf(GetDlgItem(box, 0xFFFF)), HasSubstr(page));
+    EXPECT_EQ(GetWindow(box, GW_OWNER), window) << page;
     PostMessageA(box, WM_COMMAND, IDOK, 0);
-    EXPECT_TRUE(program.Eventually([&] { return !IsWindow(box); }));
+    EXPECT_TRUE(program.Eventually([&] { return !IsWindow(box) && IsWindowEnabled(window); })) << page;
   };
-  expectHelp(program.WaitForTopLevel("ShabbatMain"));
-  // A dialog of the program's own, and one of each library that has any.
-  const std::pair<unsigned, const char*> dialogs[] = {{1003, "Shabbat Time Preferences"},
-                                                      {1001, "Select Location"},
-                                                      {1011, "Readings"},
-                                                      {1015, "Language of Readings"},
-                                                      {1014, "Zmanim Selection"},
-                                                      {1016, "Custom Candle-Lighting Times"},
-                                                      {1017, "Form of Times"}};
-  for (const auto& [command, title] : dialogs) {
+  const HWND frame = program.WaitForTopLevel("ShabbatMain");
+  expectHelp(frame, "shabbat_times.html");
+  program.PostCommand(1112);
+  EXPECT_TRUE(program.Eventually([&] { return IsWindowVisible(GetDlgItem(program.WaitForDocuments(1)[0], 4)) != 0; }));
+  expectHelp(frame, "zmanim.html");
+  // Dialogs of the program's own, and one of each library that has any.
+  struct Case {
+    unsigned command;
+    const char* title;
+    const char* page;
+  };
+  const Case dialogs[] = {{1003, "Shabbat Time Preferences", "shabbat_times.html"},
+                          {1002, "Select Range", "index.html"},
+                          {1001, "Select Location", "places.html"},
+                          {1011, "Readings", "readings.html"},
+                          {1015, "Language of Readings", "readings.html"},
+                          {1014, "Zmanim Selection", "zmanim.html"},
+                          {1016, "Custom Candle-Lighting Times", "shabbat_times.html"},
+                          {1017, "Form of Times", "shabbat_times.html"}};
+  for (const auto& [command, title, page] : dialogs) {
     program.PostCommand(command);
     const HWND dialog = program.WaitForDialog(title);
-    expectHelp(dialog);
+    expectHelp(dialog, page);
     PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
     EXPECT_TRUE(program.Eventually([&] { return !IsWindow(dialog); })) << title;
   }

@@ -61,6 +61,15 @@ TEST_F(ExportsTest, TheHebrewLegendIsWrittenWhenItIsSet) {
   EXPECT_THAT(Exported(IDM_EXPORT_TEXT, "zmanim.txt"), HasSubstr("\r\n1 = cba\r\n"));
 }
 
+// "15 = " and shkia turned round.
+TEST_F(ExportsTest, TheHebrewLegendOfTheBuiltInZmanimIsWrittenToo) {
+  Libraries().settings["shab30.ini|Settings|EnableZmanim"] = "0";
+  Libraries().settings["shab30.ini|Zmanim|Hebrew"] = "1";
+  Command(IDM_VIEW_ZMANIM);
+  EXPECT_THAT(Exported(IDM_EXPORT_TEXT, "zmanim.txt"), HasSubstr("15 = \xE4\xF2\xE9\xF7\xF9\r\n"));
+  EXPECT_THAT(Exported(IDM_EXPORT_RTF_BY_DAY, "zmanim.rtf"), HasSubstr("15 = "));
+}
+
 TEST_F(ExportsTest, TheWidthOfTimesFollowsTheFormInForce) {
   Libraries().amPm = true;
   Command(IDM_VIEW_ZMANIM);

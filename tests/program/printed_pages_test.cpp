@@ -12,6 +12,7 @@
 using testing::Contains;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
+using testing::Not;
 using testing::SizeIs;
 
 namespace {
@@ -142,14 +143,15 @@ TEST_F(PrintedPagesTest, TheHebrewLegendNamesAllZmanimBelowTheTitle) {
   }
 }
 
-TEST_F(PrintedPagesTest, TheBuiltInZmanimKeepTheirEnglishLegend) {
+TEST_F(PrintedPagesTest, TheHebrewLegendNamesTheBuiltInZmanimToo) {
   Libraries().settings["shab30.ini|Settings|EnableZmanim"] = "0";
   Libraries().settings["shab30.ini|Zmanim|Hebrew"] = "1";
   ComputeDays(1);
   Print();
   ASSERT_THAT(Printer().pages, SizeIs(2));
-  EXPECT_EQ(Printer().pages[0][3].text, "Alot ");
-  EXPECT_THAT(PrintedTexts(1, kPrintedBold), Contains("Shkia,     "));
+  EXPECT_EQ(Printer().pages[0][3].text, " \xFA\xE5\xEC\xF2");  // alot
+  EXPECT_EQ(Printer().pages[0][3].font, "Hebrew Face 0");
+  EXPECT_THAT(PrintedTexts(1, kPrintedBold), Not(Contains("Shkia,     ")));
 }
 
 TEST_F(PrintedPagesTest, MarksArePrintedForTimesThatAreNone) {

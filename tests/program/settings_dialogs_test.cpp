@@ -1,9 +1,13 @@
 // The dialogs for preferences and range.
+#include <cstring>
+
 #include "app/active_document.h"
 #include "app/open_document.h"
 #include "app/program.h"
 #include "engine/bound_entries.h"
 #include "engine/current.h"
+#include "engine/optional_entries.h"
+#include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/program_fixture.h"
@@ -250,11 +254,17 @@ TEST_F(SettingsDialogsTest, TheUsersOwnCandleTimesOpenADocumentWhateverBecameOfT
   EXPECT_FALSE(ShabbatTimesOf(ActiveDocument()).empty());
 }
 
-TEST_F(SettingsDialogsTest, F1InADialogOpensTheHelp) {
-  Open(IDM_SELECT_RANGE, [](HWND dialog) {
-    HELPINFO key{};
-    SendMessageA(GetDlgItem(dialog, 101), WM_HELP, 0, reinterpret_cast<LPARAM>(&key));
-    Click(dialog, IDCANCEL);
-  });
-  EXPECT_THAT(CallsWith("help"), ElementsAre("help 'Start' owner yes"));
+TEST_F(SettingsDialogsTest, TheUsersOwnCandleTimesArePresetWithThePlaceOfTheDocumentInFront) {
+  OptionalEntries.CandlesDoDialogAt = [](HWND owner, const char* place) {
+    LogCall("custom times at '%s', owner %s", place, owner ? "yes" : "none");
+  };
+  std::strcpy(CurrentLocation.name, "Haifa");
+  SetPlace(ActiveDocument(), {"Jerusalem", 3147, 3514, 2, 0});
+  SendMessageA(frame_, WM_COMMAND, IDM_CUSTOM_CANDLES, 0);
+  EXPECT_THAT(CallsWith("custom times"), ElementsAre("custom times at 'Jerusalem', owner yes"));
+  EXPECT_EQ(CountDocuments(), 2);
+  SendMessageA(frame_, WM_COMMAND, IDM_WINDOW_CLOSE_ALL, 0);
+  CallLog().clear();
+  SendMessageA(frame_, WM_COMMAND, IDM_CUSTOM_CANDLES, 0);
+  EXPECT_THAT(CallsWith("custom times"), ElementsAre("custom times at 'Haifa', owner yes"));
 }

@@ -1,0 +1,20 @@
+/* How the help key finds the page of a library's dialog. Libraries do not show help: a dialog's template gives it one
+ * of these help ids (the last number of its DIALOGEX line), and its procedure sends WM_HELP on to its owner as it came.
+ * The caller of the library, at the end of the owners, finds the dialog as the top-level window of HELPINFO's
+ * hItemHandle and its number by GetWindowContextHelpId. A number is never given to another dialog. The program's own
+ * have less than 100. */
+#ifndef TIMES_READINGS_COMPANION_DIALOG_HELP_H
+#define TIMES_READINGS_COMPANION_DIALOG_HELP_H
+
+#define HELPID_CANDLES 100
+#define HELPID_CANDLES_ENTRY 101
+#define HELPID_HOURS_SELECTION 110
+#define HELPID_HOURS_OWN 111
+#define HELPID_LECTIONS_CONFIGURE 120
+#define HELPID_LECTIONS_LANGUAGE 121
+#define HELPID_OWNHOURS 130
+#define HELPID_OWNHOURS_TIME 131
+#define HELPID_STAMP_FORM 140
+#define HELPID_PLACEPICK 150
+
+#endif
