@@ -133,8 +133,9 @@ void ExpectOrder(const Order& order, ZmanDay& day, const std::string& where) {
 TEST(HoursZmanDay, OrderOfTheDayHoldsUpToSixtyDegreesOnEveryDayOfAYear) {
   std::vector<Order> orders;
   for (const auto& ids : kOrders) {
-    Order& order = orders.emplace_back();
+    Order order;
     for (const char* id : ids) order.emplace_back(id, Zman(id));
+    orders.push_back(std::move(order));
   }
   const int32_t first = sun::UnixDayOfDate(1, 1, 2026);
   for (int32_t latitude = -60; latitude <= 60; latitude += 5) {
