@@ -35,7 +35,8 @@ const DATES = [
 
 const degreesOf = (packed) => Math.trunc(packed / 100) + (packed % 100) / 60;
 
-// Every zman of the catalogue by its id.
+// Every zman of the catalogue by its id. It has no name for the middle of the night between sunset and sunrise, nor for
+// the one twelve hours after fixed noon.
 function zmanimOf(cal) {
   const rise = cal.getElevationAdjustedSunrise();
   const set = cal.getElevationAdjustedSunset();
@@ -45,6 +46,10 @@ function zmanimOf(cal) {
   const night = (degrees) => cal.getSunsetOffsetByDegrees(90 + degrees);
   const hours = (start, end, count) => (start && end ? cal.getShaahZmanisBasedZman(start, end, count) : null);
   const bht = [cal.getSunriseBaalHatanya(), cal.getSunsetBaalHatanya()];
+  const nextDay = new ComplexZmanimCalendar(cal.getGeoLocation());
+  nextDay.setUseElevation(true);
+  nextDay.setDate(cal.getDate().plus({ days: 1 }));
+  const nextRise = nextDay.getElevationAdjustedSunrise();
   const ateret = [cal.getAlos72Zmanis(), cal.getTzaisAteretTorah()];
   const z = {
     "sunrise-baal-hatanya": bht[0], "sunrise": rise, "sunrise-sea-level": cal.getSeaLevelSunrise(),
@@ -58,6 +63,7 @@ function zmanimOf(cal) {
     "tallit-11": cal.getMisheyakir11Degrees(), "tallit-10.2": cal.getMisheyakir10Point2Degrees(),
     "tallit-9.5": cal.getMisheyakir9Point5Degrees(), "tallit-7.65": cal.getMisheyakir7Point65Degrees(),
     "shema-mga-120-min": cal.getSofZmanShmaMGA120Minutes(), "shema-mga-96-min": cal.getSofZmanShmaMGA96Minutes(),
+    "shema-mga-120-zmanis": hours(cal.getAlos120Zmanis(), cal.getTzais120Zmanis(), 3),
     "shema-mga-96-zmanis": cal.getSofZmanShmaMGA96MinutesZmanis(), "shema-mga-90-min": cal.getSofZmanShmaMGA90Minutes(),
     "shema-mga-90-zmanis": cal.getSofZmanShmaMGA90MinutesZmanis(),
     "shema-mga-19.8": cal.getSofZmanShmaMGA19Point8Degrees(), "shema-mga-18": cal.getSofZmanShmaMGA18Degrees(),
@@ -82,9 +88,12 @@ function zmanimOf(cal) {
     "tefila-mga-72-zmanis": cal.getSofZmanTfilaMGA72MinutesZmanis(),
     "tefila-ateret-torah": cal.getSofZmanTfilaAteretTorah(), "tefila-gra": cal.getSofZmanTfilaGRA(),
     "tefila-2-clock-hours": cal.getSofZmanTfila2HoursBeforeChatzos(),
+    "tefila-sunrise-fixed-noon": cal.getSofZmanTfilaGRASunriseToFixedLocalChatzos(),
     "tefila-baal-hatanya": cal.getSofZmanTfilaBaalHatanya(),
     "chametz-eat-gra": cal.getSofZmanAchilasChametzGRA(),
     "chametz-eat-mga-72-min": cal.getSofZmanAchilasChametzMGA72Minutes(),
+    "chametz-eat-mga-72-zmanis": cal.getSofZmanAchilasChametzMGA72MinutesZmanis(),
+    "chametz-burn-mga-72-zmanis": cal.getSofZmanBiurChametzMGA72MinutesZmanis(),
     "chametz-eat-mga-16.1": cal.getSofZmanAchilasChametzMGA16Point1Degrees(),
     "chametz-eat-baal-hatanya": cal.getSofZmanAchilasChametzBaalHatanya(),
     "chametz-burn-gra": cal.getSofZmanBiurChametzGRA(),
@@ -93,6 +102,9 @@ function zmanimOf(cal) {
     "chametz-burn-baal-hatanya": cal.getSofZmanBiurChametzBaalHatanya(),
     "midday": cal.getSunTransit(), "midday-half": cal.getChatzosAsHalfDay(), "midday-fixed": cal.getFixedLocalChatzos(),
     "mincha-gedola-30-min": cal.getMinchaGedola30Minutes(), "mincha-gedola-gra": cal.getMinchaGedola(),
+    "mincha-gedola-fixed-noon": cal.getMinchaGedolaGRAFixedLocalChatzos30Minutes(),
+    "mincha-gedola-baal-hatanya-later": cal.getMinchaGedolaBaalHatanyaGreaterThan30(),
+    "mincha-ketana-fixed-noon": cal.getMinchaKetanaGRAFixedLocalChatzosToSunset(),
     "mincha-gedola-later": cal.getMinchaGedolaGreaterThan30(),
     "mincha-gedola-baal-hatanya": cal.getMinchaGedolaBaalHatanya(),
     "mincha-gedola-mga-72-min": cal.getMinchaGedola72Minutes(),
@@ -104,6 +116,13 @@ function zmanimOf(cal) {
     "mincha-ketana-ateret-torah": cal.getMinchaKetanaAteretTorah(),
     "mincha-ketana-mga-72-min": cal.getMinchaKetana72Minutes(),
     "mincha-ketana-mga-16.1": cal.getMinchaKetana16Point1Degrees(),
+    "plag-fixed-noon": cal.getPlagHaminchaGRAFixedLocalChatzosToSunset(),
+    "plag-16.1-to-sunset": cal.getPlagAlosToSunset(),
+    "plag-16.1-to-7.083": cal.getPlagAlos16Point1ToTzaisGeonim7Point083Degrees(),
+    "plag-ateret-torah": cal.getPlagHaminchaAteretTorah(), "plag-mga-72-zmanis": cal.getPlagHamincha72MinutesZmanis(),
+    "plag-mga-90-zmanis": cal.getPlagHamincha90MinutesZmanis(),
+    "plag-mga-96-zmanis": cal.getPlagHamincha96MinutesZmanis(),
+    "plag-mga-120-zmanis": cal.getPlagHamincha120MinutesZmanis(), "plag-mga-26": cal.getPlagHamincha26Degrees(),
     "plag-gra": cal.getPlagHamincha(), "plag-baal-hatanya": cal.getPlagHaminchaBaalHatanya(),
     "plag-mga-60-min": cal.getPlagHamincha60Minutes(), "plag-mga-72-min": cal.getPlagHamincha72Minutes(),
     "plag-mga-90-min": cal.getPlagHamincha90Minutes(), "plag-mga-96-min": cal.getPlagHamincha96Minutes(),
@@ -114,8 +133,15 @@ function zmanimOf(cal) {
     "twilight-yereim-16.875-min": cal.getBainHashmashosYereim16Point875Minutes(),
     "twilight-yereim-13.5-min": cal.getBainHashmashosYereim13Point5Minutes(),
     "twilight-13.5-min-before-7.083": cal.getBainHashmashosRT13Point5MinutesBefore7Point083Degrees(),
+    "twilight-yereim-3.05": cal.getBainHashmashosYereim3Point05Degrees(),
+    "twilight-yereim-2.8": cal.getBainHashmashosYereim2Point8Degrees(),
+    "twilight-yereim-2.1": cal.getBainHashmashosYereim2Point1Degrees(),
+    "twilight-two-stars": cal.getBainHashmashosRT2Stars(),
     "twilight-58.5-min": cal.getBainHashmashosRT58Point5Minutes(),
     "twilight-13.24": cal.getBainHashmashosRT13Point24Degrees(),
+    "nightfall-3.65": cal.getTzaisGeonim3Point65Degrees(), "nightfall-3.676": cal.getTzaisGeonim3Point676Degrees(),
+    "nightfall-4.37": cal.getTzaisGeonim4Point37Degrees(), "nightfall-4.61": cal.getTzaisGeonim4Point61Degrees(),
+    "nightfall-5.88": cal.getTzaisGeonim5Point88Degrees(), "nightfall-26": cal.getTzais26Degrees(),
     "nightfall-3.7": cal.getTzaisGeonim3Point7Degrees(), "nightfall-3.8": cal.getTzaisGeonim3Point8Degrees(),
     "nightfall-4.42": night(4.42), "nightfall-4.66": night(4.66), "nightfall-4.8": cal.getTzaisGeonim4Point8Degrees(),
     "nightfall-5.95": cal.getTzaisGeonim5Point95Degrees(), "nightfall-6": cal.getTzaisBaalHatanya(),
@@ -131,6 +157,7 @@ function zmanimOf(cal) {
     "nightfall-96-zmanis": cal.getTzais96Zmanis(), "nightfall-120-zmanis": cal.getTzais120Zmanis(),
     "nightfall-16.1": cal.getTzais16Point1Degrees(), "nightfall-18": cal.getTzais18Degrees(),
     "nightfall-19.8": cal.getTzais19Point8Degrees(), "midnight": cal.getSolarMidnight(),
+    "midnight-half": hours(set, nextRise, 6), "midnight-fixed": cal.getFixedLocalChatzos().plus({ hours: 12 }),
   };
   for (const minutes of [40, 30, 22, 20, 18, 15]) z[`candles-${minutes}-min`] = after(-minutes);
   for (const minutes of [96, 90]) {

@@ -14,6 +14,12 @@ namespace {
 using settings_folder::Line;
 
 constexpr std::string_view kZmanStart = "zman ";
+constexpr std::string_view kHoursAtSeaLevel = "proportional-hours sea-level";
+constexpr std::string_view kHoursWithElevation = "proportional-hours elevation";
+
+bool IsAboutHours(std::string_view line) {
+  return line == kHoursAtSeaLevel || line == kHoursWithElevation;
+}
 
 std::string_view ChosenIdIn(std::string_view line) {
   return line.starts_with(kZmanStart) ? line.substr(kZmanStart.size()) : std::string_view();
@@ -51,6 +57,8 @@ Choice ChoiceIn(const std::vector<Line>& lines) {
     if (own && !HasOwn(choice, own->number)) choice.own.push_back(std::move(*own));
   }
   choice.chosen = ChosenIn(lines, choice);
+  const auto aboutHours = std::ranges::find_if(lines, IsAboutHours, &Line::content);
+  choice.areHoursAtSeaLevel = aboutHours != lines.end() && aboutHours->content == kHoursAtSeaLevel;
   return choice;
 }
 
@@ -65,6 +73,7 @@ std::string ChoiceLines(const Choice& choice, std::string_view end) {
   const size_t count = std::min(choice.chosen.size(), kMostChosen);
   for (size_t i = 0; i < count; ++i) lines.append(kZmanStart).append(choice.chosen[i]).append(end);
   for (const OwnZman& own : choice.own) lines.append(OwnLine(own)).append(end);
+  if (choice.areHoursAtSeaLevel) lines.append(kHoursAtSeaLevel).append(end);
   return lines;
 }
 
@@ -116,7 +125,8 @@ std::string Applied(const Choice& choice, std::string_view text) {
   std::string result(text.substr(0, settings_folder::MarkLength(text)));
   bool isPlaced = false;
   for (const Line& line : lines) {
-    const bool isOurs = IsOffered(written, ChosenIdIn(line.content)) || OwnZmanIn(line.content);
+    const bool isOurs =
+        IsOffered(written, ChosenIdIn(line.content)) || OwnZmanIn(line.content) || IsAboutHours(line.content);
     if (!isOurs) {
       result.append(line.content).append(line.end.empty() ? end : line.end);
     } else if (!isPlaced) {
@@ -156,6 +166,9 @@ std::vector<OfferedZman> OfferedZmanim(const Choice& choice) {
         {OwnId(own.number),
          {descriptions.Take(own.description),
           hebrew.Take(own.hebrew.empty() ? WithoutAccents(own.description) : own.hebrew), DefinitionOf(own)}});
+  }
+  if (choice.areHoursAtSeaLevel) {
+    for (OfferedZman& one : offered) one.zman.definition = WithHoursAtSeaLevel(one.zman.definition);
   }
   return offered;
 }

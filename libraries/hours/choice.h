@@ -3,13 +3,17 @@
 //   zman dawn-72-min
 //   zman own-1
 //   own 1 degrees-before-sunrise 11.5 up First light|\xE0\xE5\xF8
+//   own 2 hours-gra 6.5 later minutes-after-midday 30 up Mincha
+//   proportional-hours sea-level
 //
 // A line "zman" chooses the zman with an id; the order of these lines is the order of the zmanim. A line "own" makes a
-// zman: its number (the id is "own-" and the number), form and amount (own_zman.h), rounding (down, up, nearest), then
-// the description in windows-1252 and, after a "|", the Hebrew one in windows-1255, in logical order. There is one
-// space between columns. Of several lines with an id or number the first counts. A file that chooses nothing is the
-// choice of those who have not chosen. Lines that start with "#" and all that are not of these forms or name no zman
-// are nobody's; they are passed over. Lines end in CR, LF or both; a UTF-8 byte order mark at the start is skipped.
+// zman: its number (the id is "own-" and the number), form and amount (own_forms.h), where there are two times "later"
+// or "earlier" with form and amount of the second, rounding (down, up, nearest), then the description in windows-1252
+// and, after a "|", the Hebrew one in windows-1255, in logical order. A line "proportional-hours" says "sea-level"
+// where elevation does not move them, else "elevation" or is not there. There is one space between columns. Of several
+// lines with an id or number, or about the hours, the first counts. A file that chooses nothing is the choice of those
+// who have not chosen. Lines that start with "#" and all that are not of these forms or name no zman are nobody's; they
+// are passed over. Lines end in CR, LF or both; a UTF-8 byte order mark at the start is skipped.
 #pragma once
 
 #include <cstddef>
@@ -29,6 +33,7 @@ constexpr size_t kMostChosen = 100;
 struct Choice {
   std::vector<std::string> chosen;  // ids, each once, each of the catalogue or of own; none means the default ones
   std::vector<OwnZman> own;         // whether chosen or not, each number once
+  bool areHoursAtSeaLevel = false;  // definitions are as WithHoursAtSeaLevel makes them
 
   bool operator==(const Choice&) const = default;
 };
@@ -55,7 +60,8 @@ struct DescribedZman {
 };
 
 // All zmanim that can be chosen, those of the catalogue first, each with its id. No two descriptions are equal: a
-// user's zman with a description that is taken gets " (2)" behind it, and so on; likewise in Hebrew.
+// user's zman with a description that is taken gets " (2)" behind it, and so on; likewise in Hebrew. Definitions are
+// those in force, with the hours at sea level where the choice has them there.
 struct OfferedZman {
   std::string id;
   DescribedZman zman;

@@ -83,7 +83,11 @@ class Merge {
       : base_(base), mine_(mine), theirs_(theirs), decide_(decide) {}
 
   // Whether the user has decided all that had to be.
-  bool Run() { return MergeOwn() && MergeChosen(); }
+  bool Run() {
+    const bool isMine = mine_.areHoursAtSeaLevel != base_.areHoursAtSeaLevel;
+    merged_.areHoursAtSeaLevel = (isMine ? mine_ : theirs_).areHoursAtSeaLevel;
+    return MergeOwn() && MergeChosen();
+  }
   Choice Result() && { return std::move(merged_); }
 
  private:

@@ -30,8 +30,9 @@ class Hash {
   void Add(const Definition& zman) {
     Add(zman.reckoning);
     Add(static_cast<uint32_t>(zman.rounding));
-    Add(uint32_t{zman.notBefore ? 1u : 0u});
+    Add((zman.notBefore ? 1u : 0u) | (zman.notAfter ? 2u : 0u));
     if (zman.notBefore) Add(*zman.notBefore);
+    if (zman.notAfter) Add(*zman.notAfter);
     Add(uint32_t{zman.isForPesachEve ? 1u : 0u});
   }
 

@@ -23,6 +23,7 @@
 #define IDC_DAY 118
 #define IDC_PRESET_LABEL 119
 #define IDC_RULE 120
+#define IDC_ELEVATION 121
 
 #define IDD_OWN 200
 #define IDC_DESCRIPTION 201
@@ -31,5 +32,8 @@
 #define IDC_FORM 204
 #define IDC_ROUNDING 205
 #define IDC_MEANING 206
+#define IDC_COMBINATION 207
+#define IDC_OTHER_AMOUNT 208
+#define IDC_OTHER_FORM 209
 
 #endif

@@ -27,12 +27,12 @@ std::optional<int32_t> NumberIn(std::string_view typed) {
   return ThousandthsIn(number);
 }
 
-const char* RangeComplaint(Unit unit) {
+const char* Range(Unit unit) {
   switch (unit) {
-    case Unit::kDegrees: return "The amount must be more than 0 and at most 60 degrees.";
+    case Unit::kDegrees: return "more than 0 and at most 60 degrees.";
     case Unit::kMinutes:
-    case Unit::kProportionalMinutes: return "The amount must be from 0 to 360 minutes.";
-    case Unit::kHours: return "The amount must be from 0 to 24 hours.";
+    case Unit::kProportionalMinutes: return "from 0 to 360 minutes.";
+    case Unit::kHours: return "from 0 to 24 hours.";
   }
   return "";
 }
@@ -88,12 +88,11 @@ std::string HebrewComplaint(const OwnTyped& typed, const Choice& choice, uint32_
          "or leave it empty.";
 }
 
-std::string AmountComplaint(const OwnTyped& typed) {
-  const std::optional<int32_t> amount = NumberIn(typed.amount);
-  if (!amount) {
-    return "The amount must be a number such as 72 or 16.1, with at most 3 digits behind the point.";
-  }
-  return IsAmount(typed.form->unit, *amount) ? "" : RangeComplaint(typed.form->unit);
+// name: of the field, "The amount".
+std::string AmountComplaint(const std::string& name, std::string_view typed, const OwnForm& form) {
+  const std::optional<int32_t> amount = NumberIn(typed);
+  if (!amount) return name + " must be a number such as 72 or 16.1, with at most 3 digits behind the point.";
+  return IsAmount(form.unit, *amount) ? "" : name + " must be " + Range(form.unit);
 }
 
 }  // namespace
@@ -105,15 +104,32 @@ OwnAnswer ReadOwn(const OwnTyped& typed, const Choice& choice, uint32_t number) 
   if (std::string complaint = HebrewComplaint(typed, choice, number); !complaint.empty()) {
     return {{}, OwnField::kHebrew, complaint};
   }
-  if (std::string complaint = AmountComplaint(typed); !complaint.empty()) return {{}, OwnField::kAmount, complaint};
+  if (std::string complaint = AmountComplaint("The amount", typed.amount, *typed.form); !complaint.empty()) {
+    return {{}, OwnField::kAmount, complaint};
+  }
+  if (typed.combination != Combination::kNone) {
+    std::string complaint = AmountComplaint("The second amount", typed.otherAmount, *typed.otherForm);
+    if (!complaint.empty()) return {{}, OwnField::kOtherAmount, complaint};
+  }
+  const OwnTimes times = TimesIn(typed).value();
   OwnAnswer answer;
   answer.zman = {number,
                  typed.form,
-                 *NumberIn(typed.amount),
+                 times.thousandths,
                  typed.rounding,
                  std::string(WithoutBlanks(*typed.description)),
-                 std::string(WithoutBlanks(*typed.hebrew))};
+                 std::string(WithoutBlanks(*typed.hebrew)),
+                 times.other};
   return answer;
+}
+
+std::optional<OwnTimes> TimesIn(const OwnTyped& typed) {
+  const std::optional<int32_t> amount = AmountIn(typed.amount, *typed.form);
+  if (!amount) return std::nullopt;
+  if (typed.combination == Combination::kNone) return OwnTimes{*amount, {}};
+  const std::optional<int32_t> other = AmountIn(typed.otherAmount, *typed.otherForm);
+  if (!other) return std::nullopt;
+  return OwnTimes{*amount, OwnOther{typed.combination == Combination::kLater, typed.otherForm, *other}};
 }
 
 std::optional<int32_t> AmountIn(std::string_view typed, const OwnForm& form) {

@@ -9,7 +9,10 @@
 
 namespace hours {
 
-enum class OwnField { kDescription, kHebrew, kAmount };
+enum class OwnField { kDescription, kHebrew, kAmount, kOtherAmount };
+
+// What becomes of a second time beside the first.
+enum class Combination : uint8_t { kNone, kLater, kEarlier };
 
 // The fields as they stand. A text with letters that its code page lacks is none.
 struct OwnTyped {
@@ -18,6 +21,9 @@ struct OwnTyped {
   std::string amount;                      // a comma may stand for the point
   const OwnForm* form;
   Rounding rounding;
+  Combination combination = Combination::kNone;
+  std::string otherAmount = {};  // of no meaning without a combination, like the next
+  const OwnForm* otherForm = nullptr;
 };
 
 // The zman; without one, the field to be put right and a sentence that says how.
@@ -32,6 +38,13 @@ OwnAnswer ReadOwn(const OwnTyped& typed, const Choice& choice, uint32_t number);
 
 // The amount alone, thousandths of the form's unit; nothing when it is none that the form takes.
 std::optional<int32_t> AmountIn(std::string_view typed, const OwnForm& form);
+
+// The form, the amount and the second time as they are typed; nothing when an amount is none that its form takes.
+struct OwnTimes {
+  int32_t thousandths;
+  std::optional<OwnOther> other;
+};
+std::optional<OwnTimes> TimesIn(const OwnTyped& typed);
 
 // windows-1255 as Unicode and back, letters and ASCII: other bytes stand for the characters of their numbers, other
 // characters for none. Hebrew quotation marks become the ASCII ones.

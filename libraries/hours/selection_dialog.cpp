@@ -24,8 +24,9 @@ constexpr Anchor kAnchors[] = {
     {IDC_PRESET, Follow::kGrow, Follow::kNo},       {IDC_USE_PRESET, Follow::kMove, Follow::kNo},
     {IDC_CHOSEN, Follow::kGrow, Follow::kGrow},     {IDC_DEFAULTS, Follow::kNo, Follow::kMove},
     {IDC_DEFINITION, Follow::kGrow, Follow::kMove}, {IDC_OWN_LABEL, Follow::kNo, Follow::kMove},
-    {IDC_RULE, Follow::kGrow, Follow::kMove},       {IDC_DAY, Follow::kGrow, Follow::kMove},
-    {IDOK, Follow::kMove, Follow::kMove},           {IDCANCEL, Follow::kMove, Follow::kMove},
+    {IDC_ELEVATION, Follow::kNo, Follow::kMove},    {IDC_RULE, Follow::kGrow, Follow::kMove},
+    {IDC_DAY, Follow::kGrow, Follow::kMove},        {IDOK, Follow::kMove, Follow::kMove},
+    {IDCANCEL, Follow::kMove, Follow::kMove},
 };
 
 // Keys that move the selection of the list while the user types in the edit.
@@ -115,6 +116,7 @@ INT_PTR SelectionDialog::OnOpen() {
     SendDlgItemMessageW(dialog_, IDC_PRESET, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
   }
   SetText(IDC_DAY, "Today is " + times_.DateText() + " at the current place; the times are those of the clock there.");
+  CheckDlgButton(dialog_, IDC_ELEVATION, choice_.areHoursAtSeaLevel ? BST_UNCHECKED : BST_CHECKED);
   ShowPresetInUse();
   ShowOffered({});
   ShowChosen(0);
@@ -137,6 +139,7 @@ INT_PTR SelectionDialog::OnCommand(int control, int notification) {
     case IDC_DOWN: MoveBy(1); return TRUE;
     case IDC_USE_PRESET: UseSelectedPreset(); return TRUE;
     case IDC_DEFAULTS: Use(Presets().front()); return TRUE;
+    case IDC_ELEVATION: OnElevation(); return TRUE;
     case IDC_NEW: NewOwn(); return TRUE;
     case IDC_CHANGE: ChangeOwnZman(); return TRUE;
     case IDC_DELETE: DeleteOwn(); return TRUE;
@@ -249,6 +252,16 @@ void SelectionDialog::Use(const Preset& preset) {
   UsePreset(choice_, preset);
   ShowPresetInUse();
   ShowChosen(0);
+}
+
+// Definitions and times follow the tick; what is selected and shown stays where it is.
+void SelectionDialog::OnElevation() {
+  choice_.areHoursAtSeaLevel = IsDlgButtonChecked(dialog_, IDC_ELEVATION) != BST_CHECKED;
+  const std::string selected = current_;
+  offered_ = OfferedList(choice_);
+  ShowOffered(OfferedIdAt(offeredList_.Selected()));
+  ShowChosen(chosenList_.Selected());
+  OnSelected(selected);
 }
 
 // Who makes a zman wants it: it is chosen at once where there is room.

@@ -42,6 +42,7 @@ class SelectionDialog {
   void Move(size_t from, size_t to);
   void UseSelectedPreset();
   void Use(const Preset& preset);
+  void OnElevation();
   void NewOwn();
   void ChangeOwnZman();
   void DeleteOwn();

@@ -19,11 +19,17 @@ enum class BoundKind : uint8_t {
   kTransit,              // the sun's upper culmination
   kMeanNoon,             // 12:00 of local mean time
   kMidnight,             // the sun's lower culmination before or after the transit
+  kNight,                // sunset at the start, the next date's sunrise at the end
+  kMeanMidnight,         // 0:00 of local mean time, half a day before or after kMeanNoon
+  kDawnParts,            // eighteenths of the time from 19.8 degrees of depression to sunrise, outwards
+  kSeaLevelMinutes,      // kMinutes, kProportionalMinutes and kNight with sunrise and sunset as seen from the sea
+  kSeaLevelProportionalMinutes,
+  kSeaLevelNight,
 };
 
 struct Bound {
   BoundKind kind;
-  int32_t thousandths = 0;  // of degrees or minutes; negative on the other side of sunrise or sunset
+  int32_t thousandths = 0;  // of degrees, minutes or parts; negative on the other side of sunrise or sunset
 
   bool operator==(const Bound&) const = default;
 };
@@ -53,10 +59,16 @@ enum class Rounding : uint8_t { kDown, kUp, kNearest };
 struct Definition {
   Reckoning reckoning;
   Rounding rounding;
-  std::optional<Reckoning> notBefore = {};  // the later of both counts
+  std::optional<Reckoning> notBefore = {};  // the later of both counts; a zman has no time unless both have
   bool isForPesachEve = false;              // occurs on 14 Nisan only
+  std::optional<Reckoning> notAfter = {};   // the earlier of both counts, likewise
 
   bool operator==(const Definition&) const = default;
 };
+
+// The same where elevation moves sunrise and sunset only: whatever lies inside of a day, and minutes of which the day
+// has 720, are reckoned from sunrise and sunset at sea level. Sunrise, sunset and minutes of the clock beside them keep
+// the elevation.
+Definition WithHoursAtSeaLevel(const Definition& zman);
 
 }  // namespace hours

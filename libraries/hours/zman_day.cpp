@@ -95,23 +95,49 @@ std::optional<double> ZmanDay::AtDepression(int32_t thousandthDegrees, End end) 
   return std::isnan(moment) ? std::nullopt : std::optional(moment);
 }
 
+double ZmanDay::SeaLevelSun(End end) {
+  std::optional<double>& moment = end == End::kStart ? seaLevelSunrise_ : seaLevelSunset_;
+  if (!moment) moment = (end == End::kStart ? sun::Sunrise(sun_, 0) : sun::Sunset(sun_, 0)).utcSeconds;
+  return *moment;
+}
+
+double ZmanDay::NextSunrise(double elevationMetres) {
+  if (!nextSun_) nextSun_ = sun::ComputeSunDay(unixDay_ + 1, place_.site);
+  return sun::Sunrise(*nextSun_, elevationMetres).utcSeconds;
+}
+
 std::optional<double> ZmanDay::At(const Bound& bound, End end) {
   const bool isStart = end == End::kStart;
-  const double outwards = isStart ? -1 : 1;
   const double sun = isStart ? sunrise_ : sunset_;
+  const double shareOfDay = bound.thousandths / (1000 * kProportionalMinutesPerDay);
   switch (bound.kind) {
     case BoundKind::kSun: return sun;
-    case BoundKind::kSeaLevelSun: return (isStart ? sun::Sunrise(sun_, 0) : sun::Sunset(sun_, 0)).utcSeconds;
+    case BoundKind::kSeaLevelSun: return SeaLevelSun(end);
     case BoundKind::kDegrees: return AtDepression(bound.thousandths, end);
-    case BoundKind::kMinutes: return sun + outwards * Seconds(bound.thousandths);
-    case BoundKind::kProportionalMinutes:
-      return sun + outwards * (sunset_ - sunrise_) * (bound.thousandths / (1000 * kProportionalMinutesPerDay));
+    case BoundKind::kMinutes: return Outwards(sun, Seconds(bound.thousandths), end);
+    case BoundKind::kProportionalMinutes: return Outwards(sun, (sunset_ - sunrise_) * shareOfDay, end);
     case BoundKind::kTransit: return sun::TransitUtcSeconds(sun_);
     case BoundKind::kMeanNoon: return MeanNoon();
     case BoundKind::kMidnight:
       return isStart ? sun::MidnightBeforeUtcSeconds(sun_) : sun::MidnightAfterUtcSeconds(sun_);
+    case BoundKind::kNight: return isStart ? sunset_ : NextSunrise(place_.elevationMetres);
+    case BoundKind::kMeanMidnight: return Outwards(MeanNoon(), kSecondsPerDay / 2, end);
+    case BoundKind::kDawnParts: return AtDawnParts(bound.thousandths, end);
+    case BoundKind::kSeaLevelMinutes: return Outwards(SeaLevelSun(end), Seconds(bound.thousandths), end);
+    case BoundKind::kSeaLevelProportionalMinutes:
+      return Outwards(SeaLevelSun(end), (SeaLevelSun(End::kEnd) - SeaLevelSun(End::kStart)) * shareOfDay, end);
+    case BoundKind::kSeaLevelNight: return isStart ? SeaLevelSun(End::kEnd) : NextSunrise(0);
   }
   return std::nullopt;
+}
+
+std::optional<double> ZmanDay::AtDawnParts(int32_t thousandths, End end) {
+  constexpr int32_t kDawnThousandthDegrees = 19800;
+  constexpr double kParts = 18;
+  const std::optional<double> dawn = AtDepression(kDawnThousandthDegrees, End::kStart);
+  if (!dawn) return std::nullopt;
+  const double seconds = (sunrise_ - *dawn) * thousandths / 1000 / kParts;
+  return Outwards(end == End::kStart ? sunrise_ : sunset_, seconds, end);
 }
 
 std::optional<double> ZmanDay::At(const Reckoning& reckoning) {
@@ -130,10 +156,16 @@ std::optional<double> ZmanDay::At(const Reckoning& reckoning) {
 
 std::optional<double> ZmanDay::UtcSeconds(const Definition& zman) {
   if (zman.isForPesachEve && !IsPesachEve()) return std::nullopt;
-  const std::optional<double> moment = At(zman.reckoning);
-  if (!moment || !zman.notBefore) return moment;
-  const std::optional<double> other = At(*zman.notBefore);
-  return other ? std::optional(std::max(*moment, *other)) : std::nullopt;
+  std::optional<double> moment = At(zman.reckoning);
+  if (moment && zman.notBefore) {
+    const std::optional<double> other = At(*zman.notBefore);
+    moment = other ? std::optional(std::max(*moment, *other)) : std::nullopt;
+  }
+  if (moment && zman.notAfter) {
+    const std::optional<double> other = At(*zman.notAfter);
+    moment = other ? std::optional(std::min(*moment, *other)) : std::nullopt;
+  }
+  return moment;
 }
 
 // The minute of a zman that is sunrise, sunset or whole minutes away from them.
@@ -143,7 +175,7 @@ std::optional<int64_t> ZmanDay::CountedMinute(const Definition& zman) const {
   if (!isStart && reckoning.thousandthHours != kDayThousandthHours) return std::nullopt;
   const Bound& bound = isStart ? reckoning.day.start : reckoning.day.end;
   if (bound.kind != BoundKind::kSun && bound.kind != BoundKind::kMinutes) return std::nullopt;
-  if (zman.notBefore || zman.isForPesachEve) return std::nullopt;
+  if (zman.notBefore || zman.notAfter || zman.isForPesachEve) return std::nullopt;
   if (!IsWhole(bound.thousandths) || !IsWhole(reckoning.thousandthMinutes)) return std::nullopt;
 
   const int32_t outwards = isStart ? -bound.thousandths : bound.thousandths;

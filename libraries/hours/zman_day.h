@@ -46,7 +46,11 @@ class ZmanDay {
   std::optional<double> At(const Bound& bound, End end);
   std::optional<double> At(const Reckoning& reckoning);
   std::optional<double> AtDepression(int32_t thousandthDegrees, End end);
+  std::optional<double> AtDawnParts(int32_t thousandths, End end);
   double MeanNoon() const;
+  double SeaLevelSun(End end);
+  double NextSunrise(double elevationMetres);
+  double Outwards(double sun, double seconds, End end) const { return sun + (end == End::kStart ? -seconds : seconds); }
   std::optional<int64_t> CountedMinute(const Definition& zman) const;
   int32_t OffsetSeconds(double utcSeconds) const;
   bool IsPesachEve();
@@ -62,6 +66,9 @@ class ZmanDay {
   int32_t offsetSeconds_;  // of the clock from a day before noon to a day after it
   bool hasOneOffset_;
   std::optional<bool> isPesachEve_;
+  std::optional<double> seaLevelSunrise_;
+  std::optional<double> seaLevelSunset_;
+  std::optional<sun::SunDay> nextSun_;
 
   // Depressions asked for so far, each in the slot of its key; of two for one slot the later.
   static constexpr size_t kSlots = 256;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 #include <optional>
 #include <set>
@@ -258,6 +259,29 @@ TEST_F(HoursContract, ElevationMovesWhatHangsOnSunriseAndSunsetOnly) {
   EXPECT_NE(TimeOf(kJerusalem, friday, 4), plag);
 }
 
+// The hours are those of the same place at sea level then, sunrise and sunset are not.
+TEST_F(HoursContract, ElevationLeavesProportionalHoursAloneWhereTheFileSaysSo) {
+  const std::string zmanim = "zman sunset\nzman shema-gra\nzman shema-mga-72-min\nzman plag-gra\nzman dawn-72-min\n";
+  Choose(zmanim);
+  const Date friday = {16, 1, 2026};
+  const std::string atSea[] = {TimeOf(kJerusalem, friday, 1), TimeOf(kJerusalem, friday, 2),
+                               TimeOf(kJerusalem, friday, 3)};
+  ProfileWriteString("Elevation", "31-47-35-14-2-0", "754", "almanacelevation.ini");
+  const std::string dawn = TimeOf(kJerusalem, friday, 4);
+  EXPECT_NE(TimeOf(kJerusalem, friday, 1), atSea[0]);
+  uint32_t before[2];
+  HoursGetFingerprint(before);
+
+  Choose(zmanim + "proportional-hours sea-level\n");
+  uint32_t after[2];
+  HoursGetFingerprint(after);
+  EXPECT_NE(std::memcmp(before, after, sizeof before), 0);
+  EXPECT_EQ(HoursGetCount(), 5u);
+  EXPECT_EQ(TimeOf(kJerusalem, friday, 0), "17:03");
+  for (uint32_t i = 0; i < 3; ++i) EXPECT_EQ(TimeOf(kJerusalem, friday, i + 1), atSea[i]) << i;
+  EXPECT_EQ(TimeOf(kJerusalem, friday, 4), dawn);
+}
+
 // At 59 degrees north the sun sinks 7.56 degrees on 21 June (by hand: 90 - 59 - 23.44): it does not reach 8.5.
 TEST_F(HoursContract, InWhiteNightsExactlyWhatTheSunDoesNotReachHasNoTime) {
   Choose("zman nightfall-7.083\nzman nightfall-8.5\nzman shema-mga-16.1\nzman shema-gra\nzman nightfall-72-min\n");
@@ -292,7 +316,10 @@ TEST_F(HoursContract, EastOfTwelveHoursTheDateIsThePlaces) {
 }
 
 TEST_F(HoursContract, AnswersForAnyArguments) {
-  Choose("zman dawn-16.1\nzman sunrise\nzman shema-gra\nzman midday-fixed\nzman chametz-eat-gra\nzman midnight\n");
+  Choose(
+      "zman dawn-16.1\nzman sunrise\nzman shema-gra\nzman midday-fixed\nzman chametz-eat-gra\nzman midnight\nzman "
+      "midnight-half\n"
+      "zman midnight-fixed\nzman twilight-two-stars\nproportional-hours sea-level\n");
   for (const int32_t number : {0, 6559, -99999, kMost, kLeast}) {
     for (const uint32_t date : {0u, 12u, 0xFFFFFFFFu}) {
       for (uint32_t i = 0; i < HoursGetCount(); ++i) {

@@ -150,8 +150,9 @@ TEST_F(HoursDialog, TabGoesThroughTheControlsInTheirOrder) {
     order.push_back(GetDlgCtrlID(control));
     control = GetNextDlgTabItem(dialog.Window(), control, FALSE);
   } while (control != dialog.Control(IDC_TYPED) && order.size() < 30);
-  EXPECT_THAT(order, ElementsAre(IDC_TYPED, IDC_OFFERED, IDC_NEW, IDC_ADD, IDC_REMOVE, IDC_UP, IDC_DOWN, IDC_PRESET,
-                                 IDC_CHOSEN, IDC_DEFAULTS, IDOK, IDCANCEL));  // without those that are disabled
+  EXPECT_THAT(
+      order, ElementsAre(IDC_TYPED, IDC_OFFERED, IDC_NEW, IDC_ADD, IDC_REMOVE, IDC_UP, IDC_DOWN, IDC_PRESET, IDC_CHOSEN,
+                         IDC_DEFAULTS, IDC_ELEVATION, IDOK, IDCANCEL));  // without those that are disabled
   dialog.Accept();
 }
 
@@ -167,9 +168,9 @@ TEST_F(HoursDialog, MnemonicsAreUnique) {
     }
     return letters.size();
   };
-  EXPECT_EQ(check(dialog.Window()), 13u);
+  EXPECT_EQ(check(dialog.Window()), 14u);
   const OwnRun own(dialog, IDC_NEW);
-  EXPECT_EQ(check(own.Window()), 5u);
+  EXPECT_EQ(check(own.Window()), 8u);
   EXPECT_TRUE(own.Cancel());
   dialog.Accept();
 }

@@ -41,6 +41,15 @@ TEST_F(HoursMerge, WhatTheOtherAddedStaysBesideWhatIsAddedHere) {
   EXPECT_EQ(HoursGetCount(), 6u);
 }
 
+TEST_F(HoursMerge, HoursWithoutElevationHereGoTogetherWithWhatTheOtherChose) {
+  SelectionRun dialog;
+  CheckDlgButton(dialog.Window(), IDC_ELEVATION, BST_UNCHECKED);
+  dialog.Click(IDC_ELEVATION);
+  home_.Put("hours.txt", "zman dawn-72-min\r\nzman sunset\r\n");
+  dialog.Accept();
+  EXPECT_EQ(Stored(), "zman dawn-72-min\r\nzman sunset\r\nproportional-hours sea-level\r\n");
+}
+
 TEST_F(HoursMerge, OkWithoutAChangeLeavesTheOthersAlone) {
   SelectionRun dialog;
   home_.Put("hours.txt", "zman sunset\r\n");

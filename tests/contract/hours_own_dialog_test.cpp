@@ -75,6 +75,50 @@ TEST_F(HoursDialog, EveryFieldIsCheckedAndTheFocusGoesThere) {
   EXPECT_THAT(Stored(), HasSubstr("own 2 hours-gra 9.5 up Other\r\n"));
 }
 
+TEST_F(HoursDialog, OwnZmanCanBeTheLaterOrTheEarlierOfTwoTimes) {
+  home_.Put("hours.txt", kOne);
+  SelectionRun dialog;
+  const OwnRun own(dialog, IDC_NEW);
+  own.Fill(L"Mincha", L"6.5", L"hours of the GR\"O day");
+  const HWND second = GetDlgItem(own.Window(), IDC_OTHER_AMOUNT);
+  EXPECT_FALSE(IsWindowEnabled(second));
+  own.Choose(IDC_COMBINATION, L"the later");
+  EXPECT_TRUE(IsWindowEnabled(second));
+  EXPECT_EQ(own.Text(IDC_MEANING), L"");
+  EXPECT_EQ(own.ErrorIn(IDC_OTHER_AMOUNT),
+            L"The second amount must be a number such as 72 or 16.1, with at most 3 digits behind the point.");
+  own.Choose(IDC_OTHER_FORM, L"minutes after midday");
+  own.Set(IDC_OTHER_AMOUNT, L"361");
+  EXPECT_EQ(own.ErrorIn(IDC_OTHER_AMOUNT), L"The second amount must be from 0 to 360 minutes.");
+  own.Set(IDC_OTHER_AMOUNT, L"30");
+  EXPECT_THAT(own.Text(IDC_MEANING), HasSubstr(L"6.5 of the 12 hours from sunrise to sunset, but not before 30 minutes "
+                                               L"after midday, rounded up."));
+  ASSERT_TRUE(own.Accept());
+  dialog.Accept();
+  EXPECT_EQ(Stored(), "zman sunrise\r\nzman own-1\r\nown 1 hours-gra 6.5 later minutes-after-midday 30 up Mincha\r\n");
+}
+
+TEST_F(HoursDialog, SecondTimeIsShownAndCanBeTakenAway) {
+  home_.Put("hours.txt",
+            "zman own-1\r\nown 1 degrees-before-sunset 2.8 earlier minutes-before-half-night 90 nearest Mine\r\n");
+  SelectionRun dialog;
+  dialog.Type(L"mine");
+  {
+    const OwnRun own(dialog, IDC_CHANGE);
+    EXPECT_EQ(own.Text(IDC_FORM), L"degrees above the horizon before sunset");
+    EXPECT_EQ(own.Text(IDC_COMBINATION), L"the earlier of this and a second time");
+    EXPECT_EQ(own.Text(IDC_OTHER_AMOUNT), L"90");
+    EXPECT_EQ(own.Text(IDC_OTHER_FORM), L"minutes before half of the night");
+    EXPECT_TRUE(own.Cancel());
+  }
+  const OwnRun own(dialog, IDC_CHANGE);
+  own.Choose(IDC_COMBINATION, L"this time alone");
+  EXPECT_FALSE(IsWindowEnabled(GetDlgItem(own.Window(), IDC_OTHER_FORM)));
+  ASSERT_TRUE(own.Accept());
+  dialog.Accept();
+  EXPECT_EQ(Stored(), "zman own-1\r\nown 1 degrees-before-sunset 2.8 nearest Mine\r\n");
+}
+
 TEST_F(HoursDialog, RoundingFollowsTheFormUntilTheUserChoosesIt) {
   home_.Put("hours.txt", kOne);
   SelectionRun dialog;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "companion/profile.h"
 #include "companion/solar.h"
 #include "tests/contract/hours_dialog_driver.h"
 
@@ -37,7 +38,7 @@ TEST_F(HoursDialog, CatalogueStandsUnderItsKinds) {
   EXPECT_EQ(dialog.Cell(IDC_OFFERED, 0, 1), L"");
   EXPECT_THAT(rows, Contains(L"Nightfall"));
   EXPECT_EQ(std::ranges::count(rows, L"Latest Shema"), 1);
-  EXPECT_EQ(rows[rows.size() - 2], L"Midnight");
+  EXPECT_EQ(rows[rows.size() - 4], L"Midnight");
   EXPECT_EQ(dialog.Text(IDC_OFFERED_LABEL), L"&Zmanim: " + std::to_wstring(rows.size() - 14));  // 14 kinds
   dialog.Accept();
 }
@@ -304,6 +305,31 @@ TEST_F(HoursDialog, ClosingTheOwnerUnderItEndsCleanly) {
     PostMessageW(dialog.Owner(), WM_CLOSE, 0, 0);
     dialog.Result();
   }
+  EXPECT_EQ(Stored(), kThree);
+}
+
+TEST_F(HoursDialog, ElevationOfProportionalHoursIsATickThatDefinitionsAndTimesFollow) {
+  ProfileWriteString("Elevation", "31-47-35-14-2-0", "754", "almanacelevation.ini");
+  home_.Put("hours.txt", kThree);
+  SelectionRun dialog;
+  EXPECT_EQ(IsDlgButtonChecked(dialog.Window(), IDC_ELEVATION), UINT{BST_CHECKED});
+  dialog.FocusOn(IDC_CHOSEN);
+  dialog.Select(IDC_CHOSEN, 2);
+  const std::wstring dawn = dialog.Cell(IDC_CHOSEN, 0, 2);
+  const std::wstring shema = dialog.Cell(IDC_CHOSEN, 2, 2);
+  SendMessageW(dialog.Control(IDC_ELEVATION), BM_CLICK, 0, 0);
+  EXPECT_THAT(dialog.Text(IDC_DEFINITION), HasSubstr(L"from sunrise at sea level to sunset at sea level"));
+  EXPECT_EQ(dialog.Selected(IDC_CHOSEN), 2);
+  EXPECT_EQ(dialog.Cell(IDC_CHOSEN, 0, 2), dawn);
+  EXPECT_GT(dialog.Cell(IDC_CHOSEN, 2, 2), shema);  // about two minutes, as the sun rises 4 later at sea level
+  dialog.Accept();
+  EXPECT_EQ(Stored(), std::string(kThree) + "proportional-hours sea-level\r\n");
+
+  SelectionRun again;
+  EXPECT_EQ(IsDlgButtonChecked(again.Window(), IDC_ELEVATION), UINT{BST_UNCHECKED});
+  SendMessageW(again.Control(IDC_ELEVATION), BM_CLICK, 0, 0);
+  EXPECT_EQ(again.Cell(IDC_CHOSEN, 2, 2), shema);
+  again.Accept();
   EXPECT_EQ(Stored(), kThree);
 }
 

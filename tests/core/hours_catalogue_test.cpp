@@ -53,6 +53,11 @@ TEST(HoursCatalogue, KindsComeInTheirOrderAndNoneIsEmpty) {
   }
 }
 
+// Drawn from right to left, a number at the start is torn from the words behind it.
+TEST(HoursCatalogue, NoHebrewNameBeginsWithADigit) {
+  for (const CatalogueZman& zman : Catalogue()) EXPECT_FALSE(zman.hebrew[0] >= '0' && zman.hebrew[0] <= '9') << zman.id;
+}
+
 // The restriction that a zman begins or ends decides: see "rounding" in the help.
 TEST(HoursCatalogue, DeadlinesGoDownAndOnsetsUp) {
   for (const CatalogueZman& zman : Catalogue()) {

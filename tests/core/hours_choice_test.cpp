@@ -89,6 +89,13 @@ TEST(HoursChoice, DamagedLinesArePassedOverAndSurvive) {
                                  "own 1 minutes-after-sunset 360.5 up a",
                                  "own 1 minutes-after-sunset 123456 up a",
                                  "own 1 hours-gra 3 sideways a",
+                                 "own 1 hours-gra 3 later up a",
+                                 "own 1 hours-gra 3 later hours-gra up a",
+                                 "own 1 hours-gra 3 later hours-gra 4 a",
+                                 "own 1 hours-gra 3 later hours 4 up a",
+                                 "own 1 hours-gra 3 later hours-gra 25 up a",
+                                 "own 1 hours-gra 3 later hours-gra 4 later hours-gra 5 up a",
+                                 "own 1 hours-gra 3 Later hours-gra 4 up a",
                                  " own 1 hours-gra 3 up a",
                                  "own  1 hours-gra 3 up a",
                                  "OWN 1 hours-gra 3 up a",
@@ -132,6 +139,26 @@ TEST(HoursChoice, WhatIsWrittenIsReadBack) {
   }
   EXPECT_EQ(Applied({{"sunset"}, {}}, "# comment"), "# comment\r\nzman sunset\r\n");
   EXPECT_EQ(Applied({{"sunset"}, {}}, "# comment\n"), "# comment\nzman sunset\n");
+}
+
+TEST(HoursChoice, TwoTimesOfAZmanAreReadAndWritten) {
+  const std::string text =
+      "zman own-1\nown 1 hours-gra 6.5 later minutes-after-midday 30 up Mincha|\xEE\n"
+      "own 2 degrees-after-sunset 8.5 earlier minutes-after-sunset 72 up later\n";
+  const Choice choice = ReadChoice(text);
+  ASSERT_EQ(choice.own.size(), 2u);
+  const OwnForm* const midday = FindOwnForm("minutes-after-midday");
+  EXPECT_EQ(choice.own[0], (OwnZman{1, FindOwnForm("hours-gra"), 6500, Rounding::kUp, "Mincha", "\xEE",
+                                    OwnOther{true, midday, 30000}}));
+  EXPECT_EQ(choice.own[1].other, (OwnOther{false, FindOwnForm("minutes-after-sunset"), 72000}));
+  EXPECT_EQ(choice.own[1].description, "later");
+  Choice changed = choice;
+  changed.own[0].description = "Other";
+  const std::string written = Applied(changed, text);
+  EXPECT_EQ(written,
+            "zman own-1\nown 1 hours-gra 6.5 later minutes-after-midday 30 up Other|\xEE\n"
+            "own 2 degrees-after-sunset 8.5 earlier minutes-after-sunset 72 up later\n");
+  EXPECT_EQ(ReadChoice(written), changed);
 }
 
 TEST(HoursChoice, EmptyOneIsTheDefaultAgain) {
@@ -208,11 +235,21 @@ TEST(HoursOwnForms, ReckonOnTheSideThatTheySay) {
   EXPECT_EQ(boundOf("minutes-before-sunset").day.end, (Bound{BoundKind::kMinutes, -1500}));
   EXPECT_EQ(boundOf("zmanis-after-sunset").day.end, (Bound{BoundKind::kProportionalMinutes, 1500}));
   EXPECT_EQ(boundOf("zmanis-after-sunset").thousandthHours, 12000);
+  EXPECT_EQ(boundOf("degrees-before-sunset").day.end, (Bound{BoundKind::kDegrees, -1500}));
+  EXPECT_EQ(boundOf("minutes-before-midday").thousandthMinutes, -1500);
+  EXPECT_EQ(boundOf("minutes-after-fixed-midnight").thousandthMinutes, 1500);
+  EXPECT_EQ(boundOf("hours-gra-fixed-noon").thousandthHours, 3000);
+  EXPECT_EQ(boundOf("hours-gra-fixed-noon").day.end, (Bound{BoundKind::kMeanNoon}));
   EXPECT_EQ(boundOf("hours-gra").thousandthHours, 1500);
   EXPECT_EQ(SuggestedRounding(*FindOwnForm("degrees-after-sunset"), 1), Rounding::kUp);
   EXPECT_EQ(SuggestedRounding(*FindOwnForm("degrees-before-sunrise"), 1), Rounding::kDown);
   EXPECT_EQ(SuggestedRounding(*FindOwnForm("hours-gra"), 4000), Rounding::kDown);
   EXPECT_EQ(SuggestedRounding(*FindOwnForm("hours-gra"), 9500), Rounding::kUp);
+  EXPECT_EQ(SuggestedRounding(*FindOwnForm("minutes-after-midday"), 30000), Rounding::kUp);
+  EXPECT_EQ(SuggestedRounding(*FindOwnForm("minutes-before-midday"), 30000), Rounding::kDown);
+  for (const char* form : {"minutes-after-midnight", "minutes-after-half-night", "hours-night"}) {
+    EXPECT_EQ(SuggestedRounding(*FindOwnForm(form), 10000), Rounding::kDown) << form;
+  }
 }
 
 TEST(HoursNumbers, AreWrittenAsTheyAreRead) {

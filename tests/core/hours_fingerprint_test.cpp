@@ -47,6 +47,11 @@ TEST(HoursFingerprint, ChangesWithEveryFieldOfAZman) {
        [](DescribedZman& zman) {
          zman.definition.notBefore = Reckoning{kGraDay, 1};
        }},
+      {"earlier of two",
+       [](DescribedZman& zman) {
+         zman.definition.notAfter = zman.definition.notBefore.value_or(Reckoning{kGraDay, 1});
+         zman.definition.notBefore.reset();
+       }},
       {"date", [](DescribedZman& zman) { zman.definition.isForPesachEve = true; }},
   };
   for (size_t i = 0; i < Two().size(); ++i) {

@@ -39,7 +39,25 @@ TEST(HoursDefinitionText, SaysWhatIsReckonedAndHowItIsRounded) {
             "4 of the 12 hours from sunrise to sunset, on the eve of Pesach only, rounded down");
   EXPECT_EQ(TextOf("twilight-13.5-min-before-7.083"),
             "13.5 minutes before the sun 7.083\xB0 below the horizon in the evening, rounded down");
+  EXPECT_EQ(
+      TextOf("shema-mga-16.1"),
+      "3 of the 12 hours from the sun 16.1\xB0 below the horizon in the morning to the same in the evening, rounded "
+      "down");
   EXPECT_EQ(TextOf("midnight"), "midnight, rounded down");
+  EXPECT_EQ(TextOf("midnight-half"), "half of the time from sunset to the next sunrise, rounded down");
+  EXPECT_EQ(TextOf("midnight-fixed"), "midnight of local mean time, rounded down");
+  EXPECT_EQ(TextOf("tefila-sunrise-fixed-noon"),
+            "4 of the 6 hours from sunrise to 12:00 of local mean time, rounded down");
+  EXPECT_EQ(TextOf("plag-fixed-noon"), "4.75 of the 6 hours from 12:00 of local mean time to sunset, rounded up");
+  EXPECT_EQ(TextOf("twilight-yereim-2.1"), "the sun 2.1\xB0 above the horizon in the evening, rounded down");
+  EXPECT_EQ(TextOf("twilight-two-stars"),
+            "5/18 of the time from the sun 19.8\xB0 below the horizon to sunrise, after sunset, rounded down");
+  EXPECT_EQ(DefinitionText({{{{BoundKind::kSun}, {BoundKind::kSun}}, 6500},
+                            Rounding::kUp,
+                            {},
+                            false,
+                            Reckoning{{{BoundKind::kTransit}, {BoundKind::kTransit}}, 0, 30000}}),
+            "6.5 of the 12 hours from sunrise to sunset, but not after 30 minutes after midday, rounded up");
   EXPECT_EQ(DefinitionSentence({{{{BoundKind::kMinutes, -1000}, {BoundKind::kSun}}, 0}, Rounding::kUp}),
             "1 minute after sunrise, rounded up.");
   EXPECT_EQ(DefinitionSentence(FindInCatalogue("sunrise")->definition), "Sunrise, to the nearest minute.");

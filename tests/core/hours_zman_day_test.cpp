@@ -9,178 +9,13 @@
 #include <utility>
 #include <vector>
 
-#include "libraries/hours/catalogue.h"
 #include "libraries/hours/own_zman.h"
-#include "libraries/sun/clock_in_force.h"
-#include "libraries/sun/places.h"
+#include "tests/core/hours_days.h"
 
 namespace hours {
 namespace {
 
 constexpr int64_t kMinutesPerDay = 24 * 60;
-
-// On the standard clock all year unless a zone is named.
-sun::PlaceSettings PlaceAt(int32_t packedLatitude, int32_t packedLongitude, int32_t zoneHours, int32_t zoneMinutes = 0,
-                           double metres = 0, const char* zoneId = "") {
-  const sun::Site site = sun::SiteFromPacked(packedLatitude, packedLongitude, zoneHours, zoneMinutes);
-  sun::PlaceSettings place = {site, metres, {site.standardOffsetMinutes * 60, {}}};
-  std::string(zoneId).copy(place.clock.zoneId.data(), place.clock.zoneId.size() - 1);
-  return place;
-}
-
-int64_t ShownMinute(const sun::PlaceSettings& place, const sun::SunEvent& event) {
-  return sun::NearestMinute(event.utcSeconds, sun::ClockOffsetSeconds(place.clock, event.utcSeconds));
-}
-
-// The day with sunrise and sunset as the solar library shows them.
-ZmanDay DayAt(int32_t unixDay, const sun::PlaceSettings& place) {
-  const sun::SunDay day = sun::ComputeSunDay(unixDay, place.site);
-  const auto ofDay = [&](const sun::SunEvent& event) {
-    const sun::HourAndMinute time = sun::TimeOfDay(ShownMinute(place, event));
-    return int64_t{time.hour} * 60 + time.minute;
-  };
-  return ZmanDay(unixDay, place,
-                 {ofDay(sun::Sunrise(day, place.elevationMetres)), ofDay(sun::Sunset(day, place.elevationMetres))});
-}
-
-const Definition& Zman(const std::string& id) {
-  const CatalogueZman* zman = FindInCatalogue(id);
-  if (!zman) throw std::invalid_argument(id);
-  return zman->definition;
-}
-
-std::string ClockText(std::optional<int64_t> minute) {
-  if (!minute) return "----";
-  const sun::HourAndMinute time = sun::TimeOfDay(*minute);
-  char text[16];
-  std::snprintf(text, sizeof text, "%d:%02d", time.hour, time.minute);
-  return text;
-}
-
-std::string TimeOf(const char* id, int32_t unixDay, const sun::PlaceSettings& place) {
-  return ClockText(DayAt(unixDay, place).ClockMinute(Zman(id)));
-}
-
-// What follows from one reckoning of day and night comes in this order.
-const std::vector<std::vector<const char*>> kOrders = {
-    {"dawn-120-min",
-     "dawn-96-min",
-     "dawn-90-min",
-     "dawn-72-min",
-     "dawn-60-min",
-     "sunrise",
-     "shema-gra",
-     "tefila-gra",
-     "midday-half",
-     "mincha-gedola-gra",
-     "samuch-gra",
-     "mincha-ketana-gra",
-     "plag-gra",
-     "twilight-yereim-18-min",
-     "twilight-yereim-13.5-min",
-     "sunset",
-     "nightfall-36-min",
-     "nightfall-40-min",
-     "nightfall-42-min",
-     "nightfall-45-min",
-     "nightfall-50-min",
-     "twilight-58.5-min",
-     "nightfall-60-min",
-     "nightfall-72-min",
-     "nightfall-90-min",
-     "nightfall-96-min",
-     "nightfall-120-min"},
-    {"dawn-120-zmanis", "dawn-96-zmanis", "dawn-90-zmanis", "dawn-72-zmanis", "sunrise", "sunset",
-     "nightfall-72-zmanis", "nightfall-90-zmanis", "nightfall-96-zmanis", "nightfall-120-zmanis"},
-    {"candles-40-min", "candles-30-min", "candles-22-min", "candles-20-min", "candles-18-min", "candles-15-min",
-     "sunset"},
-    {"dawn-72-min", "shema-mga-72-min", "tefila-mga-72-min", "mincha-gedola-mga-72-min", "samuch-mga-72-min",
-     "mincha-ketana-mga-72-min", "plag-mga-72-min", "nightfall-72-min"},
-    {"shema-mga-120-min", "shema-mga-96-min", "shema-mga-90-min", "shema-mga-72-min", "shema-gra", "tefila-gra"},
-    {"shema-mga-96-zmanis", "shema-mga-90-zmanis", "shema-mga-72-zmanis", "shema-gra"},
-    {"dawn-16.1", "shema-mga-16.1", "tefila-mga-16.1", "mincha-gedola-mga-16.1", "samuch-mga-16.1",
-     "mincha-ketana-mga-16.1", "plag-mga-16.1", "nightfall-16.1"},
-    {"dawn-18", "shema-mga-18", "tefila-mga-18", "plag-mga-18", "nightfall-18"},
-    {"dawn-19.8", "shema-mga-19.8", "tefila-mga-19.8", "plag-mga-19.8", "nightfall-19.8"},
-    {"dawn-72-zmanis", "shema-ateret-torah", "tefila-ateret-torah", "mincha-gedola-ateret-torah",
-     "mincha-ketana-ateret-torah", "nightfall-40-min"},
-    {"dawn-16.9", "sunrise-baal-hatanya", "shema-baal-hatanya", "tefila-baal-hatanya", "mincha-gedola-baal-hatanya",
-     "mincha-ketana-baal-hatanya", "plag-baal-hatanya", "sunset-baal-hatanya", "nightfall-6"},
-    {"dawn-26",
-     "dawn-19.8",
-     "dawn-19",
-     "dawn-18",
-     "dawn-16.9",
-     "dawn-16.1",
-     "tallit-12.85",
-     "tallit-11.5",
-     "tallit-11",
-     "tallit-10.2",
-     "tallit-9.5",
-     "tallit-7.65",
-     "sunrise-baal-hatanya",
-     "sunrise-sea-level",
-     "midday",
-     "sunset-sea-level",
-     "sunset-baal-hatanya",
-     "nightfall-3.7",
-     "nightfall-3.8",
-     "nightfall-4.42",
-     "nightfall-4.66",
-     "nightfall-4.8",
-     "nightfall-5.95",
-     "nightfall-6",
-     "nightfall-6.45",
-     "nightfall-7.083",
-     "nightfall-7.5",
-     "nightfall-7.67",
-     "nightfall-8.5",
-     "nightfall-8.75",
-     "nightfall-9.3",
-     "nightfall-9.75",
-     "nightfall-11",
-     "twilight-13.24",
-     "nightfall-16.1",
-     "nightfall-18",
-     "nightfall-19.8",
-     "midnight"},
-};
-
-using Order = std::vector<std::pair<const char*, Definition>>;
-
-void ExpectOrder(const Order& order, ZmanDay& day, const std::string& where) {
-  const char* before = "";
-  double momentBefore = -1e18;
-  int64_t minuteBefore = std::numeric_limits<int64_t>::min();
-  for (const auto& [id, zman] : order) {
-    const std::optional<double> moment = day.UtcSeconds(zman);
-    if (!moment) continue;
-    const int64_t minute = day.ClockMinute(zman).value();
-    ASSERT_GE(*moment, momentBefore) << where << ": " << before << " and " << id;
-    ASSERT_GE(minute, minuteBefore) << where << ": " << before << " and " << id;
-    before = id;
-    momentBefore = *moment;
-    minuteBefore = minute;
-  }
-}
-
-TEST(HoursZmanDay, OrderOfTheDayHoldsUpToSixtyDegreesOnEveryDayOfAYear) {
-  std::vector<Order> orders;
-  for (const auto& ids : kOrders) {
-    Order& order = orders.emplace_back();
-    for (const char* id : ids) order.emplace_back(id, Zman(id));
-  }
-  const int32_t first = sun::UnixDayOfDate(1, 1, 2026);
-  for (int32_t latitude = -60; latitude <= 60; latitude += 5) {
-    // The clock runs up to two hours ahead of the sun, as in western China.
-    const sun::PlaceSettings place = PlaceAt(latitude * 100, -latitude * 200, (latitude + 60) / 60);
-    for (int32_t unixDay = first; unixDay < first + 365; ++unixDay) {
-      ZmanDay day = DayAt(unixDay, place);
-      const std::string where = std::to_string(latitude) + " degrees, day " + std::to_string(unixDay - first + 1);
-      for (const Order& order : orders) ASSERT_NO_FATAL_FAILURE(ExpectOrder(order, day, where));
-    }
-  }
-}
 
 // Which ends of its day a zman needs by degrees, 0 for none.
 struct NeededDepressions {
@@ -193,6 +28,7 @@ NeededDepressions NeededBy(const Reckoning& reckoning) {
     return bound.kind == BoundKind::kDegrees ? bound.thousandths / 1000.0 : 0;
   };
   NeededDepressions needed;
+  if (reckoning.day.end.kind == BoundKind::kDawnParts) return {19.8, 0};
   if (reckoning.thousandthHours != kDayThousandthHours) needed.morning = degrees(reckoning.day.start);
   if (reckoning.thousandthHours != 0) needed.evening = degrees(reckoning.day.end);
   return needed;
@@ -355,6 +191,23 @@ TEST(HoursZmanDay, OwnZmanimAgreeWithTheCataloguesOfTheSameDefinition) {
       {"hours-mga-16.1", 4000, Rounding::kDown, "tefila-mga-16.1"},
       {"hours-baal-hatanya", 10750, Rounding::kUp, "plag-baal-hatanya"},
       {"hours-ateret-torah", 9500, Rounding::kUp, "mincha-ketana-ateret-torah"},
+      {"degrees-before-sunset", 2800, Rounding::kDown, "twilight-yereim-2.8"},
+      {"minutes-before-midday", 180000, Rounding::kDown, "shema-3-clock-hours"},
+      {"minutes-after-midday", 30000, Rounding::kUp, "mincha-gedola-30-min"},
+      {"minutes-before-fixed-noon", 0, Rounding::kNearest, "midday-fixed"},
+      {"minutes-after-fixed-noon", 30000, Rounding::kUp, "mincha-gedola-fixed-noon"},
+      {"minutes-before-midnight", 0, Rounding::kDown, "midnight"},
+      {"minutes-after-half-night", 0, Rounding::kDown, "midnight-half"},
+      {"minutes-before-fixed-midnight", 0, Rounding::kDown, "midnight-fixed"},
+      {"hours-gra-fixed-noon", 3000, Rounding::kDown, "shema-sunrise-fixed-noon"},
+      {"hours-gra-fixed-noon", 4000, Rounding::kDown, "tefila-sunrise-fixed-noon"},
+      {"hours-gra-fixed-noon", 9500, Rounding::kUp, "mincha-ketana-fixed-noon"},
+      {"hours-gra-fixed-noon", 10750, Rounding::kUp, "plag-fixed-noon"},
+      {"hours-mga-72-min-fixed-noon", 3000, Rounding::kDown, "shema-72-min-fixed-noon"},
+      {"hours-mga-90-min-fixed-noon", 3000, Rounding::kDown, "shema-90-min-fixed-noon"},
+      {"hours-mga-16.1-fixed-noon", 3000, Rounding::kDown, "shema-16.1-fixed-noon"},
+      {"hours-mga-18-fixed-noon", 3000, Rounding::kDown, "shema-18-fixed-noon"},
+      {"hours-night", 6000, Rounding::kDown, "midnight-half"},
   };
   const sun::PlaceSettings place = PlaceAt(5047, 605, 1);
   ZmanDay day = DayAt(sun::UnixDayOfDate(16, 3, 2026), place);
@@ -377,6 +230,61 @@ TEST(HoursZmanDay, AnyNumberOfDepressionsIsAnswered) {
       EXPECT_EQ(*day.UtcSeconds(DefinitionOf(own)), sun::EveningDepression(sunDay, thousandths / 1000.0).utcSeconds);
     }
   }
+}
+
+TEST(HoursZmanDay, OfTwoTimesTheLaterOrTheEarlierCountsAndNoneWhereOneDoesNotOccur) {
+  const OwnForm* const midday = FindOwnForm("minutes-after-midday");
+  const OwnForm* const hours = FindOwnForm("hours-gra");
+  const OwnForm* const degrees = FindOwnForm("degrees-after-sunset");
+  const OwnZman later = {1, hours, 6500, Rounding::kUp, "a", "", OwnOther{true, midday, 30000}};
+  const OwnZman earlier = {1, midday, 30000, Rounding::kUp, "a", "", OwnOther{false, hours, 6500}};
+  const OwnZman night = {1, hours, 12000, Rounding::kUp, "a", "", OwnOther{true, degrees, 8500}};
+  const sun::PlaceSettings place = PlaceAt(6400, 1500, 1);
+  for (const uint32_t month : {6u, 12u}) {
+    ZmanDay day = DayAt(sun::UnixDayOfDate(21, month, 2026), place);
+    const bool isSummer = month == 6;
+    const char* const halfHour = "mincha-gedola-30-min";
+    const char* const gra = "mincha-gedola-gra";
+    EXPECT_EQ(day.UtcSeconds(DefinitionOf(later)), day.UtcSeconds(Zman(isSummer ? gra : halfHour)));
+    EXPECT_EQ(day.UtcSeconds(DefinitionOf(earlier)), day.UtcSeconds(Zman(isSummer ? halfHour : gra)));
+    EXPECT_EQ(day.ClockMinute(DefinitionOf(later)), day.ClockMinute(Zman("mincha-gedola-later")));
+    EXPECT_EQ(day.ClockMinute(DefinitionOf(night)).has_value(), !isSummer);
+  }
+}
+
+// By hand, 35 degrees 14 minutes being 2:20:56: 0:00 of mean time is 23:39:04 on the clock of +2 hours.
+TEST(HoursZmanDay, MidnightOfTheMeridianIsHalfADayAfterItsNoon) {
+  const sun::PlaceSettings place = PlaceAt(3147, 3514, 2);
+  for (uint32_t month = 1; month <= 12; ++month) {
+    EXPECT_EQ(TimeOf("midnight-fixed", sun::UnixDayOfDate(11, month, 2026), place), "23:39");
+  }
+}
+
+TEST(HoursZmanDay, HalfOfTheNightIsBetweenSunsetAndTheNextSunrise) {
+  const sun::PlaceSettings places[] = {PlaceAt(3147, 3514, 2), PlaceAt(-3749, 14458, 10), PlaceAt(6939, 1858, 1),
+                                       PlaceAt(-13, -7831, -5, 0, 2850)};
+  for (const sun::PlaceSettings& place : places) {
+    for (int32_t unixDay = sun::UnixDayOfDate(1, 1, 2026); unixDay < sun::UnixDayOfDate(1, 1, 2027); unixDay += 7) {
+      const double sunset = *DayAt(unixDay, place).UtcSeconds(Zman("sunset"));
+      const double sunrise = *DayAt(unixDay + 1, place).UtcSeconds(Zman("sunrise"));
+      EXPECT_NEAR(*DayAt(unixDay, place).UtcSeconds(Zman("midnight-half")), (sunset + sunrise) / 2, 1e-3) << unixDay;
+    }
+  }
+}
+
+// By hand: dawn by 19.8 degrees is 90 minutes before sunrise at the equinox in Jerusalem, and 5/18 of that are 25.
+TEST(HoursZmanDay, TwoStarsAreFiveEighteenthsOfDawnAfterSunset) {
+  ZmanDay day = DayAt(sun::UnixDayOfDate(16, 3, 2026), PlaceAt(3147, 3514, 2));
+  const double sunset = *day.UtcSeconds(Zman("sunset"));
+  EXPECT_NEAR(*day.UtcSeconds(Zman("twilight-two-stars")) - sunset, 25 * 60, 15);
+}
+
+// The sun of the polar night stays below the horizon, and so above no altitude over it.
+TEST(HoursZmanDay, DegreesAboveTheHorizonHaveNoTimeWhereTheSunStaysLower) {
+  const sun::PlaceSettings place = PlaceAt(6939, 1858, 1);
+  EXPECT_EQ(TimeOf("twilight-yereim-2.1", sun::UnixDayOfDate(21, 12, 2026), place), "----");
+  EXPECT_EQ(TimeOf("twilight-yereim-2.1", sun::UnixDayOfDate(21, 6, 2026), place), "----");
+  EXPECT_NE(TimeOf("twilight-yereim-2.1", sun::UnixDayOfDate(20, 3, 2026), place), "----");
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ struct ReferencePlace {
 };
 
 constexpr int32_t kNever = std::numeric_limits<int32_t>::min();  // stands for a zman that does not occur
-constexpr size_t kReferenceZmanim = 144;
+constexpr size_t kReferenceZmanim = 172;
 
 struct ReferenceDay {
   size_t place;
@@ -104,7 +104,7 @@ TEST(ZmanimReference, EveryMomentAgreesWithinTwentySeconds) {
     worst = std::max(worst, error);
   });
   std::printf("%g moments, mean difference %g s, worst %g s: %s\n", count, sum / count, worst, worstName.c_str());
-  EXPECT_GT(count, 15000);
+  EXPECT_GT(count, 18000);
   EXPECT_LT(sum / count, 2);
 }
 
