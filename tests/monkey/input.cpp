@@ -83,9 +83,10 @@ LPARAM Packed(POINT point) {
 }  // namespace
 
 std::string Input::Key(HWND window, WPARAM key) const {
+  const std::string where = Describe(window);  // which the key may close
   PostMessageA(window, WM_KEYDOWN, key, kFirstPress);
   PostMessageA(window, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
-  return "key " + std::to_string(key) + " to " + Describe(window);
+  return "key " + std::to_string(key) + " to " + where;
 }
 
 std::string Input::AnyKey(HWND window) {
@@ -118,8 +119,9 @@ std::string Input::Click(HWND window, POINT point, bool twice) const {
 }
 
 std::string Input::ClickButton(HWND button) const {
+  const std::string what = "press " + Describe(button);
   PostMessageA(button, BM_CLICK, 0, 0);
-  return "press " + Describe(button);
+  return what;
 }
 
 // A little outside too, as a mouse that is dragged.

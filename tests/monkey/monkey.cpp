@@ -50,11 +50,6 @@ constexpr unsigned kCommands[] = {IDM_SELECT_LOCATION,
 constexpr int kToolbarButtons[] = {IDB_SHABBAT_TIMES, IDB_ZMANIM,      IDB_READINGS, IDB_SELECT_LOCATION,
                                    IDB_BIRTHDAYS,     IDB_BAR_MITZVAH, IDB_DAF_YOMI};
 
-bool IsMessageBox(HWND dialog) {
-  constexpr int kTextControl = 0xFFFF;
-  return GetDlgItem(dialog, kTextControl) != nullptr && !GetDlgItem(dialog, 101);
-}
-
 }  // namespace
 
 bool LeadsOut(HWND window) {
@@ -211,13 +206,10 @@ void Monkey::LeaveDialogs() {
     if (program_->InMenu()) {
       input_.Key(program_->frame(), VK_ESCAPE);
     } else {
+      // About has no Cancel, a question no harmless Yes.
       const HWND dialog = program_->Dialog();
-      const HWND no = GetDlgItem(dialog, IDNO);
-      if (no && IsMessageBox(dialog)) {
-        input_.ClickButton(no);
-      } else {
-        PostMessageA(dialog, WM_COMMAND, tries % 2 == 0 ? IDCANCEL : IDOK, 0);
-      }
+      const auto hasButton = [dialog](int id) { return GetDlgItem(dialog, id) != nullptr; };
+      PostMessageA(dialog, WM_COMMAND, hasButton(IDCANCEL) ? IDCANCEL : hasButton(IDNO) ? IDNO : IDOK, 0);
     }
     Settle();
   }
