@@ -161,7 +161,8 @@ std::string Monkey::Touch() {
 }
 
 // The second copy shares the settings. It comes, changes a setting, and goes.
-std::string Monkey::DriveSecondCopy() {
+std::string Monkey::DriveSecondCopy() try {
+  journal_.Note("the second copy's turn");
   if (!secondCopy_) {
     secondCopy_ = std::make_unique<RunningProgram>(programFolder_);
     return "start a second copy";
@@ -174,19 +175,22 @@ std::string Monkey::DriveSecondCopy() {
     return "command " + std::to_string(change) + " to the second copy";
   }
   while (const HWND box = secondCopy_->Dialog()) {  // settings that are held are complained about
-    PostMessageA(box, WM_CLOSE, 0, 0);
+    PostMessageA(box, WM_COMMAND, IDOK, 0);
     secondCopy_->Settle();
   }
   secondCopy_->Exit();
   secondCopy_.reset();
   return "close the second copy";
+} catch (const Fault& fault) {
+  throw Fault("in the second copy: " + std::string(fault.what()));
 }
 
 std::string Monkey::Restart() {
+  journal_.Note("end");
   program_->Exit();
   program_ = std::make_unique<RunningProgram>(programFolder_);
   rested_ = false;
-  return "end and start again";
+  return "start again";
 }
 
 void Monkey::KeepFewDocuments() {
