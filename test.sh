@@ -3,15 +3,29 @@
 # ASan and UBSan and against fuzzers, then everything for Windows in Wine.
 #
 #   ./test.sh --fuzz   lets each fuzzer run for a minute instead of a few seconds
+#   ./test.sh --monkey [SEED [MINUTES]]   lets a monkey at the finished program instead, for ten minutes unless told
 set -eu
 fuzz_seconds=3
+monkey=false
 case "${1-}" in
   "") ;;
   --fuzz) fuzz_seconds=60 ;;
-  *) echo "test.sh: unknown option $1; the only one is --fuzz" >&2; exit 2 ;;
+  --monkey) monkey=true; shift ;;
+  *) echo "test.sh: unknown option $1; there are --fuzz and --monkey" >&2; exit 2 ;;
 esac
 cd "$(dirname "$0")"
 . tools/packages.sh
+
+if $monkey; then
+  for number in "$@"; do
+    case $number in
+      *[!0-9]* | "") echo "test.sh: $number is no number; --monkey takes a seed and minutes" >&2; exit 2 ;;
+    esac
+  done
+  # shellcheck disable=SC2086
+  tools/install_packages $build_packages $wine_packages
+  exec tests/monkey/run "$@"
+fi
 
 # shellcheck disable=SC2086
 tools/install_packages $check_packages $build_packages $test_packages $printing_packages $wine_packages
