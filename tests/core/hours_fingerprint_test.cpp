@@ -52,6 +52,11 @@ TEST(HoursFingerprint, ChangesWithEveryFieldOfAZman) {
          zman.definition.notAfter = zman.definition.notBefore.value_or(Reckoning{kGraDay, 1});
          zman.definition.notBefore.reset();
        }},
+      {"hours of the earlier",
+       [](DescribedZman& zman) {
+         zman.definition.notBefore.reset();
+         zman.definition.notAfter = Reckoning{kGraDay, 2};
+       }},
       {"date", [](DescribedZman& zman) { zman.definition.isForPesachEve = true; }},
   };
   for (size_t i = 0; i < Two().size(); ++i) {
