@@ -168,6 +168,25 @@ std::string Input::AnyScroll(HWND window) {
   return "scroll " + std::to_string(request) + " to " + std::to_string(position) + " in " + Describe(window);
 }
 
+// The system handles messages in a loop of its own until the button is let go.
+std::string Input::PressScrollBar(HWND window) {
+  RECT bounds;
+  GetWindowRect(window, &bounds);
+  const LPARAM edge = Packed({bounds.right - dice_.Between(1, 12), dice_.Between(bounds.top, bounds.bottom)});
+  const LPARAM bottom = Packed({dice_.Between(bounds.left, bounds.right), bounds.bottom - dice_.Between(1, 12)});
+  const bool vertical = dice_.Chance(50);
+  PostMessageA(window, WM_NCLBUTTONDOWN, vertical ? HTVSCROLL : HTHSCROLL, vertical ? edge : bottom);
+  PostMessageA(window, WM_MOUSEMOVE, MK_LBUTTON, Packed(AnyPoint(window)));
+  PostMessageA(window, WM_LBUTTONUP, 0, Packed(AnyPoint(window)));
+  return std::string("press the ") + (vertical ? "vertical" : "horizontal") + " scroll bar of " + Describe(window);
+}
+
+std::wstring Input::AnyDate() {
+  const int year = dice_.Chance(70) ? dice_.Between(2026, 2028) : dice_.Between(1990, 2070);
+  return std::to_wstring(dice_.Between(1, 28)) + L"." + std::to_wstring(dice_.Between(1, 12)) + L"." +
+         std::to_wstring(year);
+}
+
 std::wstring Input::AnyText() {
   if (dice_.Chance(5)) return std::wstring(300, dice_.Chance(50) ? L'9' : L'\u05D0');
   if (dice_.Chance(80)) return dice_.Pick(kTexts);

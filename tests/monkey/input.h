@@ -20,9 +20,14 @@ class Input {
   std::string ClickButton(HWND button) const;
   std::string AnyMouse(HWND window);
   std::string AnyScroll(HWND window);
+  std::string PressScrollBar(HWND window);
 
   // A text to type into a field: plausible dates, numbers and names, and nonsense.
   std::wstring AnyText();
+
+  // A date of the years that most documents have, day.month.year; ranges of such dates may be the longest that there
+  // is.
+  std::wstring AnyDate();
 
  private:
   POINT AnyPoint(HWND window);

@@ -96,12 +96,13 @@ std::string Monkey::ActInMenu() {
 }
 
 std::string Monkey::ActInFrame() {
-  const int kind = dice_.Between(1, 1000);
-  if (kind <= 3) return Restart();
-  if (kind <= 10) return DriveSecondCopy();
-  if (kind <= 250) return ChooseCommand();
-  if (kind <= 350) return PressToolbar();
-  if (kind <= 500) return MoveWindows();
+  // Ends are rare, since some faults show only after minutes.
+  const int kind = dice_.Between(1, 10000);
+  if (kind <= 2) return Restart();
+  if (kind <= 70) return DriveSecondCopy();
+  if (kind <= 2500) return ChooseCommand();
+  if (kind <= 3500) return PressToolbar();
+  if (kind <= 5000) return MoveWindows();
   return Touch();
 }
 
@@ -157,6 +158,8 @@ std::string Monkey::Touch() {
   if (windows.empty()) return "nothing to touch";
   const HWND window = dice_.Pick(windows);
   if (LeadsOut(window)) return "leave " + Describe(window) + " alone";
+  const bool scrolls = (GetWindowLongA(window, GWL_STYLE) & (WS_VSCROLL | WS_HSCROLL)) != 0;
+  if (scrolls && dice_.Chance(20)) return input_.PressScrollBar(window);
   return dice_.Chance(30) ? input_.AnyScroll(window) : input_.AnyMouse(window);
 }
 

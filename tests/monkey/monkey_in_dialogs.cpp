@@ -1,4 +1,5 @@
 // What the monkey does while a dialog or a message box is open.
+#include <algorithm>
 #include <vector>
 
 #include "tests/monkey/monkey.h"
@@ -29,7 +30,9 @@ std::string Monkey::ActInMessageBox(HWND box) {
 
 // The old text is selected and typed over, as a user would, or stays.
 std::string Monkey::FillField(HWND field) {
-  const std::wstring text = input_.AnyText();
+  const std::string old = TextOf(field);
+  const bool isDate = std::count(old.begin(), old.end(), '.') == 2;
+  const std::wstring text = isDate && dice_.Chance(70) ? input_.AnyDate() : input_.AnyText();
   if (dice_.Chance(90)) PostMessageA(field, EM_SETSEL, 0, -1);
   if (text.empty()) return input_.Key(field, VK_DELETE);
   return input_.Characters(field, text);
