@@ -20,16 +20,20 @@ uint32_t FormOfTimes() {
   return StampIsAmPm() ? 1 : 0;
 }
 
+uint32_t LegendLinesNow(bool fromLibrary) {
+  return static_cast<uint32_t>(LegendLines(fromLibrary, ZmanimInHebrew()));
+}
+
 // By the zmanim that the document has; a document without any, by those in use.
-bool HasLibraryZmanim(HWND document) {
+uint32_t LegendLinesOf(HWND document) {
   const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
-  return labels ? labels->fromLibrary != 0 : ZmanimEnabled();
+  return LegendLinesNow(labels ? labels->fromLibrary != 0 : ZmanimEnabled());
 }
 
 void LayOut(HWND container, int width, int height) {
   const FontMeasure font = MeasureFontOnDisplay(nullptr);
   const ZmanimLayout layout = LayOutZmanim(width, height, font.lineHeight, font.averageCharacterWidth,
-                                           LegendLines(HasLibraryZmanim(GetParent(container))));
+                                           static_cast<int>(LegendLinesOf(GetParent(container))));
   PlaceChildPane(container, IDC_ZMANIM_LEGEND, layout.legend);
   PlaceChildPane(container, IDC_ZMANIM_HEADING, layout.heading);
   PlaceChildPane(container, IDC_ZMANIM_TABLE, layout.table);
@@ -44,19 +48,23 @@ constexpr PaneContainer kContainer{kPanes, LayOut, IDC_ZMANIM_TABLE};
 
 struct ViewState {
   bool hasTimesInUse;
-  bool isLaidOut;  // for the form of times
+  bool isLaidOut;  // for the form of times and the language of the legend
 };
 
 // One look at the document decides the usual case. One without zmanim has nothing to bring up to date.
 ViewState StateOf(HWND document) {
   const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
   if (!labels) return {true, true};
-  return {AreInUse(*labels.get()), labels->amPm == FormOfTimes()};
+  const bool isLaidOut =
+      labels->amPm == FormOfTimes() && labels->legendLines == LegendLinesNow(labels->fromLibrary != 0);
+  return {AreInUse(*labels.get()), isLaidOut};
 }
 
-void RememberForm(HWND document) {
+void RememberLayout(HWND document) {
   const ScopedGlobalLock<ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
-  if (labels) labels->amPm = FormOfTimes();
+  if (!labels) return;
+  labels->amPm = FormOfTimes();
+  labels->legendLines = LegendLinesNow(labels->fromLibrary != 0);
 }
 
 }  // namespace
@@ -71,7 +79,7 @@ void RefreshZmanimView(HWND document) {
   const HWND table = GetDlgItem(container, IDC_ZMANIM_TABLE);
   if (!table) return;
   DropZmanimTooltip(container);
-  RememberForm(document);
+  RememberLayout(document);
   RECT client;
   GetClientRect(container, &client);
   LayOut(container, client.right, client.bottom);

@@ -63,6 +63,7 @@ HGLOBAL DescribeZmanimInUse() {
   labels->selection = selection;
   labels->fromLibrary = fromLibrary ? 1 : 0;
   labels->amPm = 0;
+  labels->legendLines = 0;
   labels->renewedAt = 0;
   labels->setByHand = CustomZmanimEdition();
   labels->count = count;

@@ -172,17 +172,22 @@ TEST(ZmanimGeometry, TheFarEndOfALongRangeIsReached) {
 }
 
 TEST(ZmanimLayout, LegendHeadingAndTableStandBelowEachOther) {
-  const ZmanimLayout layout = LayOutZmanim(1000, 600, 16, 8, LegendLines(true));
+  const ZmanimLayout layout = LayOutZmanim(1000, 600, 16, 8, LegendLines(true, false));
   EXPECT_EQ(layout.legend, (PaneRect{8, 0, 992, 128}));
   EXPECT_EQ(layout.heading, (PaneRect{0, 128, 1000, 16}));
   EXPECT_EQ(layout.table, (PaneRect{0, 144, 1000, 456}));
 }
 
 TEST(ZmanimLayout, TheLegendOfTheBuiltInZmanimIsSixLines) {
-  const ZmanimLayout layout = LayOutZmanim(1000, 600, 16, 8, LegendLines(false));
+  const ZmanimLayout layout = LayOutZmanim(1000, 600, 16, 8, LegendLines(false, false));
   EXPECT_EQ(layout.legend, (PaneRect{8, 0, 992, 96}));
   EXPECT_EQ(layout.heading, (PaneRect{0, 96, 1000, 16}));
   EXPECT_EQ(layout.table, (PaneRect{0, 112, 1000, 488}));
+}
+
+TEST(ZmanimLayout, TheHebrewLegendIsEightLinesWhateverItNames) {
+  EXPECT_EQ(LegendLines(false, true), 8);
+  EXPECT_EQ(LegendLines(true, true), 8);
 }
 
 TEST(ZmanimLayout, AreasWithoutRoomHaveSizeZero) {

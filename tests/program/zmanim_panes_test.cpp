@@ -72,6 +72,18 @@ TEST_F(ZmanimPanesTest, TheBuiltInLegendIsSixLinesHighInEveryDocumentThatIsSeen)
   EXPECT_EQ(RectInParent(legend_).bottom, 8 * h);
 }
 
+// Hebrew letters are larger: six lines would hold only four of theirs.
+TEST_F(ZmanimPanesTest, TheHebrewLegendOfTheBuiltInZmanimHasTheRoomOfAnyHebrewLegend) {
+  const int h = MeasureFontOnDisplay(nullptr).lineHeight;
+  Libraries().settings["shab30.ini|Settings|EnableZmanim"] = "0";
+  SendMessageA(frame_, WM_COMMAND, IDM_ZMANIM_HEBREW, 0);
+  PaintAll();
+  EXPECT_EQ(RectInParent(legend_).bottom, 8 * h);
+  SendMessageA(frame_, WM_COMMAND, IDM_ZMANIM_ENGLISH, 0);
+  PaintAll();
+  EXPECT_EQ(RectInParent(legend_).bottom, 6 * h);
+}
+
 TEST_F(ZmanimPanesTest, ACreationWithoutAPaneFails) {
   WNDCLASSA pane{};
   ASSERT_TRUE(GetClassInfoA(Program.instance, "ShabbatZmanimThree", &pane));

@@ -19,12 +19,13 @@ struct ZmanimLabels {
   uint64_t selection;    // fingerprint of the user's selection; 0 for the built-in zmanim
   uint32_t fromLibrary;  // 1: the user's selection; 0: the built-in zmanim
   uint32_t amPm;         // 1: the view is laid out for times of 12 hours, whose columns are wider
+  uint32_t legendLines;  // that the view is laid out for
   uint32_t renewedAt;    // the tick at which the document got these labels in place of others; 0: it had none before
   uint32_t setByHand;    // the edition of the times set by hand (custom_zmanim.h) that the document's times heed
   uint32_t count;
   ZmanLabel zmanim[1];
 };
-static_assert(offsetof(ZmanimLabels, zmanim) == 28);
+static_assert(offsetof(ZmanimLabels, zmanim) == 32);
 
 // The size in bytes of a block of count zmanim.
 constexpr std::size_t ZmanimLabelsSize(uint32_t count) {

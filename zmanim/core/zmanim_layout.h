@@ -11,9 +11,9 @@ struct ZmanimLayout {
   PaneRect table;
 };
 
-// The lines that the legend has room for.
-constexpr int LegendLines(bool zmanimFromLibrary) {
-  return zmanimFromLibrary ? 8 : 6;
+// The lines of the view's own font that the legend has room for. The Hebrew one is written in larger letters.
+constexpr int LegendLines(bool zmanimFromLibrary, bool hebrew) {
+  return zmanimFromLibrary || hebrew ? 8 : 6;
 }
 
 // lineHeight and characterWidth are those of the view's own font. Areas that the view has no room for get size 0.
