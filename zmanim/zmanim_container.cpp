@@ -21,7 +21,7 @@ uint32_t FormOfTimes() {
 }
 
 uint32_t LegendLinesNow(bool fromLibrary) {
-  return static_cast<uint32_t>(LegendLines(fromLibrary, ZmanimInHebrew()));
+  return static_cast<uint32_t>(LegendLines(fromLibrary, !fromLibrary && ZmanimInHebrew()));
 }
 
 // By the zmanim that the document has; a document without any, by those in use.

@@ -147,7 +147,8 @@ std::wstring LibraryDefinition(const std::string& description) {
   if (!zman) return {};
   std::wstring text(getDefinition(*zman, nullptr, 0), L'\0');
   if (text.empty() || !getDefinition(*zman, text.data(), static_cast<uint32_t>(text.size()))) return {};
-  return text.c_str();
+  text.resize(text.find(L'\0'));
+  return text;
 }
 
 // A document's zman as it stands in its labels, which may be those of an earlier selection.

@@ -1,6 +1,5 @@
 #include "zmanim/core/builtin_zmanim_texts.h"
 
-#include <algorithm>
 #include <cstddef>
 
 const std::array<BuiltInZmanText, kBuiltInZmanimCount> kBuiltInZmanimTexts = {{
@@ -48,19 +47,17 @@ char Swapped(char c) {
 
 std::string DisplayHebrewName(std::string_view utf8) {
   std::string display;
-  std::size_t numberStart = 0;
+  std::string number;  // from its last digit to its first
   for (std::size_t i = 0; i < utf8.size(); ++i) {
     const bool isLetter = static_cast<unsigned char>(utf8[i]) == kUtf8Hebrew && i + 1 < utf8.size();
-    if (isLetter) {
-      display += static_cast<char>(static_cast<unsigned char>(utf8[++i]) - kUtf8Alef + kAlef);
+    const char c =
+        isLetter ? static_cast<char>(static_cast<unsigned char>(utf8[++i]) - kUtf8Alef + kAlef) : Swapped(utf8[i]);
+    if (IsOfNumber(c)) {
+      number.insert(0, 1, c);
     } else {
-      display += Swapped(utf8[i]);
-    }
-    if (!IsOfNumber(display.back())) {
-      std::reverse(display.begin() + static_cast<std::ptrdiff_t>(numberStart), display.end() - 1);
-      numberStart = display.size();
+      display.append(number) += c;
+      number.clear();
     }
   }
-  std::reverse(display.begin() + static_cast<std::ptrdiff_t>(numberStart), display.end());
-  return display;
+  return display + number;
 }
