@@ -15,6 +15,7 @@
 #include "libraries/ownhours/own_times_file.h"
 #include "libraries/ownhours/ownhours_ids.h"
 #include "libraries/ownhours/time_dialog.h"
+#include "libraries/ownhours/time_list.h"
 #include "libraries/ownhours/time_rows.h"
 #include "libraries/stamp/form_setting.h"
 
@@ -35,17 +36,6 @@ constexpr Anchor kAnchors[] = {
     {IDC_UNDO, Follow::kMove, Follow::kNo},    {IDOK, Follow::kMove, Follow::kMove},
     {IDCANCEL, Follow::kMove, Follow::kMove},
 };
-
-// Place and zman share the width that the others, as wide as their sample, leave.
-struct ColumnLook {
-  const wchar_t* heading;
-  const wchar_t* sample;  // null: shares the rest
-};
-constexpr ColumnLook kColumnLooks[kColumns] = {{L"Place", nullptr},
-                                               {L"Date", L"88.88.8888"},
-                                               {L"Zman", nullptr},
-                                               {L"Set to", L"88:88 p.m."},
-                                               {L"Calculated", L"88:88 p.m."}};
 
 std::wstring CountText(int shown, size_t all) {
   if (all == 0) return L"No times are set by hand";
@@ -72,14 +62,10 @@ class OwnTimesDialog {
   void OnListKey(WORD key);
   void OnGetDisplayInfo(NMLVDISPINFOW& info);
 
-  void AddColumns() const;
-  void FitColumns() const;
   void SortBy(int column);
   void Refill();
   void Show(const std::vector<Occasion>& occasions);
   void ShowRow(int row);
-  void SelectOnly(const std::vector<int>& rows) const;
-  std::vector<int> Selected() const;
   std::vector<Occasion> SelectedOccasions() const;
   void UpdateButtons() const;
 
@@ -91,18 +77,15 @@ class OwnTimesDialog {
   void Cancel();
 
   HWND Control(int id) const { return GetDlgItem(dialog_, id); }
-  HWND List() const { return Control(IDC_TIMES); }
-  LRESULT SendList(UINT message, WPARAM wParam, LPARAM lParam) const {
-    return SendMessageW(List(), message, wParam, lParam);
-  }
 
   Editing editing_;
   TimeRows rows_;
   const stamp::Form form_;
   int sortColumn_ = kPlaceColumn;
   bool descending_ = false;
-  bool isFilling_ = false;
+  bool isFilling_ = false;  // the buttons are seen to afterwards
   HWND dialog_ = nullptr;
+  TimeList list_;
   ResizableDialog size_;
 };
 
@@ -140,21 +123,19 @@ INT_PTR OwnTimesDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 INT_PTR OwnTimesDialog::OnInitDialog() {
-  constexpr DWORD kListStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
-  SendList(LVM_SETEXTENDEDLISTVIEWSTYLE, kListStyle, kListStyle);
-  AddColumns();
+  list_.Start(Control(IDC_TIMES));
   size_.Start(dialog_, kAnchors, kSizeFile);
   OnSize();
   SendDlgItemMessageW(dialog_, IDC_TYPED, EM_LIMITTEXT, kMostTypedLetters, 0);
   Refill();
   ShowRow(0);
-  SetFocus(List());
+  SetFocus(list_.Window());
   return FALSE;
 }
 
 INT_PTR OwnTimesDialog::OnSize() {
   size_.ArrangeControls();
-  FitColumns();
+  list_.FitColumns();
   return TRUE;
 }
 
@@ -200,46 +181,13 @@ void OwnTimesDialog::OnListKey(WORD key) {
   const bool control = GetKeyState(VK_CONTROL) < 0;
   if (key == VK_DELETE) Remove();
   if (key == 'Z' && control) Undo();
-  if (key == 'A' && control) {
-    LVITEMW item = {};
-    item.stateMask = item.state = LVIS_SELECTED;
-    SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
-  }
+  if (key == 'A' && control) list_.SelectAll();
 }
 
 void OwnTimesDialog::OnGetDisplayInfo(NMLVDISPINFOW& info) {
   const LVITEMW& item = info.item;
   if (!(item.mask & LVIF_TEXT) || item.iItem < 0 || item.iItem >= rows_.Count() || item.iSubItem >= kColumns) return;
   lstrcpynW(item.pszText, rows_.Text(item.iItem, item.iSubItem).c_str(), item.cchTextMax);
-}
-
-void OwnTimesDialog::AddColumns() const {
-  for (int i = 0; i < kColumns; ++i) {
-    LVCOLUMNW column = {};
-    column.mask = LVCF_TEXT | LVCF_SUBITEM;
-    column.pszText = const_cast<wchar_t*>(kColumnLooks[i].heading);
-    column.iSubItem = i;
-    SendList(LVM_INSERTCOLUMNW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&column));
-  }
-}
-
-void OwnTimesDialog::FitColumns() const {
-  const auto widthOf = [this](const wchar_t* text) {
-    return static_cast<int>(SendList(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text)));
-  };
-  const int margins = 2 * widthOf(L"mm");
-  RECT list;
-  GetWindowRect(List(), &list);
-  int rest = list.right - list.left - GetSystemMetrics(SM_CXVSCROLL) - 2 * GetSystemMetrics(SM_CXEDGE);
-  const auto widthOfColumn = [&](const ColumnLook& look) {
-    return std::max(widthOf(look.sample), widthOf(look.heading)) + margins;
-  };
-  for (const ColumnLook& look : kColumnLooks) rest -= look.sample ? widthOfColumn(look) : 0;
-  for (int i = 0; i < kColumns; ++i) {
-    const ColumnLook& look = kColumnLooks[i];
-    const int width = look.sample ? widthOfColumn(look) : i == kPlaceColumn ? rest * 2 / 5 : rest - rest * 2 / 5;
-    SendList(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(i), width);
-  }
 }
 
 // A second click on a heading turns the order round.
@@ -256,9 +204,7 @@ void OwnTimesDialog::SortBy(int column) {
 void OwnTimesDialog::Refill() {
   isFilling_ = true;
   rows_.Fill(editing_.Now(), dialogs::TextOf(Control(IDC_TYPED)), sortColumn_, descending_);
-  SelectOnly({});
-  SendList(LVM_SETITEMCOUNT, static_cast<WPARAM>(rows_.Count()), 0);
-  InvalidateRect(List(), nullptr, TRUE);
+  list_.SetCount(rows_.Count());
   SetDlgItemTextW(dialog_, IDC_COUNT, CountText(rows_.Count(), editing_.Now().size()).c_str());
   isFilling_ = false;
   UpdateButtons();
@@ -266,51 +212,30 @@ void OwnTimesDialog::Refill() {
 
 // Selects the rows of those that the list shows, or its first row.
 void OwnTimesDialog::Show(const std::vector<Occasion>& occasions) {
-  std::vector<int> shown;
-  for (const Occasion& occasion : occasions) {
-    if (const int row = rows_.RowOf(occasion); row >= 0) shown.push_back(row);
-  }
+  const std::vector<int> shown = rows_.RowsOf(occasions);
   if (shown.empty()) return ShowRow(0);
-  SelectOnly(shown);
+  isFilling_ = true;
+  list_.SelectOnly(shown);
+  isFilling_ = false;
   UpdateButtons();
 }
 
 // Selects a row, or the last one where there are fewer.
 void OwnTimesDialog::ShowRow(int row) {
-  if (rows_.Count() > 0) SelectOnly({std::min(row, rows_.Count() - 1)});
+  if (rows_.Count() > 0) list_.SelectOnly({std::min(row, rows_.Count() - 1)});
   UpdateButtons();
-}
-
-void OwnTimesDialog::SelectOnly(const std::vector<int>& rows) const {
-  LVITEMW item = {};
-  item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-  SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
-  for (const int row : rows) {
-    item.state = row == rows.front() ? LVIS_SELECTED | LVIS_FOCUSED : LVIS_SELECTED;
-    SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-  }
-  if (!rows.empty()) SendList(LVM_ENSUREVISIBLE, static_cast<WPARAM>(rows.front()), FALSE);
-}
-
-std::vector<int> OwnTimesDialog::Selected() const {
-  std::vector<int> selected;
-  LRESULT row = -1;
-  while ((row = SendList(LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED)) >= 0) {
-    if (row < rows_.Count()) selected.push_back(static_cast<int>(row));
-  }
-  return selected;
 }
 
 std::vector<Occasion> OwnTimesDialog::SelectedOccasions() const {
   std::vector<Occasion> occasions;
-  for (const int row : Selected()) occasions.push_back(rows_.EntryOf(row).occasion);
+  for (const int row : list_.Selected()) occasions.push_back(rows_.EntryOf(row).occasion);
   return occasions;
 }
 
 // With one entry selected, Enter in the list changes it. A button that is disabled must not keep the focus.
 void OwnTimesDialog::UpdateButtons() const {
   if (isFilling_) return;
-  const auto count = SendList(LVM_GETSELECTEDCOUNT, 0, 0);
+  const int count = list_.SelectedCount();
   const struct {
     int control;
     bool isUsable;
@@ -320,7 +245,7 @@ void OwnTimesDialog::UpdateButtons() const {
                  {IDC_UNDO, editing_.CanUndo()}};
   for (const auto& [control, isUsable] : buttons) {
     if (!isUsable && GetFocus() == Control(control)) {
-      SendMessageW(dialog_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(List()), TRUE);
+      SendMessageW(dialog_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(list_.Window()), TRUE);
     }
     EnableWindow(Control(control), isUsable);
   }
@@ -328,7 +253,7 @@ void OwnTimesDialog::UpdateButtons() const {
 }
 
 void OwnTimesDialog::Change() {
-  const std::vector<int> selected = Selected();
+  const std::vector<int> selected = list_.Selected();
   if (selected.size() != 1) return;
   const Entry old = rows_.EntryOf(selected.front());
   const std::optional<Time> time = AskForTime(dialog_, InWords(old.occasion), old.time, form_);
@@ -340,7 +265,7 @@ void OwnTimesDialog::Change() {
 
 // No question: Undo takes it back.
 void OwnTimesDialog::Remove() {
-  const std::vector<int> selected = Selected();
+  const std::vector<int> selected = list_.Selected();
   if (selected.empty()) return;
   editing_.Remove(SelectedOccasions());
   Refill();
@@ -349,7 +274,7 @@ void OwnTimesDialog::Remove() {
 
 // Entries that the search does not show go too, so this asks.
 void OwnTimesDialog::RemovePlace() {
-  const std::vector<int> selected = Selected();
+  const std::vector<int> selected = list_.Selected();
   if (selected.size() != 1) return;
   const std::string place = rows_.EntryOf(selected.front()).occasion.place;
   const std::vector<Occasion> all = editing_.OfPlace(place);
@@ -365,8 +290,7 @@ void OwnTimesDialog::Undo() {
   if (!editing_.CanUndo()) return;
   const std::vector<Occasion> changed = editing_.Undo();
   Refill();
-  const bool isHidden = std::ranges::none_of(changed, [this](const Occasion& each) { return rows_.RowOf(each) >= 0; });
-  if (isHidden) SetDlgItemTextW(dialog_, IDC_TYPED, L"");  // fills the list anew
+  if (rows_.RowsOf(changed).empty()) SetDlgItemTextW(dialog_, IDC_TYPED, L"");  // fills the list anew
   Show(changed);
 }
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
+#include <set>
 #include <utility>
 
 #include "libraries/dialogs/windows_1252.h"
@@ -39,6 +39,7 @@ std::vector<std::wstring> WordsIn(const std::wstring& typed) {
 
 // Negative, 0 or positive as a person would look texts up, whatever their letters' case.
 int Order(const std::wstring& left, const std::wstring& right) {
+  if (left == right) return 0;
   return CompareStringW(LOCALE_INVARIANT, NORM_IGNORECASE, left.c_str(), -1, right.c_str(), -1) - CSTR_EQUAL;
 }
 
@@ -75,9 +76,13 @@ void TimeRows::Fill(const Entries& entries, const std::wstring& typed, int colum
   });
 }
 
-int TimeRows::RowOf(const Occasion& occasion) const {
-  const auto found = std::ranges::find(rows_, occasion, [](const Row& row) { return row.entry.occasion; });
-  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+std::vector<int> TimeRows::RowsOf(const std::vector<Occasion>& occasions) const {
+  const std::set<Occasion> wanted(occasions.begin(), occasions.end());
+  std::vector<int> found;
+  for (int row = 0; row < Count(); ++row) {
+    if (wanted.contains(EntryOf(row).occasion)) found.push_back(row);
+  }
+  return found;
 }
 
 const std::wstring& TimeRows::Text(int row, int column) {

@@ -24,8 +24,8 @@ class TimeRows {
 
   int Count() const { return static_cast<int>(rows_.size()); }
   const Entry& EntryOf(int row) const { return rows_[static_cast<size_t>(row)].entry; }
-  // -1 when it has none.
-  int RowOf(const Occasion& occasion) const;
+  // From the top, the rows of those that have one.
+  std::vector<int> RowsOf(const std::vector<Occasion>& occasions) const;
 
   // The calculated time is asked for when it is first shown; empty when there is none.
   const std::wstring& Text(int row, int column);
