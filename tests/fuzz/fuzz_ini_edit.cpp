@@ -28,11 +28,19 @@ std::string Folded(std::string name) {
 
 std::vector<std::string> Names(const std::string& list) {
   std::vector<std::string> names;
-  for (const char* name = list.c_str(); *name; name += std::strlen(name) + 1) names.push_back(Folded(name));
+  for (const char* name = list.c_str(); *name; name += std::strlen(name) + 1) names.push_back(name);
   return names;
 }
 
-// All that can be asked of a text.
+// The name spelled as it is asked for, else the first that differs from it in letter case alone, else the name itself.
+std::string Meant(const std::vector<std::string>& names, const std::string& asked) {
+  if (std::find(names.begin(), names.end(), asked) != names.end()) return asked;
+  const auto isLike = [&asked](const std::string& name) { return Folded(name) == Folded(asked); };
+  const auto like = std::find_if(names.begin(), names.end(), isLike);
+  return like != names.end() ? *like : asked;
+}
+
+// All that can be asked of a text, by names as they are spelled there.
 struct Contents {
   std::vector<std::string> sections;
   std::map<std::string, std::vector<std::string>> keys;  // by section
@@ -64,14 +72,14 @@ bool MayBeWritten(const std::string& section, const std::string& key, const std:
 std::string CheckWrite(const std::string& text, const std::string& section, const std::string& key,
                        const std::string& value) {
   const std::string wanted = Trimmed(value);
-  const std::string sectionName = Folded(Trimmed(section));
-  const std::string keyName = Folded(Trimmed(key));
   const auto written = IniDocument(text).WithValue(section, key, value);
   FUZZ_CHECK(written.has_value() == MayBeWritten(Trimmed(section), Trimmed(key), wanted));
   if (!written) return text;
 
   Contents expected = ContentsOf(text);
-  const bool hadSection = expected.keys.contains(sectionName);
+  const std::string sectionName = Meant(expected.sections, Trimmed(section));
+  const std::string keyName = Meant(expected.keys[sectionName], Trimmed(key));
+  const bool hadSection = std::ranges::find(expected.sections, sectionName) != expected.sections.end();
   const bool hadKey = expected.values.contains(sectionName + "\n" + keyName);
   if (!hadSection) expected.sections.push_back(sectionName);
   if (!hadKey) expected.keys[sectionName].push_back(keyName);
@@ -88,10 +96,11 @@ std::string CheckWrite(const std::string& text, const std::string& section, cons
 // The first key of the name is gone, which may bring one that repeated its name to light.
 std::string CheckKeyDropped(const std::string& text, const std::string& section, const std::string& key) {
   const std::string dropped = IniDocument(text).WithoutKey(section, key);
-  const std::string sectionName = Folded(Trimmed(section));
-  const std::string keyName = Folded(Trimmed(key));
   Contents expected = ContentsOf(text);
   Contents found = ContentsOf(dropped);
+  const std::string sectionName = Meant(expected.sections, Trimmed(section));
+  const auto keysThere = expected.keys.find(sectionName);
+  const std::string keyName = keysThere == expected.keys.end() ? "" : Meant(keysThere->second, Trimmed(key));
   if (!expected.values.erase(sectionName + "\n" + keyName)) {
     FUZZ_CHECK(dropped == text);
     return dropped;
@@ -105,9 +114,9 @@ std::string CheckKeyDropped(const std::string& text, const std::string& section,
 
 std::string CheckSectionDropped(const std::string& text, const std::string& section) {
   const std::string dropped = IniDocument(text).WithoutSection(section);
-  const std::string sectionName = Folded(Trimmed(section));
   Contents expected = ContentsOf(text);
   Contents found = ContentsOf(dropped);
+  const std::string sectionName = Meant(expected.sections, Trimmed(section));
   const auto first = std::find(expected.sections.begin(), expected.sections.end(), sectionName);
   if (first == expected.sections.end()) {
     FUZZ_CHECK(dropped == text);
