@@ -1,11 +1,7 @@
 // The location editor on a scripted store.
-#include "tests/doubles/bound_doubles.h"
 #include "tests/program/locations_fixture.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
-#include <fstream>
 #include <set>
 
 using testing::Contains;
@@ -165,91 +161,6 @@ TEST_F(LocationEditorTest, ABuiltInPlaceIsEditedFromItsNumbers) {
     Click(manager, IDCANCEL);
   });
   EXPECT_EQ(Stored("shabbat2.ini|Locations|Haifa"), "Available");
-}
-
-// 5:30 ahead, as Mumbai's. The edits are those of the common controls that the program's manifest names; others know no
-// cue banner.
-class LocationEditorHalfHourTest : public LocationEditorTest {
- protected:
-  void SetUp() override {
-    LocationEditorTest::SetUp();
-    char folder[MAX_PATH];
-    GetTempPathA(sizeof folder, folder);
-    const std::string manifest = std::string(folder) + "location_editor_test.manifest";
-    std::ofstream(manifest) << "<assembly xmlns='urn:schemas-microsoft-com:asm.v1' manifestVersion='1.0'><dependency>"
-                               "<dependentAssembly><assemblyIdentity type='win32' "
-                               "name='Microsoft.Windows.Common-Controls' version='6.0.0.0' processorArchitecture='*' "
-                               "publicKeyToken='6595b64144ccf1df' language='*'/></dependentAssembly></dependency>"
-                               "</assembly>";
-    ACTCTXA request = {};
-    request.cbSize = sizeof request;
-    request.lpSource = manifest.c_str();
-    context_ = CreateActCtxA(&request);
-    ASSERT_NE(context_, INVALID_HANDLE_VALUE);
-    ASSERT_TRUE(ActivateActCtx(context_, &cookie_));
-  }
-  void TearDown() override {
-    DeactivateActCtx(0, cookie_);
-    ReleaseActCtx(context_);
-    LocationEditorTest::TearDown();
-  }
-
-  void ChangeMumbai(const std::function<void(HWND)>& drive) {
-    Bound().places.push_back({"Mumbai", 1904, 7253, 5, 30});
-    Manage([&](HWND manager) {
-      Select(manager, 3);
-      Edit(manager, 104, [&](HWND editor) {
-        drive(editor);
-        Click(editor, IDOK);
-      });
-      Click(manager, IDCANCEL);
-    });
-  }
-
- private:
-  HANDLE context_ = INVALID_HANDLE_VALUE;
-  ULONG_PTR cookie_ = 0;
-};
-
-TEST_F(LocationEditorHalfHourTest, EmptyMinutesOfABuiltInPlacesZoneTellWhatTheyAreAndKeepIt) {
-  ChangeMumbai([](HWND editor) {
-    EXPECT_EQ(FieldText(editor, 200), "");
-    wchar_t cue[16] = L"";
-    SendDlgItemMessageW(editor, 200, EM_GETCUEBANNER, reinterpret_cast<WPARAM>(cue), std::size(cue));
-    EXPECT_STREQ(cue, L"30");
-  });
-  EXPECT_EQ(Stored("shabloc2.ini|Mumbai|TimeZone"), "5");
-  EXPECT_EQ(Stored("shabloc2.ini|Mumbai|TimeZoneMin"), "30");
-}
-
-TEST_F(LocationEditorHalfHourTest, TypedMinutesOfABuiltInPlacesZoneAreTheUsers) {
-  ChangeMumbai([](HWND editor) { SetField(editor, 200, "0"); });
-  EXPECT_EQ(Stored("shabloc2.ini|Mumbai|TimeZoneMin"), "0");
-}
-
-TEST_F(LocationEditorTest, EmptyMinutesOfANewPlacesZoneAreNone) {
-  Manage([](HWND manager) {
-    Edit(manager, 102, [](HWND editor) {
-      Fill(editor, {.zoneMinutes = ""});
-      Click(editor, IDOK);
-    });
-    Click(manager, IDCANCEL);
-  });
-  EXPECT_EQ(Stored("shabloc2.ini|Home|TimeZoneMin"), "0");
-}
-
-TEST_F(LocationEditorTest, MinutesOfTheZoneThatAreNoNumberAreRefusedWithAReason) {
-  Manage([](HWND manager) {
-    Edit(manager, 102, [](HWND editor) {
-      Fill(editor, {.zoneMinutes = "3o"});
-      Click(editor, IDOK);
-      EXPECT_EQ(CallsWith("message box").size(), 1u);
-      EXPECT_EQ(GetFocus(), GetDlgItem(editor, 200));
-      EXPECT_THAT(CallsWith("write"), IsEmpty());
-      Click(editor, IDCANCEL);
-    });
-    Click(manager, IDCANCEL);
-  });
 }
 
 TEST_F(LocationEditorTest, NewNamesHoldNothingThatIsACommandInRtfFiles) {

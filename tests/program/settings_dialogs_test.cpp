@@ -10,17 +10,13 @@
 #include "engine/properties.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
+#include "tests/program/last_day_of_month.h"
 #include "tests/program/program_fixture.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-uint32_t LastDayOfMonth(uint32_t month, uint32_t year) {
-  constexpr uint32_t kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  return month == 2 && year % 4 == 0 && (year % 100 != 0 || year % 400 == 0) ? 29 : kDays[(month - 1) % 12];
-}
 
 class SettingsDialogsTest : public ProgramTest {
  protected:

@@ -6,6 +6,7 @@
 #include "engine/current.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
+#include "tests/program/last_day_of_month.h"
 #include "tests/program/program_fixture.h"
 
 using testing::ElementsAre;
@@ -20,12 +21,6 @@ constexpr int kMonthSpin = 104;
 constexpr int kYear = 105;
 constexpr int kYearSpin = 106;
 constexpr int kTime = 107;
-
-uint32_t LastDayOfMonth(uint32_t month, uint32_t year) {
-  constexpr uint32_t kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  EXPECT_TRUE(month >= 1 && month <= 12) << "the calendar is asked for month " << month;
-  return month == 2 && year % 4 == 0 && (year % 100 != 0 || year % 400 == 0) ? 29 : kDays[(month - 1) % 12];
-}
 
 class SunsetDialogTest : public ProgramTest {
  protected:
