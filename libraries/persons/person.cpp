@@ -1,0 +1,1 @@
+#include "libraries/persons/person.h"
