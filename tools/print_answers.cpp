@@ -5,6 +5,9 @@
 //   print_answers personal              each day of the Jewish years 5682 to 5719: "birthday" or "yahrzeit",
 //   day.month.year
 //                                       of the event, the Jewish year, year-month-day when it is kept, for 38 years
+//   print_answers zones                 for each line "zone latitude longitude" (packed) of the input, with the zone's
+//                                       standard offset: the zone found, "-" for none, and whether both clocks agree
+//                                       on every noon of 2000 to 2030
 //   print_answers clocks                for each line "zone seconds" of the input the offset from UTC, "-" for none
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +21,7 @@
 #include "libraries/lections/reading_texts.h"
 #include "libraries/persons/personal_date.h"
 #include "libraries/sun/clock_rules.h"
+#include "libraries/sun/zone_of_place.h"
 
 namespace {
 
@@ -89,6 +93,29 @@ void PrintPersonal() {
   }
 }
 
+bool AgreeFrom2000To2030(const std::string& one, const std::string& other) {
+  constexpr int64_t kSecondsPerDay = 86400;
+  const int32_t first = calendar::AbsoluteFromGregorian({1, 1, 2000});
+  const int32_t last = calendar::AbsoluteFromGregorian({31, 12, 2030});
+  for (int32_t day = first; day <= last; ++day) {
+    const int64_t noon = (day - calendar::kAbsoluteDayOfUnixDay0) * kSecondsPerDay + kSecondsPerDay / 2;
+    if (sun::UtcOffsetSeconds(one, noon) != sun::UtcOffsetSeconds(other, noon)) return false;
+  }
+  return true;
+}
+
+void PrintZones() {
+  std::string zone;
+  int32_t latitude = 0;
+  int32_t longitude = 0;
+  while (std::cin >> zone >> latitude >> longitude) {
+    const int32_t minutes = sun::StandingOffsetSeconds(zone).value_or(0) / 60;
+    const char* const found = sun::FindZone(latitude, longitude, minutes / 60, minutes % 60).zoneId;
+    const bool agree = found && AgreeFrom2000To2030(zone, found);
+    std::cout << (found ? found : "-") << (agree ? " agrees\n" : " differs\n");
+  }
+}
+
 void PrintClocks() {
   std::string zone;
   for (int64_t moment = 0; std::cin >> zone >> moment;) {
@@ -107,10 +134,12 @@ int main(int argc, char** argv) {
     PrintCalendar();
   } else if (what == "personal") {
     PrintPersonal();
+  } else if (what == "zones") {
+    PrintZones();
   } else if (what == "clocks") {
     PrintClocks();
   } else {
-    std::cerr << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | clocks\n";
+    std::cerr << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | zones | clocks\n";
     return 1;
   }
   return 0;

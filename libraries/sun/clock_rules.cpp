@@ -2,13 +2,8 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
-#include <numbers>
-#include <vector>
 
 #include "libraries/sun/clock_rules_table.h"
-#include "libraries/sun/places.h"
-#include "libraries/sun/zone_offset.h"
 
 namespace sun {
 namespace {
@@ -26,6 +21,10 @@ constexpr int64_t kGregorianCycleSeconds = 146097 * kSecondsPerDay;
 const Zone* FindZone(std::string_view zoneId) {
   const auto found = std::ranges::lower_bound(clock_rules_table::zones, zoneId, {}, &Zone::id);
   return found != clock_rules_table::zones.end() && found->id == zoneId ? &*found : nullptr;
+}
+
+const StandingRule& RuleOf(const Zone& zone) {
+  return clock_rules_table::standingRules[clock_rules_table::histories[zone.history].standingRule];
 }
 
 // The clock's reading at which a change of a standing rule comes, as seconds since 1970-01-01 0:00 of that clock.
@@ -49,29 +48,6 @@ int32_t OffsetByStandingRule(const StandingRule& rule, int64_t unixSeconds) {
   return summer ? rule.summerOffsetSeconds : rule.standardOffsetSeconds;
 }
 
-struct UnitVector {
-  double x, y, z;
-};
-
-UnitVector DirectionOf(int32_t packedLatitude, int32_t packedLongitude) {
-  const auto radians = [](int32_t packed) { return (packed / 100 + packed % 100 / 60.0) * (std::numbers::pi / 180); };
-  const double latitude = radians(packedLatitude);
-  const double longitude = radians(packedLongitude);
-  return {std::cos(latitude) * std::cos(longitude), std::cos(latitude) * std::sin(longitude), std::sin(latitude)};
-}
-
-// The directions of the built-in places, in their order: computed once, since every sunset asked for compares them.
-const std::vector<UnitVector>& PlaceDirections() {
-  static const std::vector<UnitVector> directions = [] {
-    std::vector<UnitVector> made;
-    for (const BuiltInPlace& place : BuiltInPlaces()) {
-      made.push_back(DirectionOf(place.packedLatitude, place.packedLongitude));
-    }
-    return made;
-  }();
-  return directions;
-}
-
 }  // namespace
 
 bool IsKnownZone(std::string_view zoneId) {
@@ -92,22 +68,24 @@ std::optional<int32_t> UtcOffsetSeconds(std::string_view zoneId, int64_t unixSec
   return clock_rules_table::offsetsSeconds[clock_rules_table::offsetsAfter[lastChange]];
 }
 
-const char* NearestZone(int32_t packedLatitude, int32_t packedLongitude, int32_t zoneHours, int32_t zoneMinutes) {
-  const int64_t offsetMinutes = StandardOffsetMinutes(zoneHours, zoneMinutes);
-  const UnitVector here = DirectionOf(packedLatitude, packedLongitude);
-  const std::span<const BuiltInPlace> places = BuiltInPlaces();
-  const std::vector<UnitVector>& directions = PlaceDirections();
-  const char* nearest = nullptr;
-  double greatestCosine = -2;  // of the angle between the two places; below every cosine
-  for (size_t i = 0; i < places.size(); ++i) {
-    if (StandardOffsetMinutes(places[i].zoneHours, places[i].zoneMinutes) != offsetMinutes) continue;
-    const double cosine = here.x * directions[i].x + here.y * directions[i].y + here.z * directions[i].z;
-    if (cosine > greatestCosine) {
-      greatestCosine = cosine;
-      nearest = places[i].zoneId;
-    }
-  }
-  return nearest;
+std::optional<int32_t> StandingOffsetSeconds(std::string_view zoneId) {
+  const Zone* zone = FindZone(zoneId);
+  if (zone == nullptr) return std::nullopt;
+  const StandingRule& rule = RuleOf(*zone);
+  return std::min(rule.standardOffsetSeconds, rule.summerOffsetSeconds);
+}
+
+bool HasShown(std::string_view zoneId, int64_t offsetSeconds) {
+  const Zone* zone = FindZone(zoneId);
+  if (zone == nullptr) return false;
+  const StandingRule& rule = RuleOf(*zone);
+  if (rule.standardOffsetSeconds == offsetSeconds || rule.summerOffsetSeconds == offsetSeconds) return true;
+  const History& history = clock_rules_table::histories[zone->history];
+  const auto isSame = [offsetSeconds](uint8_t index) {
+    return clock_rules_table::offsetsSeconds[index] == offsetSeconds;
+  };
+  return isSame(history.offsetAt1970) ||
+         std::ranges::any_of(clock_rules_table::offsetsAfter.subspan(history.firstChange, history.changeCount), isSame);
 }
 
 }  // namespace sun

@@ -15,9 +15,11 @@ bool IsKnownZone(std::string_view zoneId);
 // unknown zone or a moment before 1970. Takes about 0.1 microseconds.
 std::optional<int32_t> UtcOffsetSeconds(std::string_view zoneId, int64_t unixSeconds);
 
-// The zone of the built-in place that is nearest by great circle among those whose standard offset is the given one
-// (zone_offset.h); null when there is none. Coordinates are packed as in BuiltInPlace; any numbers are
-// survived.
-const char* NearestZone(int32_t packedLatitude, int32_t packedLongitude, int32_t zoneHours, int32_t zoneMinutes);
+// The offset of the zone's standard time by its standing rule: the lower one where it has summer time (or, like Dublin
+// and Casablanca, a winter time of its own). Nothing for an unknown zone.
+std::optional<int32_t> StandingOffsetSeconds(std::string_view zoneId);
+
+// Whether the zone's clock has shown the offset at some moment since 1970.
+bool HasShown(std::string_view zoneId, int64_t offsetSeconds);
 
 }  // namespace sun

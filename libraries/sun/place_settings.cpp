@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "libraries/sun/clock_rules.h"
+#include "libraries/sun/zone_of_place.h"
 
 namespace sun {
 namespace {
@@ -69,8 +70,8 @@ PlaceSettings SettingsOf(const PackedPlace& place, const PlaceTexts& texts) {
   if (IsOff(texts) || EqualsIgnoringCase(texts.zone.data(), "none")) return settings;
   if (IsKnownZone(texts.zone.data())) {
     clock.zoneId = texts.zone;
-  } else if (const char* nearest = NearestZone(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes)) {
-    std::snprintf(clock.zoneId.data(), clock.zoneId.size(), "%s", nearest);
+  } else if (const char* zone = FindZone(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes).zoneId) {
+    std::snprintf(clock.zoneId.data(), clock.zoneId.size(), "%s", zone);
   }
   return settings;
 }

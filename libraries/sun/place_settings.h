@@ -66,7 +66,7 @@ PlaceKey OtherKeyOf(const PackedPlace& place);
 //
 // An elevation below the sea counts as none. One place has an elevation where the settings name none: 48 degrees 54'
 // north, 8 degrees 42' east, zone 1, 263 metres. The zone is the one that the settings name; where they name none or
-// one that the tz database does not know, that of the nearest built-in place with the same standard offset.
+// one that the tz database does not know, that of the place's coordinates and offset (zone_of_place.h).
 PlaceSettings ReadPlaceSettings(const SettingsReader& reader, const PackedPlace& place);
 
 // The same for programs that ask for one place many times: the settings are read each time, but what follows from them
