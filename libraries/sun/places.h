@@ -11,7 +11,7 @@ namespace sun {
 // hours east of UTC with their sign, and minutes without one (St. John's -3 and 30; zone_offset.h). zoneId is the
 // zone's name in the tz database.
 struct BuiltInPlace {
-  const char* name;  // windows-1252, plain ASCII as it happens
+  const char* name;  // ASCII, unique whatever the letters' case
   int32_t packedLatitude;
   int32_t packedLongitude;
   int32_t zoneHours;
@@ -19,8 +19,8 @@ struct BuiltInPlace {
   const char* zoneId;
 };
 
-// In alphabetical order of the names, letters' case aside. Never empty; the first serves where a place is unknown. All
-// lie between 65 degrees south and north.
+// Never empty; the first serves where a place is unknown, the others stand in alphabetical order of their names,
+// letters' case aside. All lie between 65 degrees south and north.
 std::span<const BuiltInPlace> BuiltInPlaces();
 
 // Whether names of places differ in ASCII letter case alone. Such names are two places; but a name that no place has

@@ -91,31 +91,4 @@ TEST(ClockRules, TheRemotestMomentStillFollowsTheStandingRule) {
   EXPECT_EQ(UtcOffsetSeconds("Australia/Sydney", std::numeric_limits<int64_t>::max()), 39600);
 }
 
-TEST(NearestZone, IsTheZoneOfTheNearestPlaceOfThatOffset) {
-  EXPECT_STREQ(sun::NearestZone(3147, 3513, 2, 0), "Asia/Jerusalem");
-  EXPECT_STREQ(sun::NearestZone(3213, -11056, -7, 0), "America/Phoenix");  // Tucson
-  EXPECT_STREQ(sun::NearestZone(3804, 1231, 1, 0), "Europe/Rome");         // Trapani, though Africa is nearer than Rome
-  EXPECT_STREQ(sun::NearestZone(-2800, 15326, 10, 0), "Australia/Brisbane");  // the Gold Coast has no summer time
-  EXPECT_STREQ(sun::NearestZone(-3352, 15112, 10, 0), "Australia/Sydney");
-  EXPECT_STREQ(sun::NearestZone(4734, -5243, -3, -30), "America/St_Johns");
-}
-
-// Taveuni lies on the 180th meridian; Suva, at 178 degrees east, is near, the next place of this offset 2000 km away.
-TEST(NearestZone, LooksAcrossTheDateLine) {
-  EXPECT_STREQ(sun::NearestZone(-1650, -17945, 12, 0), "Pacific/Fiji");
-}
-
-TEST(NearestZone, AnOffsetThatNoPlaceHasGivesNone) {
-  EXPECT_EQ(sun::NearestZone(5046, 605, 0, 20), nullptr);
-  EXPECT_EQ(sun::NearestZone(5046, 605, 25, 0), nullptr);
-}
-
-TEST(NearestZone, SurvivesAnyNumbers) {
-  constexpr int32_t kLeast = std::numeric_limits<int32_t>::min();
-  constexpr int32_t kMost = std::numeric_limits<int32_t>::max();
-  EXPECT_EQ(sun::NearestZone(kLeast, kLeast, kLeast, kLeast), nullptr);
-  EXPECT_EQ(sun::NearestZone(kMost, kMost, kMost, kMost), nullptr);
-  EXPECT_NE(sun::NearestZone(kLeast, kMost, 2, 0), nullptr);
-}
-
 }  // namespace

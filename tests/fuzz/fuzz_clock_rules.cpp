@@ -5,6 +5,8 @@
 
 #include "libraries/sun/clock_rules.h"
 #include "libraries/sun/clock_rules_table.h"
+#include "libraries/sun/zone_of_place.h"
+#include "libraries/sun/zone_offset.h"
 #include "tests/fuzz/check.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
@@ -25,7 +27,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   FUZZ_CHECK(offset.has_value() == (moment >= 0));
   FUZZ_CHECK(!offset || (*offset > -kMostOffsetSeconds && *offset < kMostOffsetSeconds));
   FUZZ_CHECK(sun::UtcOffsetSeconds(text, moment).has_value() == (sun::IsKnownZone(text) && moment >= 0));
-  const char* const nearest = sun::NearestZone(latitude, longitude, zoneHours, zoneMinutes);
-  FUZZ_CHECK(!nearest || sun::IsKnownZone(nearest));
+  const char* const found = sun::FindZone(latitude, longitude, zoneHours, zoneMinutes).zoneId;
+  FUZZ_CHECK(!found || sun::IsKnownZone(found));
+  const int64_t offsetSeconds = sun::StandardOffsetMinutes(zoneHours, zoneMinutes) * 60;
+  FUZZ_CHECK(!found || sun::HasShown(found, offsetSeconds));
   return 0;
 }
