@@ -95,13 +95,13 @@ function add(place) {
 }
 
 for (const line of linesOf(inRoot("tools", "first_places.txt"))) {
-  const [name, latitude, longitude, offset, zone] = line.split("|");
+  const [name, latitude, longitude, offset, zone, country] = line.split("|");
   const here = { latitude: degreesOf(+latitude), longitude: degreesOf(+longitude) };
   const bare = name.replace(/ \(.*\)$/, "");
   const city = cityNamed(bare, (c) => kilometres(c, here) < 25) ??
     cities.filter((c) => kilometres(c, here) < 6).sort((a, b) => b.people - a.people)[0];
-  if (!city) console.error(`${name}: not in the gazetteer`);
-  add({ name, latitude: +latitude, longitude: +longitude, offset: +offset, zone, city });
+  if (!city && !country) throw new Error(`${name}: not in the gazetteer`);
+  add({ name, latitude: +latitude, longitude: +longitude, offset: +offset, zone, city, country });
 }
 
 function zoneOf(city) {
@@ -183,7 +183,7 @@ const std::span<const BuiltInPlace> places = kPlaces;
 }  // namespace sun::places_table
 // clang-format on
 `);
-const countryOf = (p) => (p.city ? (p.city.code === "STLMT" ? "West Bank" : countryName(p.city.country)) : "");
+const countryOf = ({ city, country }) => (city?.code === "STLMT" ? "West Bank" : countryName(country ?? city.country));
 fs.writeFileSync(inRoot("libraries", "placepick", "place_names_table.cpp"), `${head}
 #include "libraries/placepick/place_names_table.h"
 
@@ -192,7 +192,7 @@ namespace placepick::place_names_table {
 namespace {
 
 constexpr OtherNames kNames[] = {
-${table.map((p) => `    {${quoted(countryOf(p))}, ${quoted(otherNames(p).join("|"))}},`).join("\n")}
+${table.map((p) => `    {u${quoted(countryOf(p))}, u${quoted(otherNames(p).join("|"))}},`).join("\n")}
 };
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <limits>
 #include <unordered_set>
 
+#include "libraries/placepick/place_names_table.h"
 #include "libraries/sun/places.h"
 #include "libraries/sun/zone_offset.h"
 
@@ -81,10 +82,12 @@ std::vector<Place> KnownPlaces(const sun::SettingsReader& reader) {
     if (name.size() >= kNameSize || ReadText(reader, kListSection, name.c_str(), kListFile).empty()) continue;
     if (names.insert(name).second) places.push_back(ReadUsersPlace(reader, name));
   }
-  for (const sun::BuiltInPlace& place : sun::BuiltInPlaces()) {
+  for (std::size_t i = 0; i < sun::BuiltInPlaces().size(); ++i) {
+    const sun::BuiltInPlace& place = sun::BuiltInPlaces()[i];
     if (names.contains(place.name)) continue;
-    places.push_back(
-        {place.name, place.packedLatitude, place.packedLongitude, place.zoneHours, place.zoneMinutes, false});
+    const place_names_table::OtherNames& others = place_names_table::names[i];
+    places.push_back({place.name, place.packedLatitude, place.packedLongitude, place.zoneHours, place.zoneMinutes,
+                      false, others.country, others.names});
   }
   return places;
 }

@@ -1,11 +1,12 @@
 // The places to choose from, and their numbers as texts.
 //
-// Names and texts are 8-bit in windows-1252, whatever the code page of the system.
+// Names and texts are 8-bit in windows-1252, whatever the code page of the system, but where it says otherwise.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "libraries/sun/place_settings.h"
@@ -28,6 +29,9 @@ struct Place {
   int32_t zoneHours;
   int32_t zoneMinutes;
   bool isUsersOwn;
+  // Of built-in places, in UTF-16; texts that live as long as the library.
+  std::u16string_view country = {};
+  std::u16string_view otherNames = {};  // joined by "|"
 };
 
 // The user's places in the order of their list, then the built-in ones; each name once, as spelled: a place of

@@ -1,13 +1,14 @@
-// What the built-in places are called beside their names, and where they are: a generated table.
+// Where the built-in places are, and what they are called beside their names: a generated table.
 #pragma once
 
 #include <span>
+#include <string_view>
 
 namespace placepick::place_names_table {
 
 struct OtherNames {
-  const char* country;  // ASCII
-  const char* names;    // UTF-8, joined by "|": Hebrew, former and other spellings; may be empty
+  std::u16string_view country;
+  std::u16string_view names;  // joined by "|": Hebrew, former and other spellings; may be empty
 };
 
 // In the order of sun::BuiltInPlaces().

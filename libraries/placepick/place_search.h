@@ -1,4 +1,4 @@
-// Finding places by what the user types: the beginnings of words, letters' case and accents aside.
+// Finding places by what the user types: any part of a name, of another name or of the country.
 #pragma once
 
 #include <cstddef>
@@ -8,18 +8,10 @@
 #include <string_view>
 #include <vector>
 
+#include "libraries/placepick/folding.h"
 #include "libraries/placepick/place_list.h"
 
 namespace placepick {
-
-// A text as it is searched: small letters without accents ("\u00DF" as "ss", "\u0152" as "oe") and digits, words apart
-// by one space. Apostrophes are left out, but a new word begins behind one too: "Ra'anana" is found as "raan" and as
-// "anana". Letters outside windows-1252 stay as they are.
-struct FoldedText {
-  std::u16string text;
-  std::vector<std::size_t> wordStarts;  // ascending positions in text
-};
-FoldedText Fold(std::u16string_view text);
 
 // Places in alphabetical order, letters' case and accents aside, with an index for searching. A place's number is its
 // position in this order.
@@ -34,8 +26,16 @@ class PlaceIndex {
   // or one whose name differs in letters' case and accents only.
   std::optional<std::size_t> Named(std::string_view name) const;
 
-  // The numbers of the places of which each typed word begins some word; all when no word is typed.
-  std::vector<std::size_t> Matching(std::u16string_view typed) const;
+  // The numbers of the places in whose names and country each typed word stands somewhere; all when no word is typed.
+  // Those used last come first, in their order, then the user's own, then the others; the last two by how well they
+  // fit: a name that begins with what is typed, another name that does, words that begin with the typed ones, the rest.
+  std::vector<std::size_t> Matching(std::u16string_view typed, std::span<const std::size_t> lastUsed) const;
+
+  // Where among the numbers the place stands that fits best, the first of several; none when there are none.
+  std::optional<std::size_t> Best(std::u16string_view typed, std::span<const std::size_t> numbers) const;
+
+  // The other name of a place that what is typed means, as far as the name itself does not have it; empty for none.
+  std::u16string_view MeantName(std::size_t number, std::u16string_view typed) const;
 
   // Which of the numbers is the first whose place's name as a whole begins with what is typed: its position in numbers.
   std::optional<std::size_t> FirstBeginningWith(std::u16string_view typed, std::span<const std::size_t> numbers) const;
@@ -43,8 +43,12 @@ class PlaceIndex {
  private:
   struct Entry {
     Place place;
-    FoldedText folded;
+    std::u16string name;  // folded
+    std::u16string all;   // the folded name, other names and country, a line end before each
   };
+
+  enum class Fit { kNameBegins, kOtherBegins, kWordsBegin, kSomewhere, kNowhere };
+  static Fit FitOf(const Entry& entry, std::u16string_view typed, std::span<const std::u16string_view> words);
 
   std::vector<Entry> entries_;
 };

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "libraries/placepick/place_list.h"
+#include "libraries/placepick/place_names_table.h"
 #include "libraries/sun/places.h"
 
 namespace {
@@ -33,7 +34,7 @@ PlaceIndex IndexOf(const std::vector<std::string>& names) {
 
 std::vector<std::string> Found(const PlaceIndex& index, std::u16string_view typed) {
   std::vector<std::string> names;
-  for (const std::size_t number : index.Matching(typed)) names.push_back(index[number].name);
+  for (const std::size_t number : index.Matching(typed, {})) names.push_back(index[number].name);
   return names;
 }
 
@@ -79,18 +80,18 @@ TEST(PlaceSearch, NothingTypedFindsAllInAlphabeticalOrderWithoutCaseAndAccents) 
   EXPECT_EQ(Found(index, u" . "), inOrder);
 }
 
-TEST(PlaceSearch, FindsTheBeginningOfAnyWord) {
+TEST(PlaceSearch, FindsAnyPartAndWhatBeginsSoFirst) {
   const PlaceIndex index = IndexOf({"New York", "York", "Yokohama", "Newark", "St. John's", "Be'er Sheva"});
-  EXPECT_THAT(Found(index, u"yo"), ElementsAre("New York", "Yokohama", "York"));
-  EXPECT_THAT(Found(index, u"york"), ElementsAre("New York", "York"));
-  EXPECT_THAT(Found(index, u"ork"), IsEmpty());
+  EXPECT_THAT(Found(index, u"yo"), ElementsAre("Yokohama", "York", "New York"));
+  EXPECT_THAT(Found(index, u"york"), ElementsAre("York", "New York"));
+  EXPECT_THAT(Found(index, u"ork"), ElementsAre("New York", "York"));
   EXPECT_THAT(Found(index, u"newy"), IsEmpty());
   EXPECT_THAT(Found(index, u"johns"), ElementsAre("St. John's"));
   EXPECT_THAT(Found(index, u"st.john's"), ElementsAre("St. John's"));
   EXPECT_THAT(Found(index, u"er"), ElementsAre("Be'er Sheva"));
 }
 
-TEST(PlaceSearch, EachTypedWordMustBeginSomeWordInAnyOrder) {
+TEST(PlaceSearch, EachTypedWordMustStandSomewhereInAnyOrder) {
   const PlaceIndex index = IndexOf({"New York", "New Delhi", "York"});
   EXPECT_THAT(Found(index, u"york new"), ElementsAre("New York"));
   EXPECT_THAT(Found(index, u"new"), ElementsAre("New Delhi", "New York"));
@@ -104,8 +105,90 @@ TEST(PlaceSearch, CaseAndAccentsDoNotCountOnEitherSide) {
   EXPECT_THAT(Found(index, u"gross"), ElementsAre("Gro\xDF-Gerau"));
 }
 
-TEST(PlaceSearch, OtherScriptsFindNothing) {
-  EXPECT_THAT(Found(IndexOf({"Haifa"}), u"חיפה"), IsEmpty());
+// Places of another name each: 0 Haifa, 1 Kyiv, 2 Safed, in alphabetical order.
+PlaceIndex IndexWithOtherNames() {
+  return PlaceIndex({{"Haifa", 0, 0, 0, 0, false, u"Israel", u"חיפה|Chaifa"},
+                     {"Kyiv", 0, 0, 0, 0, false, u"Ukraine", u"קייב|Kiev|Kiew"},
+                     {"Safed", 0, 0, 0, 0, false, u"Israel", u"צפת|Tzfat|Zefat"}});
+}
+
+TEST(PlaceSearch, OtherNamesAndCountriesFindToo) {
+  const PlaceIndex index = IndexWithOtherNames();
+  EXPECT_THAT(Found(index, u"kiev"), ElementsAre("Kyiv"));
+  EXPECT_THAT(Found(index, u"zefat"), ElementsAre("Safed"));
+  EXPECT_THAT(Found(index, u"TZF"), ElementsAre("Safed"));
+  EXPECT_THAT(Found(index, u"חיפ"), ElementsAre("Haifa"));
+  EXPECT_THAT(Found(index, u"israel"), ElementsAre("Haifa", "Safed"));
+  EXPECT_THAT(Found(index, u"israel tz"), ElementsAre("Safed"));
+  EXPECT_THAT(Found(index, u"israel kiev"), IsEmpty());
+}
+
+TEST(PlaceSearch, HebrewPointsAndPunctuationDoNotCount) {
+  const PlaceIndex index(
+      {{"Beersheba", 0, 0, 0, 0, false, u"Israel", u"באר שבע"}, {"Yanuah", 0, 0, 0, 0, false, u"Israel", u"ינוח ג'ת"}});
+  EXPECT_THAT(Found(index, u"בְּאֵר־שֶׁבַע"), ElementsAre("Beersheba"));
+  EXPECT_THAT(Found(index, u"ג׳ת"), ElementsAre("Yanuah"));
+}
+
+TEST(PlaceSearch, TellsTheOtherNameThatIsMeant) {
+  const PlaceIndex index = IndexWithOtherNames();
+  EXPECT_EQ(index.MeantName(1, u"kiev"), u"Kiev");
+  EXPECT_EQ(index.MeantName(1, u"iew"), u"Kiew");
+  EXPECT_EQ(index.MeantName(2, u"צפ"), u"צפת");
+  EXPECT_EQ(index.MeantName(1, u"kyi"), u"");
+  EXPECT_EQ(index.MeantName(1, u"ukraine"), u"");
+  EXPECT_EQ(index.MeantName(1, u""), u"");
+}
+
+TEST(PlaceSearch, LastUsedComeFirstThenTheUsersOwn) {
+  const PlaceIndex index({{"Aleppo", 0, 0, 0, 0, false},
+                          {"Boston", 0, 0, 0, 0, false},
+                          {"Home", 0, 0, 0, 0, true},
+                          {"Oslo", 0, 0, 0, 0, false}});
+  const std::vector<std::size_t> lastUsed = {3, 1};
+  EXPECT_THAT(index.Matching(u"", lastUsed), ElementsAre(3u, 1u, 2u, 0u));
+  EXPECT_THAT(index.Matching(u"o", lastUsed), ElementsAre(3u, 1u, 2u, 0u));
+  EXPECT_THAT(index.Matching(u"al", lastUsed), ElementsAre(0u));
+}
+
+TEST(PlaceSearch, WhatFitsBestStandsOutWhateverTheOrder) {
+  const PlaceIndex index = IndexOf({"Boston", "New York", "York"});
+  const std::vector<std::size_t> found = index.Matching(u"york", std::vector<std::size_t>{1});
+  EXPECT_THAT(found, ElementsAre(1u, 2u));
+  EXPECT_EQ(index.Best(u"york", found), 1u);
+  EXPECT_EQ(index.Best(u"york", {}), std::nullopt);
+}
+
+TEST(PlaceSearch, LettersOfEasternEuropeAreFoundWithoutTheirAccents) {
+  const PlaceIndex index = IndexOf({"Krakow", "Lodz", "Iasi"});
+  EXPECT_THAT(Found(index, u"kraków"), ElementsAre("Krakow"));
+  EXPECT_THAT(Found(index, u"łódź"), ElementsAre("Lodz"));
+  EXPECT_THAT(Found(index, u"iași"), ElementsAre("Iasi"));
+}
+
+// Users look for these.
+TEST(PlaceSearch, BuiltInPlacesAreFoundUnderTheNamesThatUsersKnow) {
+  std::vector<Place> places;
+  for (std::size_t i = 0; i < sun::BuiltInPlaces().size(); ++i) {
+    const auto& others = place_names_table::names[i];
+    places.push_back({sun::BuiltInPlaces()[i].name, 0, 0, 0, 0, false, others.country, others.names});
+  }
+  const PlaceIndex index(std::move(places));
+  const auto first = [&index](std::u16string_view typed) { return Found(index, typed).at(0); };
+  EXPECT_EQ(first(u"kiev"), "Kyiv");
+  for (const char16_t* safed : {u"zefat", u"tzfat", u"safed", u"tsfat", u"צפת"}) EXPECT_EQ(first(safed), "Safed");
+  for (const char16_t* beersheba : {u"beer sheva", u"be'er sheva", u"beersheba", u"באר שבע"}) {
+    EXPECT_EQ(first(beersheba), "Beersheba");
+  }
+  EXPECT_EQ(first(u"münchen"), "Munich");
+  EXPECT_EQ(first(u"wien"), "Vienna");
+  EXPECT_EQ(first(u"ירושלים"), "Jerusalem");
+  EXPECT_EQ(first(u"tel-aviv"), "Tel Aviv");
+}
+
+TEST(PlaceNames, EachBuiltInPlaceHasARow) {
+  ASSERT_EQ(place_names_table::names.size(), sun::BuiltInPlaces().size());
+  for (const place_names_table::OtherNames& row : place_names_table::names) EXPECT_FALSE(row.country.empty());
 }
 
 TEST(PlaceSearch, NameOfSignsAloneIsListedThoughNothingTypedFindsIt) {
@@ -116,9 +199,10 @@ TEST(PlaceSearch, NameOfSignsAloneIsListedThoughNothingTypedFindsIt) {
 
 TEST(PlaceSearch, FirstNameThatBeginsWithWhatIsTypedStandsOut) {
   const PlaceIndex index = IndexOf({"New York", "York", "Yorkton"});
-  const std::vector<std::size_t> found = index.Matching(u"york");
-  EXPECT_EQ(index.FirstBeginningWith(u"Y\u00D6rk", found), 1u);
-  EXPECT_EQ(index.FirstBeginningWith(u"yorkt", found), 2u);
+  const std::vector<std::size_t> found = index.Matching(u"york", {});
+  EXPECT_THAT(found, ElementsAre(1u, 2u, 0u));
+  EXPECT_EQ(index.FirstBeginningWith(u"Y\u00D6rk", found), 0u);
+  EXPECT_EQ(index.FirstBeginningWith(u"yorkt", found), 1u);
   EXPECT_EQ(index.FirstBeginningWith(u"delhi", found), std::nullopt);
 }
 
