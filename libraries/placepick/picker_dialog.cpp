@@ -10,8 +10,9 @@
 #include "companion/profile.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/resizable_dialog.h"
-#include "libraries/dialogs/windows_1252.h"
+#include "libraries/placepick/last_used.h"
 #include "libraries/placepick/picker_ids.h"
+#include "libraries/placepick/place_columns.h"
 #include "libraries/settings_folder/settings_folder_win.h"
 
 namespace placepick {
@@ -20,9 +21,9 @@ namespace {
 using dialogs::Anchor;
 using dialogs::Follow;
 using dialogs::ResizableDialog;
-using dialogs::Wide;
 
-constexpr char kSizeFile[] = "placepick.ini";
+constexpr UINT_PTR kClockTimer = 1;
+constexpr UINT kClockMilliseconds = 1000;
 
 constexpr char kStartSection[] = "Preferences";
 constexpr char kStartKey[] = "DefaultLocation";
@@ -32,37 +33,6 @@ constexpr Anchor kAnchors[] = {
     {IDC_TYPED, Follow::kGrow, Follow::kNo},    {IDC_COUNT, Follow::kGrow, Follow::kNo},
     {IDC_PLACES, Follow::kGrow, Follow::kGrow}, {IDC_START, Follow::kGrow, Follow::kMove},
     {IDOK, Follow::kMove, Follow::kMove},       {IDCANCEL, Follow::kMove, Follow::kMove},
-};
-
-std::wstring NameOf(const Place& place) {
-  return Wide(place.name);
-}
-std::wstring LatitudeOf(const Place& place) {
-  return Wide(LatitudeText(place.packedLatitude));
-}
-std::wstring LongitudeOf(const Place& place) {
-  return Wide(LongitudeText(place.packedLongitude));
-}
-std::wstring ZoneOf(const Place& place) {
-  return Wide(ZoneText(place.zoneHours, place.zoneMinutes));
-}
-std::wstring KindOf(const Place& place) {
-  return place.isUsersOwn ? L"your own" : L"";
-}
-
-// The first column takes the width that the others leave; they are as wide as their sample.
-struct Column {
-  const wchar_t* heading;
-  const wchar_t* sample;
-  int format;
-  std::wstring (*text)(const Place&);
-};
-constexpr Column kColumns[] = {
-    {L"Name", L"", LVCFMT_LEFT, NameOf},
-    {L"Latitude", L"88\u00B088' N", LVCFMT_RIGHT, LatitudeOf},
-    {L"Longitude", L"188\u00B088' W", LVCFMT_RIGHT, LongitudeOf},
-    {L"Time zone", L"GMT+88:88", LVCFMT_LEFT, ZoneOf},
-    {L"Kind", L"your own", LVCFMT_LEFT, KindOf},
 };
 
 // Keys that move the selection of the list while the user types in the edit.
@@ -84,7 +54,7 @@ LRESULT CALLBACK TypedProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam
 class PickerDialog {
  public:
   PickerDialog(const PlaceIndex& places, std::string_view currentName)
-      : places_(places), current_(places.Named(currentName)) {}
+      : places_(places), current_(places.Named(currentName)), lastUsed_(LastUsedPlaces(places)) {}
 
   std::optional<std::size_t> Run(HWND owner);
 
@@ -101,8 +71,6 @@ class PickerDialog {
   int OnFindItem(const NMLVFINDITEMW& find) const;
   LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
 
-  void AddColumns() const;
-  void FitColumns() const;
   void Search();
   void Select(std::size_t row) const;
   std::optional<std::size_t> SelectedPlace() const;
@@ -118,6 +86,9 @@ class PickerDialog {
 
   const PlaceIndex& places_;
   const std::optional<std::size_t> current_;
+  const std::vector<std::size_t> lastUsed_;  // the newest first
+  PlaceColumns columns_;
+  std::u16string typed_;
   std::string startPlace_;           // the place that is kept for the start; empty when there is none
   std::optional<bool> startChoice_;  // what the user has made of the check box; none: it follows the selection
   std::vector<std::size_t> rows_;    // the numbers of the places in the list
@@ -145,6 +116,9 @@ INT_PTR PickerDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND: return OnCommand(LOWORD(wParam), HIWORD(wParam));
     case WM_HELP: return dialogs::PassHelpOn(dialog_, lParam);
     case WM_NOTIFY: return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
+    case WM_TIMER:
+      if (columns_.SetNow()) InvalidateRect(Control(IDC_PLACES), nullptr, FALSE);
+      return TRUE;
   }
   return FALSE;
 }
@@ -152,18 +126,19 @@ INT_PTR PickerDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 INT_PTR PickerDialog::OnInitDialog() {
   constexpr DWORD kListStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
   SendList(LVM_SETEXTENDEDLISTVIEWSTYLE, kListStyle, kListStyle);
-  AddColumns();
-  size_.Start(dialog_, kAnchors, kSizeFile);
+  columns_.Add(Control(IDC_PLACES));
+  size_.Start(dialog_, kAnchors, kPickerFile);
   OnSize();
   SendDlgItemMessageW(dialog_, IDC_TYPED, EM_LIMITTEXT, kNameSize - 1, 0);
   SetWindowSubclass(Control(IDC_TYPED), TypedProc, IDC_TYPED, reinterpret_cast<DWORD_PTR>(Control(IDC_PLACES)));
+  SetTimer(dialog_, kClockTimer, kClockMilliseconds, nullptr);
   Search();
   return TRUE;
 }
 
 INT_PTR PickerDialog::OnSize() {
   size_.ArrangeControls();
-  FitColumns();
+  columns_.Fit(Control(IDC_PLACES));
   return TRUE;
 }
 
@@ -201,9 +176,12 @@ INT_PTR PickerDialog::OnNotify(NMHDR& header) {
 
 void PickerDialog::OnGetDisplayInfo(NMLVDISPINFOW& info) const {
   const auto row = static_cast<std::size_t>(info.item.iItem);
-  const auto column = static_cast<std::size_t>(info.item.iSubItem);
-  if (!(info.item.mask & LVIF_TEXT) || row >= rows_.size() || column >= std::size(kColumns)) return;
-  lstrcpynW(info.item.pszText, kColumns[column].text(places_[rows_[row]]).c_str(), info.item.cchTextMax);
+  if (!(info.item.mask & LVIF_TEXT) || row >= rows_.size()) return;
+  const std::size_t number = rows_[row];
+  std::wstring text = columns_.Text(places_[number], info.item.iSubItem);
+  const std::u16string_view meant = info.item.iSubItem == 0 ? places_.MeantName(number, typed_) : u"";
+  if (!meant.empty()) text += L" (" + std::wstring(meant.begin(), meant.end()) + L")";
+  lstrcpynW(info.item.pszText, text.c_str(), info.item.cchTextMax);
 }
 
 // What the user types into the list itself moves the selection, around the end if need be.
@@ -230,49 +208,22 @@ LRESULT PickerDialog::OnCustomDraw(NMLVCUSTOMDRAW& draw) const {
   return CDRF_NEWFONT;
 }
 
-void PickerDialog::AddColumns() const {
-  for (std::size_t i = 0; i < std::size(kColumns); ++i) {
-    LVCOLUMNW column = {};
-    column.mask = LVCF_FMT | LVCF_TEXT | LVCF_SUBITEM;
-    column.fmt = kColumns[i].format;
-    column.pszText = const_cast<wchar_t*>(kColumns[i].heading);
-    column.iSubItem = static_cast<int>(i);
-    SendList(LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
-  }
-}
-
-void PickerDialog::FitColumns() const {
-  const auto widthOf = [this](const wchar_t* text) {
-    return static_cast<int>(SendList(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text)));
-  };
-  const int margins = widthOf(L"mm");
-  RECT list;
-  GetWindowRect(Control(IDC_PLACES), &list);
-  int rest = list.right - list.left - GetSystemMetrics(SM_CXVSCROLL) - 2 * GetSystemMetrics(SM_CXEDGE);
-  for (std::size_t i = std::size(kColumns) - 1; i > 0; --i) {
-    const int width = std::max(widthOf(kColumns[i].sample), widthOf(kColumns[i].heading)) + margins;
-    SendList(LVM_SETCOLUMNWIDTH, i, width);
-    rest -= width;
-  }
-  SendList(LVM_SETCOLUMNWIDTH, 0, rest);
-}
-
 // Lists what matches the typed text and selects the place that it most likely means.
 void PickerDialog::Search() {
   wchar_t text[kNameSize];
   const UINT length = GetDlgItemTextW(dialog_, IDC_TYPED, text, std::size(text));
-  const std::u16string typed(text, text + length);
-  rows_ = places_.Matching(typed);
+  typed_.assign(text, text + length);
+  rows_ = places_.Matching(typed_, lastUsed_);
   LVITEMW unselected = {};
   unselected.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
   SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&unselected));
   SendList(LVM_SETITEMCOUNT, rows_.size(), 0);
   const auto current = std::ranges::find(rows_, current_, [](std::size_t row) { return std::optional(row); });
-  const bool nothingTyped = Fold(typed).text.empty();
+  const bool nothingTyped = Fold(typed_).text.empty();
   if (nothingTyped && current != rows_.end()) {
     Select(static_cast<std::size_t>(current - rows_.begin()));
-  } else if (!rows_.empty()) {
-    Select(places_.FirstBeginningWith(typed, rows_).value_or(0));
+  } else if (const auto best = places_.Best(typed_, rows_)) {
+    Select(*best);
   }
   const std::wstring count = rows_.size() == 1 ? L"1 place" : std::to_wstring(rows_.size()) + L" places";
   SetDlgItemTextW(dialog_, IDC_COUNT, rows_.empty() ? L"No place matches" : count.c_str());
@@ -306,6 +257,7 @@ void PickerDialog::Accept() {
   const std::optional<std::size_t> selected = SelectedPlace();
   if (!selected) return;
   KeepStartPlace(places_[*selected]);
+  KeepUsedPlace(places_[*selected].name);
   picked_ = selected;
   EndDialog(dialog_, IDOK);
 }
