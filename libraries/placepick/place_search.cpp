@@ -71,9 +71,13 @@ PlaceIndex::Fit PlaceIndex::FitOf(const Entry& entry, std::u16string_view typed,
                                   std::span<const std::u16string_view> words) {
   if (!HasAll(entry.all, words)) return Fit::kNowhere;
   if (entry.name.starts_with(typed)) return Fit::kNameBegins;
+  const auto beginIn = [words](std::u16string_view text) {
+    return std::ranges::all_of(words, [text](std::u16string_view word) { return StandsBehind(text, word, u"\n "); });
+  };
+  const std::size_t endOfName = entry.name.size() + 1;
+  if (beginIn(std::u16string_view(entry.all).substr(0, endOfName))) return Fit::kWordsOfNameBegin;
   if (StandsBehind(entry.all, typed, u"\n")) return Fit::kOtherBegins;
-  const auto begins = [&entry](std::u16string_view word) { return StandsBehind(entry.all, word, u"\n "); };
-  return std::ranges::all_of(words, begins) ? Fit::kWordsBegin : Fit::kSomewhere;
+  return beginIn(entry.all) ? Fit::kWordsBegin : Fit::kSomewhere;
 }
 
 std::vector<std::size_t> PlaceIndex::Matching(std::u16string_view typed, std::span<const std::size_t> lastUsed) const {
@@ -102,7 +106,11 @@ std::vector<std::size_t> PlaceIndex::Matching(std::u16string_view typed, std::sp
 std::optional<std::size_t> PlaceIndex::Best(std::u16string_view typed, std::span<const std::size_t> numbers) const {
   const std::u16string folded = Fold(typed).text;
   const std::vector<std::u16string_view> words = WordsOf(folded);
-  const auto fitOf = [&](std::size_t number) { return FitOf(entries_[number], folded, words); };
+  // What is used or the user's own needs no better fit than a word that begins so.
+  const auto fitOf = [&](std::size_t number) {
+    const Fit fit = FitOf(entries_[number], folded, words);
+    return fit == Fit::kWordsOfNameBegin || fit == Fit::kOtherBegins ? Fit::kWordsBegin : fit;
+  };
   const auto best = std::ranges::min_element(numbers, {}, fitOf);
   if (best == numbers.end()) return std::nullopt;
   return static_cast<std::size_t>(best - numbers.begin());

@@ -28,10 +28,12 @@ class PlaceIndex {
 
   // The numbers of the places in whose names and country each typed word stands somewhere; all when no word is typed.
   // Those used last come first, in their order, then the user's own, then the others; the last two by how well they
-  // fit: a name that begins with what is typed, another name that does, words that begin with the typed ones, the rest.
+  // fit: a name that begins with what is typed, one of whose words each typed one begins, another name that begins so,
+  // words of any that do, the rest.
   std::vector<std::size_t> Matching(std::u16string_view typed, std::span<const std::size_t> lastUsed) const;
 
-  // Where among the numbers the place stands that fits best, the first of several; none when there are none.
+  // Where among the numbers of Matching the place stands that is most likely meant: whose name begins with what is
+  // typed, else of whose names a word does, else the first. None when there are no numbers.
   std::optional<std::size_t> Best(std::u16string_view typed, std::span<const std::size_t> numbers) const;
 
   // The other name of a place that what is typed means, as far as the name itself does not have it; empty for none.
@@ -47,7 +49,7 @@ class PlaceIndex {
     std::u16string all;   // the folded name, other names and country, a line end before each
   };
 
-  enum class Fit { kNameBegins, kOtherBegins, kWordsBegin, kSomewhere, kNowhere };
+  enum class Fit { kNameBegins, kWordsOfNameBegin, kOtherBegins, kWordsBegin, kSomewhere, kNowhere };
   static Fit FitOf(const Entry& entry, std::u16string_view typed, std::span<const std::u16string_view> words);
 
   std::vector<Entry> entries_;
