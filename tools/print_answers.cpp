@@ -5,6 +5,7 @@
 //   print_answers personal              each day of the Jewish years 5682 to 5719: "birthday" or "yahrzeit",
 //   day.month.year
 //                                       of the event, the Jewish year, year-month-day when it is kept, for 38 years
+//   print_answers daf-yomi              11 September 1923 to 3000: "absolute-day tractate leaf"
 //   print_answers clocks                for each line "zone seconds" of the input the offset from UTC, "-" for none
 #include <cstdio>
 #include <cstdlib>
@@ -14,6 +15,7 @@
 
 #include "libraries/calendar/gregorian.h"
 #include "libraries/calendar/jewish.h"
+#include "libraries/folio/folio_core.h"
 #include "libraries/lections/language.h"
 #include "libraries/lections/reading_texts.h"
 #include "libraries/persons/personal_date.h"
@@ -89,6 +91,14 @@ void PrintPersonal() {
   }
 }
 
+void PrintDafYomi() {
+  const int32_t end = calendar::AbsoluteFromGregorian({1, 1, 3001});
+  for (int32_t day = calendar::AbsoluteFromGregorian({11, 9, 1923}); day < end; ++day) {
+    const std::optional<folio::Leaf> leaf = folio::LeafOf(day);
+    std::cout << day << ' ' << (leaf ? leaf->tractate : "-") << ' ' << (leaf ? leaf->number : 0) << '\n';
+  }
+}
+
 void PrintClocks() {
   std::string zone;
   for (int64_t moment = 0; std::cin >> zone >> moment;) {
@@ -107,10 +117,12 @@ int main(int argc, char** argv) {
     PrintCalendar();
   } else if (what == "personal") {
     PrintPersonal();
+  } else if (what == "daf-yomi") {
+    PrintDafYomi();
   } else if (what == "clocks") {
     PrintClocks();
   } else {
-    std::cerr << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | clocks\n";
+    std::cerr << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | daf-yomi | clocks\n";
     return 1;
   }
   return 0;
