@@ -57,9 +57,9 @@ TEST(DateFields, YearsOutsideTheCalendarsAreTold) {
   EXPECT_EQ(Gregorian("3", 2, "19a0").message, kWanted);
   EXPECT_TRUE(Gregorian("1", 1, "1583").date);
   EXPECT_TRUE(Gregorian("31", 12, "3000").date);
-  EXPECT_EQ(Jewish("3", 2, "6761").message, "The Jewish year must be between 1 and 6760.");
-  EXPECT_EQ(Jewish("3", 2, "0").message, "The Jewish year must be between 1 and 6760.");
-  EXPECT_TRUE(Jewish("3", 2, "6760").date);
+  EXPECT_EQ(Jewish("3", 2, "6761").message, "The Jewish year must be between 1 and 6761.");
+  EXPECT_EQ(Jewish("3", 2, "0").message, "The Jewish year must be between 1 and 6761.");
+  EXPECT_TRUE(Jewish("3", 2, "6761").date);
 }
 
 TEST(DateFields, ACommonYearHasNoAdarII) {
@@ -72,7 +72,7 @@ TEST(DateFields, AJewishYearMayBeUnknownOnlyWhereThatIsAllowed) {
   EXPECT_EQ(Jewish("3", calendar::kAdar, "").message, "Enter the year.");
   EXPECT_EQ(Jewish("3", calendar::kAdar, "", YearIs::kOptional).date, (Date{3, calendar::kAdar, kUnknownYear}));
   EXPECT_EQ(Jewish("3", 1, "0", YearIs::kOptional).message,
-            "The Jewish year must be between 1 and 6760; leave it empty where it is not known.");
+            "The Jewish year must be between 1 and 6761; leave it empty where it is not known.");
   for (const int32_t month : {calendar::kCheshvan, calendar::kKislev, calendar::kAdar}) {
     EXPECT_TRUE(Jewish("30", month, "", YearIs::kOptional).date) << month;
   }
