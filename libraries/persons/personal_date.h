@@ -37,7 +37,7 @@ constexpr int32_t kUnknownYear = 0;
 constexpr int32_t kFirstGregorianYear = 1583;
 constexpr int32_t kLastGregorianYear = 3000;
 constexpr int32_t kFirstJewishYear = 1;
-constexpr int32_t kLastJewishYear = 6760;
+constexpr int32_t kLastJewishYear = 6761;  // begins in the last Gregorian one
 
 // Whether the date exists, within the years above. Where the year is not known, a day that some year has: up to 30 of
 // Adar (I), which then can only be Adar I.
@@ -65,7 +65,7 @@ class Observances {
   std::span<const Observance> All() const { return {days_.data(), size_}; }
 
  private:
-  std::array<Observance, 3> days_ = {};
+  std::array<Observance, 2> days_ = {};
   size_t size_ = 0;
 };
 
@@ -73,7 +73,7 @@ class Observances {
 // only where IsAdarByCustom. jewish: as JewishDateOf answers it.
 Observances KeptInJewishYear(const calendar::Date& jewish, Kind kind, AdarCustom adar, int32_t jewishYear);
 
-// What is kept in a Gregorian year: up to three days, as the two calendars' years drift.
+// What is kept in a Gregorian year: none or two days where the event lies near its end.
 Observances KeptInGregorianYear(const calendar::Date& jewish, Kind kind, AdarCustom adar, int32_t gregorianYear);
 
 // The first day on or after a day; none where the years end before it.

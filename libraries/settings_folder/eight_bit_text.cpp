@@ -11,8 +11,13 @@ namespace {
 constexpr std::string_view kLittleEndianMark("\xFF\xFE");
 constexpr std::string_view kBigEndianMark("\xFE\xFF");
 
+bool IsUtf16(std::string_view bytes) {
+  return bytes.starts_with(kLittleEndianMark) || bytes.starts_with(kBigEndianMark);
+}
+
 // The units behind the mark; a lone last byte is dropped.
-std::wstring WideUnits(std::string_view bytes, bool isBigEndian) {
+std::wstring WideUnits(std::string_view bytes) {
+  const bool isBigEndian = bytes.starts_with(kBigEndianMark);
   std::wstring wide;
   for (size_t i = 2; i + 1 < bytes.size(); i += 2) {
     const auto first = static_cast<unsigned char>(bytes[i]);
@@ -30,15 +35,22 @@ std::string Narrow(const std::wstring& wide, UINT codePage, DWORD flags, BOOL* i
   return narrow;
 }
 
+std::string WithMark(const std::wstring& wide) {
+  return "\xEF\xBB\xBF" + Narrow(wide, CP_UTF8, 0, nullptr);
+}
+
 }  // namespace
 
 std::string EightBitText(std::string bytes) {
-  const bool isBigEndian = bytes.starts_with(kBigEndianMark);
-  if (!isBigEndian && !bytes.starts_with(kLittleEndianMark)) return bytes;
-  const std::wstring wide = WideUnits(bytes, isBigEndian);
+  if (!IsUtf16(bytes)) return bytes;
+  const std::wstring wide = WideUnits(bytes);
   BOOL isLossy = TRUE;
   if (GetACP() != CP_UTF8) bytes = Narrow(wide, CP_ACP, WC_NO_BEST_FIT_CHARS, &isLossy);
-  return isLossy ? "\xEF\xBB\xBF" + Narrow(wide, CP_UTF8, 0, nullptr) : bytes;
+  return isLossy ? WithMark(wide) : bytes;
+}
+
+std::string Utf8Text(std::string bytes) {
+  return IsUtf16(bytes) ? WithMark(WideUnits(bytes)) : bytes;
 }
 
 }  // namespace settings_folder

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "libraries/settings_folder/eight_bit_text.h"
 #include "libraries/settings_folder/settings_folder.h"
 #include "libraries/settings_folder/settings_folder_win.h"
 
@@ -17,7 +16,8 @@ constexpr int kMostAttempts = 5;
 
 }  // namespace
 
-WatchedFile::WatchedFile(const char* name) : name_(Wide(name)), isBare_(IsBareName(name_)) {}
+WatchedFile::WatchedFile(const char* name, std::string (*decode)(std::string bytes))
+    : name_(Wide(name)), decode_(decode), isBare_(IsBareName(name_)) {}
 
 std::wstring WatchedFile::Place() const {
   return isBare_ ? HomeNow() : FullPath(name_);
@@ -34,7 +34,7 @@ ReadResult WatchedFile::ReadNow(const std::wstring& path, Patience patience, Fil
     *stamp = StampOf(path);
     result = ReadWholeFile(path, patience, text);
   }
-  *text = EightBitText(std::move(*text));
+  *text = decode_(std::move(*text));
   return result;
 }
 

@@ -6,16 +6,17 @@
 #include <functional>
 #include <string>
 
+#include "libraries/settings_folder/eight_bit_text.h"
 #include "libraries/settings_folder/whole_file.h"
 
 namespace settings_folder {
 
 // Knows which version of the file its owner has seen. The bytes it hands over are 8-bit text, whatever encoding an
-// editor left (EightBitText). Not for use by several threads at once.
+// editor left. Not for use by several threads at once.
 class WatchedFile {
  public:
-  // name: 8-bit, bare or with a path; see PathNow.
-  explicit WatchedFile(const char* name);
+  // name: 8-bit, bare or with a path; see PathNow. decode: what makes the file's bytes the text that is handed over.
+  explicit WatchedFile(const char* name, std::string (*decode)(std::string bytes) = EightBitText);
 
   // Whether the owner must take up the file anew; text then holds its bytes (none when there is no file). The file
   // itself is asked at most every 50 ms, unless TIMES_READINGS_HOME or the current folder makes the name another file;
@@ -45,6 +46,7 @@ class WatchedFile {
   ReplaceResult EditOnce(const std::wstring& path, const Change& change, FileStamp* seen) const;
 
   std::wstring name_;
+  std::string (*decode_)(std::string bytes);
   bool isBare_;
   std::wstring place_;  // what decided the path when it was last made: TIMES_READINGS_HOME, or the full path itself
   std::wstring path_;
