@@ -13,6 +13,9 @@ char32_t TakeCharacter(std::string_view& text);
 
 void AppendUtf8(std::string& text, char32_t character);
 
+// Two units for a character beyond U+FFFF.
+void AppendUtf16(std::u16string& text, char32_t character);
+
 // The same text in UTF-16.
 std::u16string Utf16Of(std::string_view utf8);
 
@@ -32,7 +35,6 @@ Direction DirectionOf(char32_t character);
 
 // Whether the first letter is Hebrew, Arabic or another written from right to left.
 bool IsRightToLeft(std::string_view text);
-bool IsRightToLeft(std::u16string_view text);
 
 // A part of a text that is written one way.
 struct DirectedRun {
