@@ -15,7 +15,7 @@ constexpr int kDaysOfOutlook = 3;
 
 std::string DatesText(const persons::Observances& observances) {
   std::string text;
-  for (const Observance& day : observances.All()) {
+  for (const Observance& day : observances) {
     if (!text.empty()) text += ", ";
     text += NumericDay(day.absoluteDay);
   }

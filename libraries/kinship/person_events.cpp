@@ -81,7 +81,7 @@ std::vector<publishing::Event> EventsOf(const std::vector<Person>& people, perso
     const auto adar = persons::CustomOf(person.kind, person.adar, ofYahrzeit);
     for (int32_t year = firstYear; year < end; ++year) {
       const persons::Observances kept = persons::KeptInGregorianYear(jewish, person.kind, adar, year);
-      for (const Observance& day : kept.All()) events.push_back(EventOf(person, day, key));
+      for (const Observance& day : kept) events.push_back(EventOf(person, day, key));
     }
   }
   return events;

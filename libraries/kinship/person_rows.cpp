@@ -38,7 +38,7 @@ int64_t OrderInYear(const calendar::Date& jewish) {
 }
 
 int64_t FirstOf(const persons::Observances& days) {
-  return days.All().empty() ? kLast : days.All().front().absoluteDay;
+  return days.empty() ? kLast : days[0].absoluteDay;
 }
 
 // Rows without a number come last in either direction.

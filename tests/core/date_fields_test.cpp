@@ -57,7 +57,7 @@ TEST(DateFields, YearsOutsideTheCalendarsAreTold) {
   EXPECT_EQ(Gregorian("3", 2, "19a0").message, kWanted);
   EXPECT_TRUE(Gregorian("1", 1, "1583").date);
   EXPECT_TRUE(Gregorian("31", 12, "3000").date);
-  EXPECT_EQ(Jewish("3", 2, "6761").message, "The Jewish year must be between 1 and 6761.");
+  EXPECT_EQ(Jewish("3", 2, "6762").message, "The Jewish year must be between 1 and 6761.");
   EXPECT_EQ(Jewish("3", 2, "0").message, "The Jewish year must be between 1 and 6761.");
   EXPECT_TRUE(Jewish("3", 2, "6761").date);
 }
