@@ -10,15 +10,15 @@ namespace publishing {
 enum class Align : uint8_t { kLeft, kRight };
 
 struct Column {
-  std::string heading;
+  std::string heading = {};
   Align align = Align::kLeft;
 };
 
 struct Table {
-  std::string title;                 // above the table; may be empty
-  std::vector<std::string> remarks;  // lines below the title
-  std::vector<Column> columns;
-  std::vector<std::vector<std::string>> rows;  // one text a column; texts that a row lacks count as empty
+  std::string title = {};                 // above the table; may be empty
+  std::vector<std::string> remarks = {};  // lines below the title
+  std::vector<Column> columns = {};
+  std::vector<std::vector<std::string>> rows = {};  // one text a column; texts that a row lacks count as empty
 };
 
 // The text of a row in a column.
