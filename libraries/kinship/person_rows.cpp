@@ -134,6 +134,12 @@ std::string PersonRows::Text(int row, Column column) const {
   return CellOf(shown.person, shown.dates, column);
 }
 
+std::vector<Person> PersonRows::People(bool all) const {
+  std::vector<Person> people;
+  for (const size_t row : all ? sorted_ : found_) people.push_back(rows_[row].person);
+  return people;
+}
+
 std::vector<int> PersonRows::RowsOf(const std::vector<Id>& ids) const {
   const std::set<Id> wanted(ids.begin(), ids.end());
   std::vector<int> rows;

@@ -39,6 +39,9 @@ class PersonRows {
   const persons::Person& PersonOf(int row) const { return RowOf(row).person; }
   std::string Text(int row, Column column) const;
 
+  // In their order, those that are shown, or all.
+  std::vector<persons::Person> People(bool all) const;
+
   // From the top, the rows of those that have one.
   std::vector<int> RowsOf(const std::vector<Id>& ids) const;
 

@@ -129,11 +129,11 @@ TEST_F(PersonRowsTest, ThereAreNoDatesPastTheLastYear) {
 }
 
 TEST(Outlook, SaysTheWeekdayAndTheNextThreeDays) {
-  // 14 May 1948 was a Friday, 5 Iyar 5708; 5 Iyar of 5786 to 5788 by published calendars.
+  // 14 May 1948 was a Friday, 5 Iyar 5708. 5 Iyar is 20 days after Pesach: 2 April 2026, 22 April 2027, 11 April 2028.
   const std::string text = Outlook(Gregorian(Kind::kBirthday, "x", {14, 5, 1948}), In2026());
   EXPECT_EQ(text,
             "Friday, 14 May 1948: 5 Iyar 5708.\nNext:\nWednesday, 22 April 2026 (78)\nWednesday, 12 May 2027 (79)\n"
-            "Tuesday, 2 May 2028 (80)");
+            "Monday, 1 May 2028 (80)");
 }
 
 TEST(Outlook, AfterSunsetTheJewishDayIsTheNext) {
