@@ -1,0 +1,87 @@
+#include "libraries/kinship/exported_file.h"
+
+#include "libraries/dialogs/dialog_parts.h"
+#include "libraries/dialogs/utf8.h"
+#include "libraries/kinship/person_events.h"
+#include "libraries/kinship/person_table.h"
+#include "libraries/settings_folder/eight_bit_text.h"
+#include "libraries/settings_folder/settings_folder.h"
+#include "libraries/settings_folder/settings_folder_win.h"
+#include "libraries/settings_folder/whole_file.h"
+#include "publishing/core/csv.h"
+#include "publishing/core/icalendar.h"
+#include "publishing/core/table_rtf.h"
+#include "publishing/core/table_text.h"
+
+namespace kinship {
+namespace {
+
+using settings_folder::ReadResult;
+using settings_folder::ReplaceResult;
+
+constexpr uint64_t kMostImportedBytes = 64 << 20;
+
+publishing::UtcMoment Now() {
+  SYSTEMTIME now;
+  GetSystemTime(&now);
+  return {{now.wYear, now.wMonth, now.wDay}, now.wHour, now.wMinute, now.wSecond};
+}
+
+publishing::RtfFont RtfFontOfChoice() {
+  const auto font = StoredFont();
+  if (!font) return {"Arial"};
+  return {dialogs::ToUtf8(font->lfFaceName), HalfPointsOf(*font)};
+}
+
+std::wstring SystemPath(const std::wstring& path) {
+  return settings_folder::WithoutLengthLimit(settings_folder::FullPath(path));
+}
+
+}  // namespace
+
+std::string ExportedText(const std::vector<persons::Person>& people, const Shown& shown, const ExportRequest& request) {
+  switch (request.choice.format) {
+    case Format::kText: return publishing::TextOf(TableOf(people, shown));
+    case Format::kRtf: return publishing::RtfOf(TableOf(people, shown), RtfFontOfChoice());
+    case Format::kCsv: return publishing::CsvOf(CsvTableOf(people, shown));
+    case Format::kCalendar:
+      return publishing::CalendarOf("Birthdays and Yahrzeit",
+                                    EventsOf(people, shown.ofYahrzeit, request.firstYear, request.choice.years), Now());
+  }
+  return {};
+}
+
+void WriteExportedFile(HWND owner, const std::wstring& path, const std::string& text) {
+  const std::wstring file = SystemPath(path);
+  bool isWritten = false;
+  {
+    const settings_folder::WriterLock lock;
+    settings_folder::FileStamp written;
+    isWritten = lock.Held() && settings_folder::ReplaceWholeFile(file, text, settings_folder::StampOf(file),
+                                                                 &written) == ReplaceResult::kReplaced;
+  }
+  if (isWritten) return;
+  dialogs::ShowError(owner, L"The file\n" + path +
+                                L"\ncould not be written; an older one of that name is as it was.\n\nSee to it that no "
+                                L"other program holds it, that it is not read-only and that the disk is not full, or "
+                                L"choose another file, then export again.");
+}
+
+std::optional<std::string> ImportedText(HWND owner, const std::wstring& path) {
+  const std::wstring file = SystemPath(path);
+  const settings_folder::FileStamp stamp = settings_folder::StampOf(file);
+  if (stamp.sizeBytes > kMostImportedBytes) {
+    dialogs::ShowError(owner, L"The file\n" + path + L"\nis far too large to be a table of dates.");
+    return std::nullopt;
+  }
+  std::string bytes;
+  if (settings_folder::ReadWholeFile(file, settings_folder::Patience::kShort, &bytes) == ReadResult::kRead) {
+    return settings_folder::Utf8Text(std::move(bytes));
+  }
+  dialogs::ShowError(owner, L"The file\n" + path +
+                                L"\ncannot be read. See to it that no other program holds it and that you may open "
+                                L"it, then import again.");
+  return std::nullopt;
+}
+
+}  // namespace kinship
