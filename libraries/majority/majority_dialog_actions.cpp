@@ -105,10 +105,11 @@ void MajorityDialog::TakeOver() {
   }
   const std::wstring entry =
       dialogs::FromUtf8(birthday.name + ", born on " + persons::JewishDateText(persons::JewishDateOf(birthday.event)));
+  std::vector<persons::Change> missed;  // an added entry misses nothing
   if (HasBirthday(*stored, birthday)) {
     taken_ = birthday;
     ShowInformation(dialog_, entry + L", is in the list of birthdays and yahrzeit already. Nothing was added.");
-  } else if (persons::StoreChanges({{std::nullopt, birthday}}, nullptr)) {
+  } else if (persons::StoreChanges({{std::nullopt, birthday}}, &missed)) {
     taken_ = birthday;
     ShowInformation(dialog_, entry + L", was added to the list of birthdays and yahrzeit.");
   } else {
