@@ -21,12 +21,15 @@ bool IsGregorianDay(int32_t day) {
   return day >= calendar::AbsoluteFromGregorian({1, 1, persons::kFirstGregorianYear});
 }
 
-// "Thursday, 25 February 2027 (18 Adar I 5787)"; days before the Gregorian calendar by the Jewish date alone.
+// "25 February 2027 (18 Adar I 5787)"; days before the Gregorian calendar by the Jewish date alone.
 std::string DayText(int32_t day) {
-  const std::string weekday = kWeekdays[static_cast<size_t>(calendar::WeekdayOf(day))];
   const std::string jewish = persons::JewishDateText(calendar::JewishFromAbsolute(day));
-  if (!IsGregorianDay(day)) return weekday + ", " + jewish;
-  return weekday + ", " + persons::GregorianDateText(calendar::GregorianFromAbsolute(day)) + " (" + jewish + ")";
+  if (!IsGregorianDay(day)) return jewish;
+  return persons::GregorianDateText(calendar::GregorianFromAbsolute(day)) + " (" + jewish + ")";
+}
+
+std::string WeekdayText(int32_t day) {
+  return kWeekdays[static_cast<size_t>(calendar::WeekdayOf(day))];
 }
 
 // Why the day is not the one of the birth's name; empty where it is, or is so by the names of Adar alone.
@@ -106,7 +109,8 @@ std::string FactsOf(const Child& child, const lections::Settings& settings) {
            ", the last one that is reckoned here.\n";
   }
   return birth + TitleOf(child, {}) + " at " + std::to_string(child.isGirl ? kAgeOfGirls : kAgeOfBoys) + ": " +
-         DayText(age->day) + ", from the evening before\n" + Reason(*age) + ShabbatText(age->shabbat, settings);
+         WeekdayText(age->day) + ", " + DayText(age->day) + ", from the evening before\n" + Reason(*age) +
+         ShabbatText(age->shabbat, settings);
 }
 
 std::string TimeLeft(const Child& child, int32_t today) {

@@ -170,7 +170,7 @@ TEST(Majority, FactsAreTheDayTheShabbatAndItsReadings) {
   EXPECT_EQ(FactsOf(BornOn(20140302), In(Land::kDiaspora)),
             "Jewish birthday: 30 Adar I 5774\n"
             "Bar mitzvah at 13: Tuesday, 9 March 2027 (30 Adar I 5787), from the evening before\n"
-            "Shabbat on or after it: Shabbat, 13 March 2027 (4 Adar II 5787)\n"
+            "Shabbat on or after it: 13 March 2027 (4 Adar II 5787)\n"
             "Torah: Pekudei: Exodus 38:21-40:38\n"
             "Haftarah: I Kings 7:51-8:21\n");
 }
