@@ -26,7 +26,7 @@ constexpr MajorityDialogData kBoy = {2, 3, 2014, 0, 0};
 
 // What a run of the dialog is given: there before its thread begins.
 struct GivenData {
-  MajorityDialogData data_;
+  MajorityDialogData data_ = {};
 };
 
 // A run of the dialog.
