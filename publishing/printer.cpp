@@ -2,6 +2,7 @@
 
 #include <cderr.h>
 #include <commdlg.h>
+#include <winspool.h>
 
 #include <algorithm>
 #include <string>
@@ -35,6 +36,15 @@ OwnedContext CreateInformationContext(HGLOBAL mode, HGLOBAL names) {
   const auto* const texts = reinterpret_cast<const wchar_t*>(locked.get());
   return OwnedContext(CreateICW(texts + locked->wDriverOffset, texts + locked->wDeviceOffset,
                                 texts + locked->wOutputOffset, lockedMode.get()));
+}
+
+// Asked first, because the print dialog may have a box of its own for it whatever its flags.
+bool HasPrinters() {
+  DWORD size = 0;
+  DWORD count = 0;
+  const DWORD everywhere = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
+  EnumPrintersW(everywhere, nullptr, 4, nullptr, 0, &size, &count);
+  return size > 0;
 }
 
 void ShowNoPrinter(HWND owner, DWORD error) {
@@ -113,6 +123,10 @@ bool Printer::TurnPaper() {
 }
 
 Printer::Choice Printer::Ask(HWND owner, int pageCount) {
+  if (!HasPrinters()) {
+    ShowNoPrinter(owner, PDERR_NODEVICES);
+    return {};
+  }
   constexpr int kMostPages = 0xFFFF;  // that the dialog can count
   PRINTDLGW dialog{};
   dialog.lStructSize = sizeof dialog;
