@@ -115,7 +115,7 @@ Observances KeptInGregorianYear(const Date& jewish, Kind kind, AdarCustom adar, 
   const int32_t last = calendar::AbsoluteFromGregorian({31, 12, gregorianYear});
   Observances kept;
   for (const int32_t year : {gregorianYear + kJewishYearOfJanuary, gregorianYear + kJewishYearOfJanuary + 1}) {
-    for (const Observance& day : KeptInJewishYear(jewish, kind, adar, year).All()) {
+    for (const Observance& day : KeptInJewishYear(jewish, kind, adar, year)) {
       if (day.absoluteDay >= first && day.absoluteDay <= last) kept.Add(day);
     }
   }
@@ -125,7 +125,7 @@ Observances KeptInGregorianYear(const Date& jewish, Kind kind, AdarCustom adar, 
 std::optional<Observance> NextKept(const Date& jewish, Kind kind, AdarCustom adar, int32_t fromAbsoluteDay) {
   const int32_t first = std::max(calendar::JewishFromAbsolute(fromAbsoluteDay).year, jewish.year);
   for (int32_t year = first; year <= std::min(first + 1, kLastJewishYear); ++year) {
-    for (const Observance& day : KeptInJewishYear(jewish, kind, adar, year).All()) {
+    for (const Observance& day : KeptInJewishYear(jewish, kind, adar, year)) {
       if (day.absoluteDay >= fromAbsoluteDay) return day;
     }
   }
@@ -145,7 +145,7 @@ AdarCustom CustomOf(Kind kind, const std::optional<AdarCustom>& own, AdarCustom 
 std::optional<int32_t> ComesOfAge(const Date& jewishBirth, int32_t years) {
   const int32_t year = jewishBirth.year + years;
   if (jewishBirth.year == kUnknownYear || year > kLastJewishYear) return std::nullopt;
-  return KeptInJewishYear(jewishBirth, Kind::kBirthday, AdarCustom::kAdarII, year).All().front().absoluteDay;
+  return KeptInJewishYear(jewishBirth, Kind::kBirthday, AdarCustom::kAdarII, year)[0].absoluteDay;
 }
 
 }  // namespace persons

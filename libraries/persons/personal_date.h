@@ -6,10 +6,9 @@
 #pragma once
 
 #include <array>
-#include <compare>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 
 #include "libraries/calendar/date.h"
 
@@ -62,7 +61,11 @@ struct Observance {
 class Observances {
  public:
   void Add(const Observance& observance) { days_[size_++] = observance; }
-  std::span<const Observance> All() const { return {days_.data(), size_}; }
+  bool empty() const { return size_ == 0; }
+  size_t size() const { return size_; }
+  const Observance& operator[](size_t i) const { return days_[i]; }
+  const Observance* begin() const { return days_.data(); }
+  const Observance* end() const { return days_.data() + size_; }
 
  private:
   std::array<Observance, 2> days_ = {};
