@@ -16,9 +16,11 @@ constexpr double kTitleSize = 1.4;  // of the texts' size
 
 constexpr int kRuleDots = kDotsPerInch / 150;
 
-// A device rounds the widths of small letters up. Texts that then do not fit are drawn a little smaller; twice is
-// enough but for fonts that have few sizes.
-constexpr int kAttemptsToFit = 3;
+// A device rounds the widths of small letters up. Texts may then go on for a third of the gap to the next column, and
+// those for which this is not enough are drawn smaller; widths that jump from size to size need more
+// than one attempt.
+constexpr int kSlackDots = kDotsPerInch / 24;
+constexpr int kAttemptsToFit = 8;
 
 int Rounded(double value) {
   return static_cast<int>(std::lround(value));
@@ -120,7 +122,8 @@ void DcSurface::DrawLine(const PageBox& box, std::u16string_view text, const Lin
   GetTextMetricsW(dc_, &metrics);
   const int left = DeviceX(box.x);
   const int width = DeviceX(box.Right()) - left;
-  const int free = width - SelectFitting(style.font, text, width);
+  const int slack = DeviceX(box.Right() + kSlackDots) - DeviceX(box.Right());
+  const int free = width - SelectFitting(style.font, text, width + slack);
   const int x = style.place == Place::kLeft ? left : style.place == Place::kRight ? left + free : left + free / 2;
   ExtTextOutW(dc_, x, DeviceY(box.y) + metrics.tmAscent, style.rightToLeft ? ETO_RTLREADING : 0, nullptr, Wide(text),
               static_cast<UINT>(text.size()), nullptr);

@@ -2,6 +2,7 @@
 
 #include <cderr.h>
 #include <commdlg.h>
+#include <winspool.h>
 
 #include <algorithm>
 #include <string>
@@ -37,6 +38,15 @@ OwnedContext CreateInformationContext(HGLOBAL mode, HGLOBAL names) {
                                 texts + locked->wOutputOffset, lockedMode.get()));
 }
 
+// Asked first, because the print dialog may have a box of its own for it whatever its flags.
+bool HasPrinters() {
+  DWORD size = 0;
+  DWORD count = 0;
+  const DWORD everywhere = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
+  EnumPrintersW(everywhere, nullptr, 4, nullptr, 0, &size, &count);
+  return size > 0;
+}
+
 void ShowNoPrinter(HWND owner, DWORD error) {
   const bool hasNone = error == PDERR_NODEFAULTPRN || error == PDERR_NODEVICES;
   const std::wstring text =
@@ -56,6 +66,7 @@ DeviceScale ScaleOf(HDC printer) {
 }
 
 Printer::Printer() {
+  const ScopedWaitCursor wait;  // a printer of the network may take its time
   PRINTDLGW defaults{};
   defaults.lStructSize = sizeof defaults;
   defaults.Flags = PD_RETURNDEFAULT | PD_RETURNIC | PD_NOWARNING;
@@ -113,6 +124,10 @@ bool Printer::TurnPaper() {
 }
 
 Printer::Choice Printer::Ask(HWND owner, int pageCount) {
+  if (!HasPrinters()) {
+    ShowNoPrinter(owner, PDERR_NODEVICES);
+    return {};
+  }
   constexpr int kMostPages = 0xFFFF;  // that the dialog can count
   PRINTDLGW dialog{};
   dialog.lStructSize = sizeof dialog;
