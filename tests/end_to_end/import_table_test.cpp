@@ -61,9 +61,9 @@ class ImageFile {
   std::string bytes_;
 };
 
-const std::set<std::string> kSystemLibraries = {"kernel32.dll", "msvcrt.dll",   "user32.dll",
-                                                "gdi32.dll",    "shell32.dll",  "advapi32.dll",
-                                                "comctl32.dll", "comdlg32.dll", "ole32.dll"};
+const std::set<std::string> kSystemLibraries = {"kernel32.dll", "msvcrt.dll",   "user32.dll",   "gdi32.dll",
+                                                "shell32.dll",  "advapi32.dll", "comctl32.dll", "comdlg32.dll",
+                                                "winspool.drv", "ole32.dll"};
 
 }  // namespace
 
