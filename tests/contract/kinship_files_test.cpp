@@ -12,7 +12,7 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr int kFileName = 0x480;  // edt1 of dlgs.h: the field of the system's dialogs for files
+constexpr int kFileName = 0x47C;  // cmb13 of dlgs.h: the field of the system's dialogs for files
 
 constexpr char kWithoutMoshe[] =
     "birthday|1948-05-14||anna||Likes books\r\n"
