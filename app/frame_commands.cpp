@@ -14,6 +14,7 @@
 #include "companion/candles.h"
 #include "companion/guide.h"
 #include "companion/hours.h"
+#include "companion/kinship.h"
 #include "companion/lections.h"
 #include "companion/placepick.h"
 #include "companion/stamp.h"
@@ -23,6 +24,7 @@
 #include "engine/settings_flags.h"
 #include "locations/location_lookup.h"
 #include "locations/location_manager.h"
+#include "readings/daf_yomi_dialog.h"
 #include "resources/ids.h"
 #include "shabbat/preferences_dialog.h"
 #include "win/message_box.h"
@@ -124,6 +126,13 @@ void ChangeFormOfTimes(HWND frame) {
   if (StampConfigure(frame)) RedrawEverything(frame);
 }
 
+void ShowDafYomi(HWND frame) {
+  const HWND document = ActiveDocument();
+  if (!document) return;
+  const DateRange range = GetRangeProperties(document);
+  RunDafYomiDialog(frame, &range);
+}
+
 // Of the three views, only the zmanim are printed.
 void Print(HWND frame) {
   const HWND document = ActiveDocument();
@@ -171,6 +180,7 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_PRINT, Print},
     {IDM_PRINTER_SETUP, PrinterSetup},
     {IDM_EXIT, Exit},
+    {IDM_KINSHIP_FONT, KinshipFontDialog},
     {IDM_ZMANIM_SELECTION, SelectZmanim},
     {IDM_READINGS_CONFIGURE, ChangeReadings<LectionsDoConfigureDialog>},
     {IDM_READINGS_LANGUAGE, ChangeReadings<LectionsDoLanguageDialog>},
@@ -190,6 +200,10 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_VIEW_SHABBAT_TIMES, PressButton<IDB_SHABBAT_TIMES>},
     {IDM_VIEW_ZMANIM, PressButton<IDB_ZMANIM>},
     {IDM_VIEW_READINGS, PressButton<IDB_READINGS>},
+    {IDM_DAF_YOMI, ShowDafYomi},
+    {IDM_BIRTHDAYS, PressButton<IDB_BIRTHDAYS>},
+    {IDM_BAR_MITZVAH, PressButton<IDB_BAR_MITZVAH>},
+    {IDM_ALMANAC, PressButton<IDB_ALMANAC>},
     {IDM_WINDOW_CASCADE, Cascade},
     {IDM_WINDOW_TILE_VERTICALLY, TileVertically},
     {IDM_WINDOW_TILE, TileHorizontally},

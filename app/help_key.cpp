@@ -12,6 +12,7 @@ constexpr char kShabbatTimes[] = "Shabbat times";
 constexpr char kPlaces[] = "Places";
 constexpr char kZmanim[] = "Zmanim";
 constexpr char kReadings[] = "Readings";
+constexpr char kPersons[] = "Persons";
 constexpr char kExports[] = "Exports and printing";
 
 struct HelpTopic {
@@ -32,6 +33,7 @@ constexpr HelpTopic kDialogTopics[] = {
     {HELPID_DELIMITED_DATES, kExports},
     {HELPID_PRINTING, kExports},
     {HELPID_EDIT_ZMAN, kZmanim},
+    {HELPID_DAF_YOMI, kPersons},
     {HELPID_CANDLES, kShabbatTimes},
     {HELPID_CANDLES_ENTRY, kShabbatTimes},
     {HELPID_HOURS_SELECTION, kZmanim},
@@ -42,6 +44,11 @@ constexpr HelpTopic kDialogTopics[] = {
     {HELPID_OWNHOURS_TIME, kZmanim},
     {HELPID_STAMP_FORM, kShabbatTimes},
     {HELPID_PLACEPICK, kPlaces},
+    {HELPID_KINSHIP, kPersons},
+    {HELPID_KINSHIP_ENTRY, kPersons},
+    {HELPID_KINSHIP_EXPORT, kPersons},
+    {HELPID_MAJORITY, kPersons},
+    {HELPID_PRINT_PREVIEW, kPersons},
 };
 
 struct ViewTopic {

@@ -21,9 +21,10 @@ void Check(HMENU menu, unsigned id, bool checked) {
 }
 
 void UpdateDocumentCommands(HMENU menu, HWND document) {
-  for (const unsigned id : {IDM_SUNSET_OF_A_DAY, IDM_EXPORT_TEXT, IDM_EXPORT_RTF, IDM_EXPORT_ZMANIM, IDM_EXPORT_DATES,
-                            IDM_VIEW_SHABBAT_TIMES, IDM_VIEW_ZMANIM, IDM_VIEW_READINGS, IDM_WINDOW_CASCADE,
-                            IDM_WINDOW_TILE_VERTICALLY, IDM_WINDOW_TILE, IDM_WINDOW_CLOSE_ALL}) {
+  for (const unsigned id :
+       {IDM_SUNSET_OF_A_DAY, IDM_EXPORT_TEXT, IDM_EXPORT_RTF, IDM_EXPORT_ZMANIM, IDM_EXPORT_DATES,
+        IDM_VIEW_SHABBAT_TIMES, IDM_VIEW_ZMANIM, IDM_VIEW_READINGS, IDM_DAF_YOMI, IDM_BIRTHDAYS, IDM_BAR_MITZVAH,
+        IDM_ALMANAC, IDM_WINDOW_CASCADE, IDM_WINDOW_TILE_VERTICALLY, IDM_WINDOW_TILE, IDM_WINDOW_CLOSE_ALL}) {
     Enable(menu, id, document != nullptr);
   }
   Enable(menu, IDM_EXPORT_RTF_BY_DAY, document && IsPaneVisible(document, IDC_ZMANIM_PANE));

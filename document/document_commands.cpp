@@ -1,8 +1,11 @@
 #include "document/document_commands.h"
 
+#include "companion/kinship.h"
+#include "companion/majority.h"
 #include "document/document_window.h"
 #include "engine/string_table.h"
 #include "resources/ids.h"
+#include "win/local_date.h"
 #include "win/message_box.h"
 
 namespace {
@@ -63,6 +66,16 @@ void GoToAlmanac(HWND document) {
   BringUpAlmanac();
 }
 
+void ShowBirthdays(HWND document) {
+  KinshipInvoke(document, KINSHIP_GREGORIAN, LocalDate().uYear);
+}
+
+void ShowBarMitzvah(HWND document) {
+  MajorityDialogData data;
+  MajorityInitDialogData(&data);
+  MajorityDoDialog(document, &data);
+}
+
 template <unsigned frameCommand>
 void Forward(HWND document) {
   SendFrameCommand(document, frameCommand);
@@ -79,6 +92,9 @@ constexpr DocumentCommand kDocumentCommands[] = {
     {IDB_PRINT, Forward<IDM_PRINT>},
     {IDB_EXIT, Forward<IDM_EXIT>},
     {IDB_HELP, Forward<IDM_HELP>},
+    {IDB_BIRTHDAYS, ShowBirthdays},
+    {IDB_BAR_MITZVAH, ShowBarMitzvah},
+    {IDB_DAF_YOMI, Forward<IDM_DAF_YOMI>},
 };
 
 }  // namespace

@@ -2,6 +2,9 @@
 //
 //   print_answers readings FIRST LAST   the Jewish years: a line of JSON for each day, land and custom with readings
 //   print_answers calendar              the years 1583 to 3000: "year-month-day day.month.year" of both calendars
+//   print_answers personal              each day of the Jewish years 5682 to 5719: "birthday" or "yahrzeit",
+//   day.month.year
+//                                       of the event, the Jewish year, year-month-day when it is kept, for 38 years
 //   print_answers clocks                for each line "zone seconds" of the input the offset from UTC, "-" for none
 #include <cstdio>
 #include <cstdlib>
@@ -13,6 +16,7 @@
 #include "libraries/calendar/jewish.h"
 #include "libraries/lections/language.h"
 #include "libraries/lections/reading_texts.h"
+#include "libraries/persons/personal_date.h"
 #include "libraries/sun/clock_rules.h"
 
 namespace {
@@ -66,6 +70,25 @@ void PrintCalendar() {
   }
 }
 
+// Two cycles of 19 years. Yahrzeit of Adar is kept in Adar I, as those programs have it.
+void PrintPersonal() {
+  constexpr int32_t kYears = 38;
+  constexpr int32_t kFirst = 5682;
+  for (int32_t day = calendar::JewishNewYear(kFirst); day < calendar::JewishNewYear(kFirst + kYears); ++day) {
+    const calendar::Date event = calendar::JewishFromAbsolute(day);
+    for (int32_t year = event.year + 1; year <= event.year + kYears; ++year) {
+      for (const persons::Kind kind : {persons::Kind::kBirthday, persons::Kind::kYahrzeit}) {
+        const bool isBirthday = kind == persons::Kind::kBirthday;
+        const persons::AdarCustom adar = persons::CustomOf(kind, std::nullopt, persons::AdarCustom::kAdarI);
+        for (const persons::Observance& kept : persons::KeptInJewishYear(event, kind, adar, year)) {
+          std::cout << (isBirthday ? "birthday " : "yahrzeit ") << event.day << '.' << event.month << '.' << event.year
+                    << ' ' << year << ' ' << CivilText(kept.absoluteDay) << '\n';
+        }
+      }
+    }
+  }
+}
+
 void PrintClocks() {
   std::string zone;
   for (int64_t moment = 0; std::cin >> zone >> moment;) {
@@ -82,10 +105,12 @@ int main(int argc, char** argv) {
     PrintReadings(std::atoi(argv[2]), std::atoi(argv[3]));
   } else if (what == "calendar") {
     PrintCalendar();
+  } else if (what == "personal") {
+    PrintPersonal();
   } else if (what == "clocks") {
     PrintClocks();
   } else {
-    std::cerr << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | clocks\n";
+    std::cerr << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | clocks\n";
     return 1;
   }
   return 0;

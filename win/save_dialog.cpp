@@ -40,12 +40,7 @@ std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, Las
   dialog.lpstrDefExt = ExtensionOf(format);
   dialog.Flags = OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
   if (!Run(dialog)) {
-    if (CommDlgExtendedError() == FNERR_BUFFERTOOSMALL) {
-      ShowStop(owner,
-               "The file's name and folder together may have 255 characters.\nPlease choose a shorter name or another "
-               "folder.",
-               "Error");
-    }
+    ShowIfNameTooLong(owner);
     return std::nullopt;
   }
   if (format == ExportFormat::kRtf && dialog.nFilterIndex == kUsualRtf) form = RtfForm::kUsual;
@@ -57,6 +52,14 @@ std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, Las
 std::optional<std::string> AskForTextFile(HWND owner, LastExport& last) {
   RtfForm none = RtfForm::kUsual;
   return AskForExportFile(owner, ExportFormat::kText, last, none);
+}
+
+void ShowIfNameTooLong(HWND owner) {
+  if (CommDlgExtendedError() != FNERR_BUFFERTOOSMALL) return;
+  ShowStop(owner,
+           "The file's name and folder together may have 255 characters.\nPlease choose a shorter name or another "
+           "folder.",
+           "Error");
 }
 
 std::string UnwritableFileText(const std::string& file) {

@@ -22,6 +22,9 @@ std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, Las
 // The same for a text file.
 std::optional<std::string> AskForTextFile(HWND owner, LastExport& last);
 
+// Tells the user when a save dialog that had no answer refused a name for its length.
+void ShowIfNameTooLong(HWND owner);
+
 // What to say of a file that could not be written while an older one was left alone: its name and what to do.
 std::string UnwritableFileText(const std::string& file);
 void ShowUnwritableFile(HWND owner, const std::string& file);

@@ -15,6 +15,23 @@ INT_PTR RunDialog(HWND owner, int dialogId, DLGPROC procedure, void* state);
 // closes, an open one stays and sounds.
 INT_PTR OnException(HWND dialog, UINT message);
 
+// The procedure of a dialog that a class is in charge of: RunDialog is given the object as state, Attach(dialog) is its
+// first call, Handle(message, wParam, lParam) is each message's.
+template <typename Dialog>
+INT_PTR CALLBACK ClassDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
+    reinterpret_cast<Dialog*>(lParam)->Attach(dialog);
+  }
+  auto* const self = reinterpret_cast<Dialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
+  if (!self) return FALSE;
+  try {
+    return self->Handle(message, wParam, lParam);
+  } catch (...) {
+    return OnException(dialog, message);
+  }
+}
+
 std::wstring TextOf(HWND window);
 
 // An error of the user's or the system's, in words that say how to go on.

@@ -12,6 +12,7 @@ constexpr Topic kTopics[] = {
     {"Accuracy", "accuracy.html"},
     {"Zmanim", "zmanim.html"},
     {"Readings", "readings.html"},
+    {"Persons", "persons.html"},
     {"Exports and printing", "exports.html"},
 };
 

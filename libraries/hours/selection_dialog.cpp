@@ -64,21 +64,7 @@ SelectionDialog::SelectionDialog(const Choice& stored, const DayTimes& times)
     : stored_(stored), choice_(stored), offered_(stored), times_(times) {}
 
 void SelectionDialog::Run(HWND owner) {
-  dialogs::RunDialog(owner, IDD_SELECTION, DialogProc, this);
-}
-
-INT_PTR CALLBACK SelectionDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-    reinterpret_cast<SelectionDialog*>(lParam)->dialog_ = dialog;
-  }
-  auto* const self = reinterpret_cast<SelectionDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  if (!self) return FALSE;
-  try {
-    return self->Handle(message, wParam, lParam);
-  } catch (...) {
-    return dialogs::OnException(dialog, message);
-  }
+  dialogs::RunDialog(owner, IDD_SELECTION, dialogs::ClassDialogProc<SelectionDialog>, this);
 }
 
 INT_PTR SelectionDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

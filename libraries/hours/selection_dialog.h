@@ -25,10 +25,11 @@ class SelectionDialog {
   // Runs it until the user ends it.
   void Run(HWND owner);
 
- private:
-  static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+  // For dialogs::ClassDialogProc.
+  void Attach(HWND dialog) { dialog_ = dialog; }
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
+ private:
   INT_PTR OnOpen();
   INT_PTR OnSize();
   INT_PTR OnCommand(int control, int notification);

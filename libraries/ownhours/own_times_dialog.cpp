@@ -51,10 +51,11 @@ class OwnTimesDialog {
   // Whether the file was changed.
   bool Run(HWND owner);
 
- private:
-  static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+  // For dialogs::ClassDialogProc.
+  void Attach(HWND dialog) { dialog_ = dialog; }
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
+ private:
   INT_PTR OnInitDialog();
   INT_PTR OnSize();
   INT_PTR OnCommand(int control, int notification);
@@ -92,21 +93,7 @@ class OwnTimesDialog {
 bool OwnTimesDialog::Run(HWND owner) {
   const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_LISTVIEW_CLASSES | ICC_DATE_CLASSES};
   InitCommonControlsEx(&classes);
-  return dialogs::RunDialog(owner, IDD_OWN_TIMES, DialogProc, this) == IDOK;
-}
-
-INT_PTR CALLBACK OwnTimesDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-    reinterpret_cast<OwnTimesDialog*>(lParam)->dialog_ = dialog;
-  }
-  auto* const self = reinterpret_cast<OwnTimesDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  if (!self) return FALSE;
-  try {
-    return self->Handle(message, wParam, lParam);
-  } catch (...) {
-    return dialogs::OnException(dialog, message);
-  }
+  return dialogs::RunDialog(owner, IDD_OWN_TIMES, dialogs::ClassDialogProc<OwnTimesDialog>, this) == IDOK;
 }
 
 INT_PTR OwnTimesDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -81,13 +81,6 @@ LRESULT CALLBACK TypedProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam
   return DefSubclassProc(edit, message, wParam, lParam);
 }
 
-HINSTANCE OwnModule() {
-  HMODULE module = nullptr;
-  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                     reinterpret_cast<LPCWSTR>(&OwnModule), &module);
-  return module;
-}
-
 class PickerDialog {
  public:
   PickerDialog(const PlaceIndex& places, std::string_view currentName)
@@ -95,10 +88,11 @@ class PickerDialog {
 
   std::optional<std::size_t> Run(HWND owner);
 
- private:
-  static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+  // For dialogs::ClassDialogProc.
+  void Attach(HWND dialog) { dialog_ = dialog; }
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
 
+ private:
   INT_PTR OnInitDialog();
   INT_PTR OnSize();
   INT_PTR OnCommand(int control, int notification);
@@ -138,24 +132,8 @@ std::optional<std::size_t> PickerDialog::Run(HWND owner) {
   std::array<char, kNameSize> start = {};
   ProfileGetString(kStartSection, kStartKey, "", start.data(), static_cast<uint32_t>(start.size()), kStartFile);
   startPlace_ = start.data();
-  DialogBoxParamW(OwnModule(), MAKEINTRESOURCEW(IDD_PICKER), owner, DialogProc, reinterpret_cast<LPARAM>(this));
+  dialogs::RunDialog(owner, IDD_PICKER, dialogs::ClassDialogProc<PickerDialog>, this);
   return picked_;
-}
-
-INT_PTR CALLBACK PickerDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-    reinterpret_cast<PickerDialog*>(lParam)->dialog_ = dialog;
-  }
-  auto* const self = reinterpret_cast<PickerDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  if (!self) return FALSE;
-  try {
-    return self->Handle(message, wParam, lParam);
-  } catch (...) {  // out of memory; nothing may leave through the system's calls
-    self->picked_.reset();
-    EndDialog(dialog, IDCANCEL);
-    return FALSE;
-  }
 }
 
 INT_PTR PickerDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -45,6 +45,7 @@ std::vector<std::string> Values(const std::string& text, const std::string& attr
 TEST(HelpTopics, AreFoundWhateverTheirCase) {
   EXPECT_EQ(guide::TopicNamed("Shabbat times").page, "shabbat_times.html");
   EXPECT_EQ(guide::TopicNamed("ZMANIM").page, "zmanim.html");
+  EXPECT_EQ(guide::TopicNamed("persons").page, "persons.html");
   EXPECT_EQ(guide::TopicNamed("readings").page, "readings.html");
   EXPECT_EQ(guide::TopicNamed("exports and Printing").page, "exports.html");
   EXPECT_EQ(guide::TopicNamed("accuracy").page, "accuracy.html");

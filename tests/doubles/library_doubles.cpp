@@ -8,11 +8,13 @@
 
 #include "companion/candles.h"
 #include "companion/datecore.h"
+#include "companion/folio.h"
 #include "companion/glyphs.h"
 #include "companion/guide.h"
 #include "companion/hours.h"
 #include "companion/kinship.h"
 #include "companion/lections.h"
+#include "companion/majority.h"
 #include "companion/ownhours.h"
 #include "companion/placepick.h"
 #include "companion/stamp.h"
@@ -287,6 +289,26 @@ void KinshipInit(void) {
 }
 void KinshipDone(void) {
   LogCall("KinshipDone");
+}
+void KinshipInvoke(HWND owner, uint32_t calendar, uint32_t year) {
+  Libraries().dialogOwner = owner;
+  LogCall("persons, calendar %u year %u", calendar, year);
+}
+void KinshipFontDialog(HWND owner) {
+  Libraries().dialogOwner = owner;
+  LogCall("font of persons");
+}
+
+void MajorityInitDialogData(MajorityDialogData* data) {
+  *data = kDoubledChild;
+}
+void MajorityDoDialog(HWND owner, MajorityDialogData* data) {
+  Libraries().dialogOwner = owner;
+  LogCall("coming of age of %u.%u.%u %u %u", data->day, data->month, data->year, data->afterSunset, data->isGirl);
+}
+
+void FolioGetWithCycle(uint32_t day, uint32_t month, uint32_t year, char* text) {
+  std::snprintf(text, 256, "page %u.%u.%u", day, month, year);
 }
 
 BOOL GlyphsTextOut(HDC dc, int x, int y, const char* text, int count) {

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "companion/calendar_date.h"
+#include "companion/majority.h"
 #include "tests/doubles/ini_files.h"
 
 struct DoubledTime {
@@ -54,6 +55,9 @@ struct BrokenText {
 // What the doubled text library measures.
 inline constexpr int kDoubledCharacterWidth = 8;
 inline constexpr int kDoubledTextHeight = 13;
+
+// The record that the doubled majority library fills.
+inline constexpr MajorityDialogData kDoubledChild = {1, 2, 2014, 1, 1};
 
 struct LibraryScript {
   // profile: what the files hold, and the keys "file|section|key" that are read though they do not hold them. A read of
@@ -106,7 +110,8 @@ struct LibraryScript {
   // placepick: the name that the user picks; empty: cancelled
   std::string pickedLocation;
 
-  HWND helpOwner = nullptr;  // guide: the window that the last help was for
+  HWND dialogOwner = nullptr;  // kinship and majority: of the last dialog
+  HWND helpOwner = nullptr;    // guide: the window that the last help was for
 
   // glyphs
   std::vector<Draw> draws;         // on windows

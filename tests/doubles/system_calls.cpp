@@ -301,6 +301,21 @@ BOOL WINAPI CountedGlobalUnlock(HGLOBAL block) {
   return real(block);
 }
 
+// The block is the system's from now on.
+HANDLE WINAPI NotedSetClipboardData(UINT format, HANDLE block) {
+  static const auto real = REAL("user32.dll", SetClipboardData);
+  static const auto lock = REAL("kernel32.dll", GlobalLock);
+  static const auto unlock = REAL("kernel32.dll", GlobalUnlock);
+  if (System().clipboardRefuses) return nullptr;
+  EXPECT_EQ(format, UINT{CF_TEXT});
+  System().clipboardText = static_cast<const char*>(lock(block));
+  System().clipboardOwner = GetOpenClipboardWindow();
+  unlock(block);
+  CheckGuard(block);
+  System().blocks.erase(block);
+  return real(format, block);
+}
+
 }  // namespace
 
 extern "C" {
@@ -315,6 +330,7 @@ decltype(&MessageBeep) __imp_MessageBeep = FakeMessageBeep;
 decltype(&GetLocalTime) __imp_GetLocalTime = FakeGetLocalTime;
 decltype(&LoadLibraryA) __imp_LoadLibraryA = LoggedLoadLibraryA;
 decltype(&FreeLibrary) __imp_FreeLibrary = LoggedFreeLibrary;
+decltype(&SetClipboardData) __imp_SetClipboardData = NotedSetClipboardData;
 decltype(&GlobalAlloc) __imp_GlobalAlloc = CountedGlobalAlloc;
 decltype(&GlobalFree) __imp_GlobalFree = CountedGlobalFree;
 decltype(&GlobalSize) __imp_GlobalSize = SizeWithoutGuard;

@@ -57,6 +57,10 @@ struct SystemScript {
   DWORD renameError = 0;           // ... and why
   std::string refusedWindowClass;  // of which no window can be created
 
+  std::string clipboardText{};    // what the program put there last ...
+  HWND clipboardOwner = nullptr;  // ... and which window had it open
+  bool clipboardRefuses = false;
+
   // Which block and which font cannot be made, counted from now on from 1; 0: all can.
   int failingBlock = 0;
   int failingFont = 0;

@@ -1,6 +1,5 @@
 // The finished profile.dll in writer processes of their own, some of which are ended in the middle of a write.
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include <chrono>
 #include <filesystem>
@@ -8,74 +7,17 @@
 #include <string_view>
 
 #include "tests/contract/settings_home.h"
-#include "tests/profile_store/ini_writer.h"
+#include "tests/profile_store/writer_process.h"
 
 namespace {
 
 using std::chrono::microseconds;
-using std::chrono::steady_clock;
 
-constexpr DWORD kMostMilliseconds = 20000;  // a writer that takes longer hangs
 constexpr int kNoEnd = 1000000;
 
-std::wstring WriterPath() {
-  wchar_t exe[MAX_PATH] = L"";
-  GetModuleFileNameW(nullptr, exe, MAX_PATH);
-  return std::filesystem::path(exe).replace_filename(L"ini_writer.exe").wstring();
-}
-
-// A process that writes the keys first, first + 1 ...
-class Writer {
+class IniWriter : public WriterProcess {
  public:
-  Writer(int first, int count) {
-    static int number;
-    const std::wstring name =
-        L"times-readings-writer-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++number);
-    mapping_ =
-        CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(WriterProgress), name.c_str());
-    progress_ = static_cast<WriterProgress*>(MapViewOfFile(mapping_, FILE_MAP_WRITE, 0, 0, 0));
-    std::wstring commandLine =
-        L"\"" + WriterPath() + L"\" " + name + L" " + std::to_wstring(first) + L" " + std::to_wstring(count);
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process = {};
-    EXPECT_TRUE(CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr, nullptr,
-                               &startup, &process));
-    CloseHandle(process.hThread);
-    process_ = process.hProcess;
-  }
-  ~Writer() {
-    UnmapViewOfFile(progress_);
-    CloseHandle(mapping_);
-    CloseHandle(process_);
-  }
-  Writer(const Writer&) = delete;
-  Writer& operator=(const Writer&) = delete;
-
-  int Committed() const { return progress_->committed; }
-
-  // Lets it write for some microseconds after its first success, and ends it. The successes that it had.
-  int End(microseconds delay) {
-    const ULONGLONG start = GetTickCount64();
-    while (Committed() == 0 && GetTickCount64() - start < kMostMilliseconds) SwitchToThread();
-    const auto until = steady_clock::now() + delay;
-    while (steady_clock::now() < until) SwitchToThread();
-    TerminateProcess(process_, 9);
-    EXPECT_EQ(WaitForSingleObject(process_, kMostMilliseconds), WAIT_OBJECT_0);
-    return Committed();
-  }
-
-  DWORD ExitCode() {
-    EXPECT_EQ(WaitForSingleObject(process_, kMostMilliseconds), WAIT_OBJECT_0);
-    DWORD code = 0;
-    GetExitCodeProcess(process_, &code);
-    return code;
-  }
-
- private:
-  HANDLE mapping_;
-  WriterProgress* progress_;
-  HANDLE process_;
+  IniWriter(int first, int count) : WriterProcess(L"ini_writer.exe", first, count) {}
 };
 
 std::string Line(int key) {
@@ -104,7 +46,7 @@ TEST_F(WriterProcesses, EndedWithinAWriteTwoHundredTimesLoseNothing) {
   for (int round = 0; round < kRounds; ++round) {
     // From at once to some three writes later, in a scattered order: 37 and 100 have no common divisor.
     const microseconds delay(round * 37 % 100 * 50);
-    Writer writer(round * kKeysPerRound, kNoEnd);
+    IniWriter writer(round * kKeysPerRound, kNoEnd);
     const int committed = writer.End(delay);
     ASSERT_GT(committed, 0) << "round " << round;
     for (int i = 0; i < committed; ++i) expected += Line(round * kKeysPerRound + i);
@@ -116,15 +58,15 @@ TEST_F(WriterProcesses, EndedWithinAWriteTwoHundredTimesLoseNothing) {
     withinAWrite += LeftItsNewFile();
   }
   EXPECT_GT(withinAWrite, kRounds / 10) << "too few were ended where it hurts";
-  EXPECT_EQ(Writer(kRounds * kKeysPerRound, 1).ExitCode(), 0u);
+  EXPECT_EQ(IniWriter(kRounds * kKeysPerRound, 1).ExitCode(), 0u);
   EXPECT_EQ(home_.Bytes("written.ini"), expected + Line(kRounds * kKeysPerRound));
   EXPECT_EQ(FilesInFolder(), 1);
 }
 
 TEST_F(WriterProcesses, TwoAtOnceLoseNothing) {
   constexpr int kCount = 200;
-  Writer one(1000, kCount);
-  Writer other(2000, kCount);
+  IniWriter one(1000, kCount);
+  IniWriter other(2000, kCount);
   EXPECT_EQ(one.ExitCode(), 0u);
   EXPECT_EQ(other.ExitCode(), 0u);
   const std::string bytes = home_.Bytes("written.ini");
@@ -139,10 +81,10 @@ TEST_F(WriterProcesses, OneBesideOthersThatAreEndedLosesNothing) {
   constexpr int kCount = 500;
   constexpr int kRounds = 20;
   constexpr int kFirst = 10000;
-  Writer steady(kFirst, kCount);
+  IniWriter steady(kFirst, kCount);
   int committed[kRounds];
   for (int round = 0; round < kRounds; ++round) {
-    committed[round] = Writer(kFirst * (round + 2), kNoEnd).End(microseconds(round * 150));
+    committed[round] = IniWriter(kFirst * (round + 2), kNoEnd).End(microseconds(round * 150));
     ASSERT_GT(committed[round], 0) << "round " << round;
   }
   EXPECT_EQ(steady.ExitCode(), 0u);

@@ -12,11 +12,16 @@ uint32_t ThirtyDays(uint32_t, uint32_t) {
   return 30;
 }
 
+void NoMonthName(uint32_t, uint32_t, char* name, uint32_t, uint32_t, uint32_t) {
+  name[0] = '\0';
+}
+
 }  // namespace
 
 TEST_P(DialogLeakTest, OpenedAndClosedTwoHundredTimes) {
   Libraries().unknownSettingsAreMissing = true;
   CivilCalendar.DatefilterGetLastDayOfMonth = ThirtyDays;
+  LunarCalendar.DatefilterGetMonthNameEx = NoMonthName;
   OpenFrame();
   const auto openAndClose = [this] {
     WithDialog([&] { SendMessageA(frame_, WM_COMMAND, GetParam(), 0); },
@@ -36,4 +41,5 @@ TEST_P(DialogLeakTest, OpenedAndClosedTwoHundredTimes) {
 
 INSTANTIATE_TEST_SUITE_P(Commands, DialogLeakTest,
                          testing::Values(IDM_SELECT_RANGE, IDM_PREFERENCES, IDM_SUNSET_OF_A_DAY, IDM_ABOUT,
-                                         IDM_EXPORT_RTF, IDM_EXPORT_ZMANIM, IDM_EXPORT_DATES, IDM_LOCATION_MANAGER));
+                                         IDM_EXPORT_RTF, IDM_EXPORT_ZMANIM, IDM_EXPORT_DATES, IDM_LOCATION_MANAGER,
+                                         IDM_DAF_YOMI));

@@ -89,7 +89,8 @@ TEST_F(HelpKeyTest, EachDialogOfTheProgramHasItsPage) {
                                                        {"EXPNEWZMANIM", "Exports and printing"},
                                                        {"EXPNEWDATA", "Exports and printing"},
                                                        {"ABORTDLG", "Exports and printing"},
-                                                       {"EDITZMANIMDLG", "Zmanim"}};
+                                                       {"EDITZMANIMDLG", "Zmanim"},
+                                                       {"DAFYOMI", "Persons"}};
   for (const auto& [name, topic] : pages) {
     ExpectTopicOfDialog([&, name = name] { RunDialog<HandleAny>(frame_, name); }, topic);
   }
@@ -115,6 +116,11 @@ TEST_F(HelpKeyTest, EachDialogOfALibraryHasItsPage) {
                                                  {HELPID_OWNHOURS_TIME, "Zmanim"},
                                                  {HELPID_STAMP_FORM, "Shabbat times"},
                                                  {HELPID_PLACEPICK, "Places"},
+                                                 {HELPID_KINSHIP, "Persons"},
+                                                 {HELPID_KINSHIP_ENTRY, "Persons"},
+                                                 {HELPID_KINSHIP_EXPORT, "Persons"},
+                                                 {HELPID_MAJORITY, "Persons"},
+                                                 {HELPID_PRINT_PREVIEW, "Persons"},
                                                  {4711, "Start"}};
   WithDialog([&] { RunDialog<HandleAny>(frame_, "ABOUTDLG"); },
              [&](HWND dialog) {

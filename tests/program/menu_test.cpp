@@ -76,8 +76,13 @@ TEST_F(MenuTest, MenuTextsOfTheCommandsStand) {
       {1008, "&Print..."},
       {1009, "Printer &Setup..."},
       {1010, "&Exit"},
+      {1013, "Birthdays/&Yahrzeit font..."},
       {1020, "Export Zmanim..."},
       {1021, "Export Gregorian/Jewish date, Torah/Haphtarah readings and Holidays..."},
+      {1135, "&Daf Yomi..."},
+      {1136, "&Birthdays and yahrzeit..."},
+      {1137, "Bar and bat &mitzvah..."},
+      {1138, "&Almanac"},
       {2001, "&Cascade"},
       {2002, "Tile &Vertically"},
       {2003, "&Tile"},
@@ -98,7 +103,7 @@ TEST_F(MenuTest, MenuTextsOfTheCommandsStand) {
 TEST_F(MenuTest, CommandsWithoutActionAreGreyedAndIgnored) {
   ListNoUserPlace("Aachen");
   const HWND frame = OpenFrame();
-  for (const unsigned id : {1008u, 1012u, 1013u}) {
+  for (const unsigned id : {1008u, 1012u}) {
     EXPECT_FALSE(IsEnabled(frame, id)) << id;
     CallLog().clear();
     Command(frame, id);
@@ -111,10 +116,11 @@ TEST_F(MenuTest, CommandsWithoutActionAreGreyedAndIgnored) {
 TEST_F(MenuTest, WindowCommandsAreEnabledWhileADocumentIsActive) {
   ListNoUserPlace("Aachen");
   const HWND frame = OpenFrame();
-  for (const unsigned id : {2001u, 2002u, 2003u, 2005u, 1111u, 1010u}) EXPECT_TRUE(IsEnabled(frame, id)) << id;
+  for (const unsigned id : {2001u, 2002u, 2003u, 2005u, 1111u, 1135u, 1136u, 1137u, 1138u, 1010u})
+    EXPECT_TRUE(IsEnabled(frame, id)) << id;
   Command(frame, IDM_WINDOW_CLOSE_ALL);
   EXPECT_EQ(ActiveDocument(), nullptr);
-  for (const unsigned id : {1004u, 1005u, 2001u, 2002u, 2003u, 2004u, 2005u, 1111u}) {
+  for (const unsigned id : {1004u, 1005u, 2001u, 2002u, 2003u, 2004u, 2005u, 1111u, 1135u, 1136u, 1137u, 1138u}) {
     EXPECT_FALSE(IsEnabled(frame, id)) << id;
   }
   EXPECT_TRUE(IsEnabled(frame, 1010));
