@@ -52,21 +52,7 @@ KinshipWindow::KinshipWindow(persons::Persons stored, int32_t year)
 void KinshipWindow::Run(HWND owner) {
   const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_LISTVIEW_CLASSES | ICC_UPDOWN_CLASS};
   InitCommonControlsEx(&classes);
-  dialogs::RunDialog(owner, IDD_KINSHIP, DialogProc, this);
-}
-
-INT_PTR CALLBACK KinshipWindow::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-    reinterpret_cast<KinshipWindow*>(lParam)->dialog_ = dialog;
-  }
-  auto* const self = reinterpret_cast<KinshipWindow*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  if (!self) return FALSE;
-  try {
-    return self->Handle(message, wParam, lParam);
-  } catch (...) {
-    return dialogs::OnException(dialog, message);
-  }
+  dialogs::RunDialog(owner, IDD_KINSHIP, dialogs::ClassDialogProc<KinshipWindow>, this);
 }
 
 INT_PTR KinshipWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -24,11 +24,13 @@ class KinshipWindow {
   // Modal over its owner, which may be null.
   void Run(HWND owner);
 
+  // For dialogs::ClassDialogProc.
+  void Attach(HWND dialog) { dialog_ = dialog; }
+  INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
  private:
   using Id = persons::Editing::Id;
 
-  static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-  INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR OnInitDialog();
   INT_PTR OnSize();
   INT_PTR OnCommand(int control, int notification);

@@ -43,13 +43,16 @@ class PersonDialog {
   PersonDialog(const Shown& shown, const LastEntry& last, const Person* old) : shown_(shown), last_(last), old_(old) {}
 
   std::optional<Person> Run(HWND owner) {
-    if (dialogs::RunDialog(owner, IDD_PERSON, DialogProc, this) != IDOK) return std::nullopt;
+    if (dialogs::RunDialog(owner, IDD_PERSON, dialogs::ClassDialogProc<PersonDialog>, this) != IDOK)
+      return std::nullopt;
     return accepted_;
   }
 
- private:
-  static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+  // For dialogs::ClassDialogProc.
+  void Attach(HWND dialog) { dialog_ = dialog; }
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+ private:
   INT_PTR OnInitDialog();
   INT_PTR OnCommand(int control, int notification);
   INT_PTR OnAccept();
@@ -77,20 +80,6 @@ class PersonDialog {
   persons::DateEntry date_;
   std::optional<Person> accepted_;
 };
-
-INT_PTR CALLBACK PersonDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-    reinterpret_cast<PersonDialog*>(lParam)->dialog_ = dialog;
-  }
-  auto* const self = reinterpret_cast<PersonDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  if (!self) return FALSE;
-  try {
-    return self->Handle(message, wParam, lParam);
-  } catch (...) {
-    return dialogs::OnException(dialog, message);
-  }
-}
 
 INT_PTR PersonDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
