@@ -24,12 +24,12 @@ constexpr WPARAM kMostTypedLetters = 100;
 constexpr WPARAM kDigitsOfYear = 4;
 
 constexpr Anchor kAnchors[] = {
-    {IDC_COUNT, Follow::kMove, Follow::kNo},   {IDC_PERSONS, Follow::kGrow, Follow::kGrow},
-    {IDC_ADD, Follow::kMove, Follow::kNo},     {IDC_CHANGE, Follow::kMove, Follow::kNo},
-    {IDC_REMOVE, Follow::kMove, Follow::kNo},  {IDC_UNDO, Follow::kMove, Follow::kNo},
-    {IDC_IMPORT, Follow::kMove, Follow::kNo},  {IDC_EXPORT, Follow::kMove, Follow::kNo},
-    {IDC_PRINT, Follow::kMove, Follow::kNo},   {IDC_DAMAGED, Follow::kGrow, Follow::kMove},
-    {IDOK, Follow::kMove, Follow::kMove},      {IDCANCEL, Follow::kMove, Follow::kMove},
+    {IDC_COUNT, Follow::kMove, Follow::kNo},    {IDC_PERSONS, Follow::kGrow, Follow::kGrow},
+    {IDC_ADD, Follow::kNo, Follow::kMove},      {IDC_CHANGE, Follow::kNo, Follow::kMove},
+    {IDC_REMOVE, Follow::kNo, Follow::kMove},   {IDC_UNDO, Follow::kNo, Follow::kMove},
+    {IDC_IMPORT, Follow::kMove, Follow::kMove}, {IDC_EXPORT, Follow::kMove, Follow::kMove},
+    {IDC_PRINT, Follow::kMove, Follow::kMove},  {IDC_DAMAGED, Follow::kGrow, Follow::kMove},
+    {IDOK, Follow::kMove, Follow::kMove},       {IDCANCEL, Follow::kMove, Follow::kMove},
     {IDC_APPLY, Follow::kMove, Follow::kMove},
 };
 
@@ -73,6 +73,7 @@ INT_PTR KinshipWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 INT_PTR KinshipWindow::OnInitDialog() {
   list_.Start(Control(IDC_PERSONS), shown_);
+  list_.ShowOrder(sortColumn_, descending_);
   FillLists();
   Send(IDC_TYPED, EM_LIMITTEXT, kMostTypedLetters, 0);
   Send(IDC_YEAR, EM_LIMITTEXT, kDigitsOfYear, 0);

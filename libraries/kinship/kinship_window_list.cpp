@@ -29,6 +29,7 @@ void KinshipWindow::SortBy(Column column) {
   Send(IDC_SORT, CB_SETCURSEL, static_cast<WPARAM>(column), 0);
   const std::vector<Id> selected = SelectedIds();
   rows_.Sort(sortColumn_, descending_);
+  list_.ShowOrder(sortColumn_, descending_);
   Fill();
   Show(selected);
 }
@@ -80,7 +81,6 @@ void KinshipWindow::Reckon() {
 void KinshipWindow::Fill() {
   isFilling_ = true;
   rows_.Search(dialogs::ToUtf8(dialogs::TextOf(Control(IDC_TYPED))));
-  list_.ShowOrder(sortColumn_, descending_);
   list_.SetCount(rows_.Count());
   SetDlgItemTextW(dialog_, IDC_COUNT, CountText(rows_.Count(), editing_.Now().size()).c_str());
   isFilling_ = false;
