@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 
 #include "publishing/core/table_pages.h"
 #include "publishing/dc_surface.h"
@@ -210,7 +211,7 @@ INT_PTR CALLBACK PreviewProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lP
   auto* const preview = reinterpret_cast<Preview*>(GetWindowLongPtrW(dialog, DWLP_USER));
   return preview ? preview->Handle(dialog, message, wParam, lParam) : FALSE;
 } catch (...) {
-  if (message == WM_INITDIALOG) EndDialog(dialog, IDCANCEL);
+  if (message == WM_INITDIALOG) EndDialog(dialog, 0);  // no success
   MessageBeep(MB_ICONSTOP);
   return TRUE;
 }
@@ -218,10 +219,18 @@ INT_PTR CALLBACK PreviewProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lP
 }  // namespace
 
 void PreviewTable(HWND owner, const PrintedTable& printed) {
-  Preview preview(printed);
-  if (!RegisterPageView(ThisModule())) return;
-  DialogBoxParamW(ThisModule(), MAKEINTRESOURCEW(IDD_PREVIEW), owner, PreviewProc, reinterpret_cast<LPARAM>(&preview));
+  bool isShown = false;
+  try {
+    Preview preview(printed);
+    const auto state = reinterpret_cast<LPARAM>(&preview);
+    isShown = RegisterPageView(ThisModule()) &&
+              DialogBoxParamW(ThisModule(), MAKEINTRESOURCEW(IDD_PREVIEW), owner, PreviewProc, state) > 0;
+  } catch (const std::bad_alloc&) {
+  }
   UnregisterPageView(ThisModule());
+  if (isShown) return;
+  MessageBoxW(owner, L"There is not enough memory to show the pages. Close other windows and try again.", L"Error",
+              MB_OK | MB_ICONSTOP);
 }
 
 }  // namespace publishing

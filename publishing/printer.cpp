@@ -66,6 +66,7 @@ DeviceScale ScaleOf(HDC printer) {
 }
 
 Printer::Printer() {
+  const ScopedWaitCursor wait;  // a printer of the network may take its time
   PRINTDLGW defaults{};
   defaults.lStructSize = sizeof defaults;
   defaults.Flags = PD_RETURNDEFAULT | PD_RETURNIC | PD_NOWARNING;

@@ -10,7 +10,8 @@
 
 namespace publishing {
 
-// UTF-8 with its mark, a record of headings, then the rows; without title and remarks. Texts stand as they are.
+// UTF-8 with its mark, a record of headings, then the rows; without title and remarks. Texts stand as they are,
+// also those that a spreadsheet takes for a formula: what is written is what CsvIn reads.
 std::string CsvOf(const Table& table);
 
 // The records of a text with or without mark, its lines ended by CR LF, LF or CR; empty lines are no records. Where the

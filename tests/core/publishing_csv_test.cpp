@@ -75,5 +75,20 @@ TEST(Csv, TextAfterAClosingQuoteIsAnError) {
   for (const char* const text : {"\"a\"b", "\"a\" ,b", "x\r\n\"a\"b\r\n"}) EXPECT_EQ(CsvIn(text), std::nullopt) << text;
 }
 
+TEST(Csv, AMegabyteOfAnythingIsRead) {
+  constexpr std::size_t kMegabyte = 1 << 20;
+  EXPECT_EQ(CsvIn(std::string(kMegabyte, 'x')), (Records{{std::string(kMegabyte, 'x')}}));
+  EXPECT_EQ(CsvIn(std::string(kMegabyte, ','))->front().size(), kMegabyte + 1);
+  EXPECT_EQ(CsvIn(std::string(kMegabyte, '\n')), Records{});
+  EXPECT_EQ(CsvIn(std::string(kMegabyte, '"')), (Records{{std::string(kMegabyte / 2 - 1, '"')}}));
+  EXPECT_EQ(CsvIn(std::string(kMegabyte - 1, '"')), std::nullopt);
+  std::string rubbish;
+  for (uint32_t dice = 1; rubbish.size() < kMegabyte; dice = dice * 1664525 + 1013904223) {
+    rubbish += static_cast<char>(dice >> 24);
+  }
+  const auto read = CsvIn(rubbish);
+  EXPECT_TRUE(!read || !read->empty());
+}
+
 }  // namespace
 }  // namespace publishing

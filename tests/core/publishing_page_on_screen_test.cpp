@@ -38,7 +38,8 @@ TEST(PageOnScreen, PageWidthNeedsNoBarInAHighWindow) {
 TEST(PageOnScreen, ActualSizeIsThatOfTheScreensInch) {
   EXPECT_EQ(Shown(Zoom::kActualSize, 2000, 2000).page, (PixelExtent{576, 864}));
   EXPECT_EQ(Shown(Zoom::kActualSize, 600, 888).visible, (PixelExtent{600, 888}));
-  EXPECT_EQ(Shown(Zoom::kActualSize, 600, 887).visible, (PixelExtent{585, 871})) << "each bar takes room from the other";
+  EXPECT_EQ(Shown(Zoom::kActualSize, 600, 887).visible, (PixelExtent{585, 871}))
+      << "each bar takes room from the other";
   EXPECT_EQ(Shown(Zoom::kActualSize, 700, 887).visible, (PixelExtent{685, 887}));
 }
 

@@ -13,7 +13,7 @@ publishing::Table TableOfNames(int rows) {
     char number[16];
     std::snprintf(number, sizeof number, " %03d", row);
     table.rows.push_back({std::string("Reuben") + number, std::string("ראובן") + number, std::string("Рувим") + number,
-                          std::to_string(1000 + row)});
+                          std::to_string(4000 + row)});
   }
   return table;
 }
