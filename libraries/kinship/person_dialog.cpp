@@ -75,7 +75,8 @@ class PersonDialog {
 
   const Shown& shown_;
   const LastEntry& last_;
-  const Person* const old_;  // null for a new one
+  const Person* const old_;        // null for a new one
+  std::optional<Person> offered_;  // what the controls said of the old one at first
   HWND dialog_ = nullptr;
   persons::DateEntry date_;
   std::optional<Person> accepted_;
@@ -101,11 +102,13 @@ INT_PTR PersonDialog::OnInitDialog() {
   date_.Start(dialog_, kDateControls, persons::YearIs::kOptional, last_.calendar);
   if (old_) {
     ShowPerson(*old_);
+    ShowConsequences();
+    offered_ = Entered(old_->event);
   } else {
     Choose(IDC_OCCASION, static_cast<int>(last_.kind));
     Choose(IDC_ADAR, 0);
+    ShowConsequences();
   }
-  ShowConsequences();
   return TRUE;
 }
 
@@ -183,7 +186,7 @@ INT_PTR PersonDialog::OnAccept() {
   } else if (!event) {
     dialogs::ShowFieldError(dialog_, date_.FaultyControl(), date_.Fault());
   } else {
-    accepted_ = person;
+    accepted_ = person == offered_ ? *old_ : person;  // a file written by hand may say more than the controls
     EndDialog(dialog_, IDOK);
   }
   return TRUE;

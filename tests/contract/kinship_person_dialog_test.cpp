@@ -170,6 +170,14 @@ TEST_F(PersonDialogTest, AnUnchangedEntryIsNoStep) {
   run.End(IDCANCEL);
 }
 
+TEST_F(PersonDialogTest, WhatTheControlsDoNotSayIsNoStepEither) {
+  home_.Put("persons.txt", "birthday|1948-05-14|both|Dan  Levi|Title|\r\n");
+  KinshipRun run;
+  run.CloseEntry(run.OpenEntry(IDC_CHANGE), IDOK);
+  EXPECT_FALSE(run.IsEnabled(IDC_APPLY));
+  run.End(IDCANCEL);
+}
+
 TEST_F(PersonDialogTest, TheOccasionLastUsedIsOffered) {
   {
     KinshipRun run;

@@ -1,6 +1,11 @@
 // The window with persons and their dates: its list.
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <atomic>
+#include <cwctype>
+#include <utility>
+
 #include "tests/contract/kinship_driver.h"
 
 namespace {
@@ -164,6 +169,93 @@ TEST_F(KinshipWindowTest, TheFontDialogKeepsTheFontThatWasChosen) {
   driver.Result();
   EXPECT_THAT(home_.Bytes("kinship.ini"), HasSubstr("TenthsOfPoints=120"));
   EXPECT_THAT(home_.Bytes("kinship.ini"), HasSubstr("Weight=400"));
+}
+
+// The letters that are keys with Alt, those of enabled and of disabled controls.
+std::wstring AccessKeys(HWND dialog) {
+  std::wstring keys;
+  for (HWND control = GetWindow(dialog, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
+    const std::wstring text = WindowText(control);
+    const size_t mark = text.find(L'&');
+    if (mark != text.npos && mark + 1 < text.size()) keys += static_cast<wchar_t>(towlower(text[mark + 1]));
+  }
+  return keys;
+}
+
+bool AreAllDifferent(std::wstring keys) {
+  std::ranges::sort(keys);
+  return std::ranges::adjacent_find(keys) == keys.end();
+}
+
+TEST_F(KinshipWindowTest, EveryAccessKeyIsOfOneControl) {
+  KinshipRun run;
+  EXPECT_EQ(AccessKeys(run.Window()).size(), 13u);
+  EXPECT_TRUE(AreAllDifferent(AccessKeys(run.Window())));
+  const HWND entry = run.OpenEntry(IDC_ADD);
+  EXPECT_TRUE(AreAllDifferent(AccessKeys(entry)));
+  run.CloseEntry(entry, IDCANCEL);
+  Press(run.Window(), IDC_EXPORT);
+  const HWND dialog = run.WaitFor(L"Export Dates");
+  EXPECT_TRUE(AreAllDifferent(AccessKeys(dialog)));
+  run.CloseEntry(dialog, IDCANCEL);
+  run.End(IDCANCEL);
+}
+
+TEST_F(KinshipWindowTest, F1IsTheOwners) {
+  static std::atomic<int> helps;
+  helps = 0;
+  DialogDriver driver([](HWND owner) {
+    const auto proc = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) -> LRESULT {
+      if (message == WM_HELP) ++helps;
+      return DefSubclassProc(window, message, wParam, lParam);
+    };
+    SetWindowSubclass(owner, proc, 0, 0);
+    KinshipInvoke(owner, KINSHIP_GREGORIAN, 2000);
+    return 1;
+  });
+  const HWND window = driver.WaitFor(kKinshipTitle);
+  HELPINFO help = {};
+  help.cbSize = sizeof help;
+  SendMessageW(window, WM_HELP, 0, reinterpret_cast<LPARAM>(&help));
+  EXPECT_EQ(helps, 1);
+  for (const auto& [button, caption] : {std::pair(IDC_ADD, L"Add Date"), std::pair(IDC_EXPORT, L"Export Dates")}) {
+    Press(window, button);
+    const HWND dialog = driver.WaitFor(caption);
+    SendMessageW(dialog, WM_HELP, 0, reinterpret_cast<LPARAM>(&help));
+    Press(dialog, IDCANCEL);
+    EXPECT_TRUE(driver.WaitUntilGone(dialog));
+  }
+  EXPECT_EQ(helps, 3);
+  Press(window, IDCANCEL);
+  driver.Result();
+}
+
+TEST_F(KinshipWindowTest, WhatIsShownIsPreviewedForPrinting) {
+  KinshipRun run;
+  Press(run.Window(), IDC_PRINT);
+  HWND preview = nullptr;
+  EXPECT_TRUE(Eventually([&] {
+    return (preview = FindWindowW(nullptr, L"Birthdays and Yahrzeit - Print Preview")) && IsWindowVisible(preview);
+  }));
+  EXPECT_FALSE(IsWindowEnabled(run.Window()));
+  PostMessageW(preview, WM_CLOSE, 0, 0);
+  EXPECT_TRUE(Eventually([&] { return IsWindowEnabled(run.Window()) != FALSE; }));
+  run.End(IDCANCEL);
+}
+
+TEST_F(KinshipWindowTest, TenThousandPersonsAreListed) {
+  std::string all;
+  for (int i = 0; i < 10000; ++i) all += "birthday|1950-02-16||Person-" + std::to_string(i) + "||\r\n";
+  home_.Put("persons.txt", all);
+  KinshipRun run;
+  EXPECT_EQ(run.Count(), 10000);
+  run.Type(L"person-9");
+  EXPECT_EQ(run.Count(), 1111);  // 9, 90 to 99, 900 to 999, 9000 to 9999
+  run.Type(L"person-99 birthday");
+  EXPECT_EQ(run.CountText(), L"111 of 10000");
+  run.Type(L"person-9");
+  EXPECT_EQ(run.Count(), 1111);
+  run.End(IDCANCEL);
 }
 
 TEST_F(KinshipWindowTest, TwoHundredOpeningsLeaveNothingBehind) {
