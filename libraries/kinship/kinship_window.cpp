@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 #include "libraries/calendar/gregorian.h"
 #include "libraries/dialogs/dialog_parts.h"
@@ -41,9 +40,9 @@ int32_t Today() {
 
 }  // namespace
 
-KinshipWindow::KinshipWindow(persons::Persons stored, int32_t year)
+KinshipWindow::KinshipWindow(const persons::Persons& stored, int32_t year)
     : editing_(stored.persons),
-      damagedLines_(std::move(stored.damagedLines)),
+      damagedLines_(stored.damagedLines),
       shown_{year, Today(), StoredCustom()},
       storedCustom_(shown_.ofYahrzeit),
       lastEntry_(StoredLastEntry()),
@@ -189,7 +188,7 @@ void RunKinshipWindow(HWND owner, uint32_t year) {
   if (!dialogs::IsKnown(owner, persons::PersonsPath(), read) || !dialogs::IsKnownIni(owner, kSettingsFile)) return;
   constexpr uint32_t kFirst = persons::kFirstGregorianYear;
   constexpr uint32_t kLast = persons::kLastGregorianYear;
-  KinshipWindow(std::move(*stored), static_cast<int32_t>(std::clamp(year, kFirst, kLast))).Run(owner);
+  KinshipWindow(*stored, static_cast<int32_t>(std::clamp(year, kFirst, kLast))).Run(owner);
 }
 
 }  // namespace kinship

@@ -19,7 +19,7 @@ namespace kinship {
 class KinshipWindow {
  public:
   // stored: the file as it stands. year: Gregorian, in the years of personal_date.h.
-  KinshipWindow(persons::Persons stored, int32_t year);
+  KinshipWindow(const persons::Persons& stored, int32_t year);
 
   // Modal over its owner, which may be null.
   void Run(HWND owner);
