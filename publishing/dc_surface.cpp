@@ -17,9 +17,10 @@ constexpr double kTitleSize = 1.4;  // of the texts' size
 constexpr int kRuleDots = kDotsPerInch / 150;
 
 // A device rounds the widths of small letters up. Texts may then go on for a third of the gap to the next column, and
-// those for which this is not enough are drawn smaller; fonts that have few sizes need more than one attempt.
+// those for which this is not enough are drawn smaller; widths that jump from size to size need more
+// than one attempt.
 constexpr int kSlackDots = kDotsPerInch / 24;
-constexpr int kAttemptsToFit = 3;
+constexpr int kAttemptsToFit = 8;
 
 int Rounded(double value) {
   return static_cast<int>(std::lround(value));

@@ -141,7 +141,7 @@ TEST_F(Preview, OpenedAndClosedTwoHundredTimesItHoldsOnToNothing) {
   EXPECT_EQ(HeldObjects(), before);
   const Resources after = ResourcesNow();
   EXPECT_LE(after.handles, resources.handles + 20);
-  EXPECT_LE(after.heapBytes, resources.heapBytes + 200 * 1000) << "a kilobyte for each opening";
+  EXPECT_LE(after.heapBytes, resources.heapBytes + 200 * 50) << "fifty bytes for each opening";
 }
 
 }  // namespace

@@ -24,10 +24,11 @@ class Printing : public PreviewTest {
   }
 
   void PressPrint() { Press(preview_, IDC_PREVIEW_PRINT); }
-  bool HasCalled(const std::string& call) const {
-    const auto& calls = Spooler().calls;
-    return std::find(calls.begin(), calls.end(), call) != calls.end();
+  int CountOf(const std::string& call) const {
+    const auto calls = SpoolerCalls();
+    return static_cast<int>(std::count(calls.begin(), calls.end(), call));
   }
+  bool HasCalled(const std::string& call) const { return CountOf(call) > 0; }
   // Presses Print, and answers the error that comes. Its text.
   std::wstring Refused() {
     Open(TableOfNames(60));
@@ -42,9 +43,8 @@ TEST_F(Printing, EveryPageIsPrinted) {
   Open(TableOfNames(60));
   PressPrint();
   ASSERT_TRUE(Eventually([this] { return HasCalled("EndDoc"); }));
-  EXPECT_THAT(Spooler().calls, ElementsAre("PrintDlg to 2", "SetAbortProc", "StartDoc", "StartPage", "EndPage",
-                                           "StartPage", "EndPage", "EndDoc"));
-  EXPECT_EQ(Spooler().documentName, L"Names");
+  EXPECT_THAT(SpoolerCalls(), ElementsAre("PrintDlg to 2", "SetAbortProc", "StartDoc Names", "StartPage", "EndPage",
+                                          "StartPage", "EndPage", "EndDoc"));
 }
 
 TEST_F(Printing, OnlyThePagesThatTheUserChoseArePrinted) {
@@ -54,7 +54,7 @@ TEST_F(Printing, OnlyThePagesThatTheUserChoseArePrinted) {
   Open(TableOfNames(200));
   PressPrint();
   ASSERT_TRUE(Eventually([this] { return HasCalled("EndDoc"); }));
-  EXPECT_EQ(std::count(Spooler().calls.begin(), Spooler().calls.end(), "StartPage"), 2);
+  EXPECT_EQ(CountOf("StartPage"), 2);
 }
 
 TEST_F(Printing, PagesThatDoNotExistAreAnError) {
@@ -62,7 +62,7 @@ TEST_F(Printing, PagesThatDoNotExistAreAnError) {
   Spooler().firstPage = 7;
   Spooler().lastPage = 9;
   EXPECT_THAT(Refused(), HasSubstr(L"the table has 2 pages"));
-  EXPECT_FALSE(HasCalled("StartDoc"));
+  EXPECT_FALSE(HasCalled("StartDoc Names"));
 }
 
 TEST_F(Printing, WithoutAPrinterTheUserIsToldWhatToDo) {
@@ -78,7 +78,7 @@ TEST_F(Printing, APrinterThatHasGoneIsTold) {
 TEST_F(Printing, AFullDiskIsTold) {
   Spooler().endPageAnswer = SP_OUTOFDISK;
   EXPECT_THAT(Refused(), AllOf(HasSubstr(L"\"Names\" cannot be printed."), HasSubstr(L"Make room")));
-  EXPECT_EQ(Spooler().calls.back(), "AbortDoc");
+  EXPECT_EQ(SpoolerCalls().back(), "AbortDoc");
 }
 
 // The system's own words come from its table of messages.
@@ -100,7 +100,7 @@ TEST_F(Printing, AStartThatTheUserCancelledIsNoError) {
   Spooler().lastError = ERROR_CANCELLED;
   Open(TableOfNames(60));
   PressPrint();
-  EXPECT_TRUE(Eventually([this] { return HasCalled("StartDoc"); }));
+  EXPECT_TRUE(Eventually([this] { return HasCalled("StartDoc Names"); }));
   EXPECT_EQ(run_->WaitFor(L"Names - Print Preview"), preview_);
 }
 
@@ -114,7 +114,7 @@ TEST_F(Printing, AJobIsCancelledInItsDialog) {
   PressPrint();
   EXPECT_TRUE(Eventually([this] { return HasCalled("AbortDoc"); }));
   EXPECT_FALSE(hadPreview) << "it gets no input meanwhile";
-  EXPECT_EQ(std::count(Spooler().calls.begin(), Spooler().calls.end(), "StartPage"), 1);
+  EXPECT_EQ(CountOf("StartPage"), 1);
   EXPECT_EQ(run_->WaitFor(L"Names - Print Preview"), preview_);
 }
 

@@ -196,6 +196,22 @@ TEST_F(ShownPages, AHebrewTextStandsAtTheRightOfItsColumn) {
   EXPECT_FALSE(picture.IsDrawn(middle, hebrew + line + 4, heading + 6, hebrew + 2 * line));
 }
 
+// Rounded letters would be wider than the place that was measured for them.
+TEST_F(ShownPages, ALineKeepsToItsBoxAtAnySize) {
+  const std::u16string text = u"iiilllfffttt,,,...iiilllfffttt,,,...iiilllfffttt";
+  for (double scale = 0.05; scale < 0.3; scale += 0.005) {
+    const Picture picture(800, 60);
+    const publishing::OwnedContext memory(CreateCompatibleDC(nullptr));
+    const int width = publishing::DcSurface(memory.get(), font_, {}).Width(publishing::PageFont::kText, text);
+    publishing::DcSurface surface(picture.dc(), font_, {scale, scale, {}});
+    surface.DrawLine({0, 0, width, 100}, text, {publishing::PageFont::kText, publishing::Place::kLeft, false});
+    // Slack, and what Wine draws wider than it measures.
+    const int end = static_cast<int>((width + 25) * scale * 1.06) + 2;
+    EXPECT_FALSE(picture.IsDrawn(end, 0, 800, 60)) << scale;
+    EXPECT_TRUE(picture.IsDrawn(end / 3, 0, end, 60)) << scale << ": not smaller than it must be";
+  }
+}
+
 TEST_F(ShownPages, FontsOfTheScreenKeepTheirSize) {
   const publishing::OwnedContext screen(CreateCompatibleDC(nullptr));
   const int dotsPerInch = GetDeviceCaps(screen.get(), LOGPIXELSY);

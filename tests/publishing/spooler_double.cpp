@@ -4,10 +4,13 @@
 #include <winspool.h>
 
 #include <atomic>
+#include <mutex>
 
 namespace {
 
 SpoolerScript spooler;
+std::mutex callsMutex;  // the test looks at them while the job runs
+std::vector<std::string> calls;
 std::atomic<long> held = 0;
 
 template <typename Function>
@@ -16,8 +19,13 @@ Function Real(const wchar_t* library, const char* name) {
 }
 #define REAL(library, name) Real<decltype(&name)>(L##library, #name)
 
-int Answer(const char* call, int answer) {
-  spooler.calls.push_back(call);
+void Record(const std::string& call) {
+  const std::lock_guard lock(callsMutex);
+  calls.push_back(call);
+}
+
+int Answer(const std::string& call, int answer) {
+  Record(call);
   if (answer < 1) SetLastError(spooler.lastError);
   return answer;
 }
@@ -26,7 +34,7 @@ BOOL WINAPI FakePrintDlgW(PRINTDLGW* dialog) {
   if (spooler.isReal) return REAL("comdlg32", PrintDlgW)(dialog);
   const bool isQuestion = (dialog->Flags & PD_RETURNDEFAULT) == 0;
   if (!isQuestion || spooler.dialogError != 0 || !spooler.hasPrinters) return FALSE;
-  spooler.calls.push_back("PrintDlg to " + std::to_string(dialog->nMaxPage));
+  Record("PrintDlg to " + std::to_string(dialog->nMaxPage));
   dialog->Flags |= spooler.dialogFlags;
   dialog->nFromPage = spooler.firstPage;
   dialog->nToPage = spooler.lastPage;
@@ -43,8 +51,8 @@ int WINAPI FakeSetAbortProc(HDC dc, ABORTPROC procedure) {
 }
 int WINAPI FakeStartDocW(HDC dc, const DOCINFOW* document) {
   if (spooler.isReal) return REAL("gdi32", StartDocW)(dc, document);
-  spooler.documentName = document->lpszDocName;
-  return Answer("StartDoc", spooler.startDocAnswer);
+  const std::wstring name = document->lpszDocName;
+  return Answer("StartDoc " + std::string(name.begin(), name.end()), spooler.startDocAnswer);
 }
 int WINAPI FakeStartPage(HDC dc) {
   if (spooler.isReal) return REAL("gdi32", StartPage)(dc);
@@ -115,6 +123,13 @@ SpoolerScript& Spooler() {
 
 void ResetSpooler() {
   spooler = {};
+  const std::lock_guard lock(callsMutex);
+  calls.clear();
+}
+
+std::vector<std::string> SpoolerCalls() {
+  const std::lock_guard lock(callsMutex);
+  return calls;
 }
 
 long HeldObjects() {

@@ -22,13 +22,12 @@ struct SpoolerScript {
   int endDocAnswer = 1;
   DWORD lastError = 0;                // set by a call that fails
   std::function<void()> onStartPage;  // in the thread of the job
-
-  // What the code did.
-  std::wstring documentName;
-  std::vector<std::string> calls;
 };
 SpoolerScript& Spooler();
 void ResetSpooler();
+
+// What the code has called so far, in the thread of its job: "StartDoc Names" with the document's name.
+std::vector<std::string> SpoolerCalls();
 
 // Fonts, bitmaps and device contexts that the code holds.
 long HeldObjects();
