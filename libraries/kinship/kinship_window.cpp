@@ -63,6 +63,7 @@ INT_PTR KinshipWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ACTIVATE:
       if (LOWORD(wParam) != WA_INACTIVE) OnActivate();
       return FALSE;
+    case WM_QUERYENDSESSION: return OnQueryEndSession();
     case WM_COMMAND: return OnCommand(LOWORD(wParam), HIWORD(wParam));
     case WM_NOTIFY: return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
     case WM_HELP: return dialogs::PassHelpOn(dialog_, lParam);

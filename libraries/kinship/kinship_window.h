@@ -75,6 +75,7 @@ class KinshipWindow {
   void Apply();
   void Accept();
   void Cancel();
+  INT_PTR OnQueryEndSession() const;
 
   HWND Control(int id) const { return GetDlgItem(dialog_, id); }
   LRESULT Send(int control, UINT message, WPARAM wParam, LPARAM lParam) const {

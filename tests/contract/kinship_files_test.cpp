@@ -204,6 +204,28 @@ TEST_F(KinshipFilesTest, ACalendarHasTheYearsThatWereAskedFor) {
   run.End(IDCANCEL);
 }
 
+TEST_F(KinshipFilesTest, TheFileOfTheDatesIsNotExportedOver) {
+  KinshipRun run;
+  Press(OpenExport(run, 0), IDOK);
+  const HWND dialog = run.WaitFor(L"Export Dates to File");
+  SetControlText(dialog, kFileName, home_.Path("PERSONS.txt").wstring());
+  Press(dialog, IDOK);
+  run.Answer(L"Export Dates to File", dialog, IDI_WARNING, IDYES);  // that it is there already
+  EXPECT_THAT(run.Answer(L"Error", run.Window(), IDI_HAND, IDOK), HasSubstr(L"Choose another one"));
+  EXPECT_EQ(Stored(), kFourPersons);
+  run.End(IDCANCEL);
+}
+
+TEST_F(KinshipFilesTest, TheEndOfTheSessionWaitsForWhatIsNotSaved) {
+  KinshipRun run;
+  EXPECT_NE(SendMessageW(run.Window(), WM_QUERYENDSESSION, 0, 0), 0);
+  run.Key(VK_DELETE);
+  EXPECT_EQ(SendMessageW(run.Window(), WM_QUERYENDSESSION, 0, 0), 0);
+  run.Click(IDC_APPLY);
+  EXPECT_NE(SendMessageW(run.Window(), WM_QUERYENDSESSION, 0, 0), 0);
+  run.End(IDOK);
+}
+
 TEST_F(KinshipFilesTest, RtfIsWritten) {
   KinshipRun run;
   EXPECT_THAT(Exported(run, 1, "dates.rtf"), StartsWith("{\\rtf1"));
