@@ -63,8 +63,11 @@ void KinshipWindow::OnActivate() {
   Renew();
 }
 
+// Of several entries that are selected the first stays so: thousands would cost more than a key may.
 void KinshipWindow::Search() {
-  const std::vector<Id> selected = SelectedIds();
+  const int first = list_.FirstSelected();
+  std::vector<Id> selected;
+  if (first >= 0) selected.push_back(rows_.IdOf(first));
   Fill();
   Show(selected);
 }

@@ -80,6 +80,18 @@ TEST_F(KinshipWindowTest, SearchFindsEachWordInAnyColumnInAnyScript) {
   run.End(IDCANCEL);
 }
 
+TEST_F(KinshipWindowTest, TheSelectedEntryStaysSoWhileItIsSearched) {
+  KinshipRun run;
+  run.SelectOnly(2);  // anna
+  run.Type(L"a");
+  EXPECT_EQ(run.Cell(run.Selected(), 0), L"anna");
+  run.Type(L"");
+  EXPECT_EQ(run.Cell(run.Selected(), 0), L"anna");
+  run.Type(L"moshe");
+  EXPECT_EQ(run.Cell(run.Selected(), 0), L"Moshe");
+  run.End(IDCANCEL);
+}
+
 TEST_F(KinshipWindowTest, AHeadingSortsAndASecondClickTurnsRound) {
   KinshipRun run;
   run.ClickHeading(0);
