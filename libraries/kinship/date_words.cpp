@@ -13,6 +13,7 @@ using persons::Calendar;
 using persons::DateFields;
 
 constexpr char kDigits[] = "0123456789";
+constexpr size_t kDigitsOfYear = 4;
 constexpr size_t kShortName = 3;  // letters of a month's short name
 
 // Names beside those that the program writes.
@@ -111,8 +112,13 @@ DateInWords ReadJewish(const Worded& worded) {
 
 }  // namespace
 
+// Years have four digits: of fewer it could not be told whether they belong to "Adar 2".
 std::string DateWords(const persons::EventDate& event) {
-  return event.calendar == Calendar::kGregorian ? NumericDate(event.date) : persons::JewishDateText(event.date);
+  if (event.calendar == Calendar::kGregorian) return NumericDate(event.date);
+  std::string words = persons::JewishDateText(event.date);
+  if (event.date.year == persons::kUnknownYear) return words;
+  const size_t digits = std::to_string(event.date.year).size();
+  return words.insert(words.size() - digits, kDigitsOfYear - digits, '0');
 }
 
 DateInWords ReadDateWords(std::string_view words, std::optional<Calendar> calendar) {

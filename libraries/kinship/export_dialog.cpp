@@ -123,7 +123,7 @@ std::wstring AskForPath(HWND owner, const FormatLook& look) {
   OPENFILENAMEW dialog = FileDialog(owner, L"Export Dates to File", look.filter, path);
   dialog.lpstrDefExt = look.extension;
   dialog.Flags |= OFN_OVERWRITEPROMPT;
-  return GetSaveFileNameW(&dialog) ? path.c_str() : std::wstring();
+  return GetSaveFileNameW(&dialog) ? std::wstring(path.c_str()) : std::wstring();
 }
 
 }  // namespace
@@ -142,7 +142,7 @@ std::optional<std::wstring> AskForImportFile(HWND owner) {
   OPENFILENAMEW dialog = FileDialog(owner, L"Import Dates from File", kImportFilter, path);
   dialog.Flags |= OFN_FILEMUSTEXIST;
   if (!GetOpenFileNameW(&dialog)) return std::nullopt;
-  return path.c_str();
+  return std::wstring(path.c_str());
 }
 
 }  // namespace kinship

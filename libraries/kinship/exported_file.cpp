@@ -4,6 +4,7 @@
 #include "libraries/dialogs/utf8.h"
 #include "libraries/kinship/person_events.h"
 #include "libraries/kinship/person_table.h"
+#include "libraries/persons/persons_file.h"
 #include "libraries/settings_folder/eight_bit_text.h"
 #include "libraries/settings_folder/settings_folder.h"
 #include "libraries/settings_folder/settings_folder_win.h"
@@ -33,6 +34,13 @@ publishing::RtfFont RtfFontOfChoice() {
   return {dialogs::ToUtf8(font->lfFaceName), HalfPointsOf(*font)};
 }
 
+// Of files that the user may name in several ways, as far as their full paths tell.
+bool IsPersonsFile(const std::wstring& path) {
+  const std::wstring full = settings_folder::FullPath(path);
+  const std::wstring persons = settings_folder::FullPath(persons::PersonsPath());
+  return CompareStringOrdinal(full.c_str(), -1, persons.c_str(), -1, TRUE) == CSTR_EQUAL;
+}
+
 std::wstring SystemPath(const std::wstring& path) {
   return settings_folder::WithoutLengthLimit(settings_folder::FullPath(path));
 }
@@ -52,6 +60,11 @@ std::string ExportedText(const std::vector<persons::Person>& people, const Shown
 }
 
 void WriteExportedFile(HWND owner, const std::wstring& path, const std::string& text) {
+  if (IsPersonsFile(path)) {
+    return dialogs::ShowError(owner, L"The file\n" + path +
+                                         L"\nis the one that the program keeps the dates in. Choose another one to "
+                                         L"export to.");
+  }
   const std::wstring file = SystemPath(path);
   bool isWritten = false;
   {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 #include "libraries/calendar/gregorian.h"
 #include "libraries/dialogs/dialog_parts.h"
@@ -24,12 +23,12 @@ constexpr WPARAM kMostTypedLetters = 100;
 constexpr WPARAM kDigitsOfYear = 4;
 
 constexpr Anchor kAnchors[] = {
-    {IDC_COUNT, Follow::kMove, Follow::kNo},   {IDC_PERSONS, Follow::kGrow, Follow::kGrow},
-    {IDC_ADD, Follow::kMove, Follow::kNo},     {IDC_CHANGE, Follow::kMove, Follow::kNo},
-    {IDC_REMOVE, Follow::kMove, Follow::kNo},  {IDC_UNDO, Follow::kMove, Follow::kNo},
-    {IDC_IMPORT, Follow::kMove, Follow::kNo},  {IDC_EXPORT, Follow::kMove, Follow::kNo},
-    {IDC_PRINT, Follow::kMove, Follow::kNo},   {IDC_DAMAGED, Follow::kGrow, Follow::kMove},
-    {IDOK, Follow::kMove, Follow::kMove},      {IDCANCEL, Follow::kMove, Follow::kMove},
+    {IDC_COUNT, Follow::kMove, Follow::kNo},    {IDC_PERSONS, Follow::kGrow, Follow::kGrow},
+    {IDC_ADD, Follow::kNo, Follow::kMove},      {IDC_CHANGE, Follow::kNo, Follow::kMove},
+    {IDC_REMOVE, Follow::kNo, Follow::kMove},   {IDC_UNDO, Follow::kNo, Follow::kMove},
+    {IDC_IMPORT, Follow::kMove, Follow::kMove}, {IDC_EXPORT, Follow::kMove, Follow::kMove},
+    {IDC_PRINT, Follow::kMove, Follow::kMove},  {IDC_DAMAGED, Follow::kGrow, Follow::kMove},
+    {IDOK, Follow::kMove, Follow::kMove},       {IDCANCEL, Follow::kMove, Follow::kMove},
     {IDC_APPLY, Follow::kMove, Follow::kMove},
 };
 
@@ -41,9 +40,9 @@ int32_t Today() {
 
 }  // namespace
 
-KinshipWindow::KinshipWindow(persons::Persons stored, int32_t year)
+KinshipWindow::KinshipWindow(const persons::Persons& stored, int32_t year)
     : editing_(stored.persons),
-      damagedLines_(std::move(stored.damagedLines)),
+      damagedLines_(stored.damagedLines),
       shown_{year, Today(), StoredCustom()},
       storedCustom_(shown_.ofYahrzeit),
       lastEntry_(StoredLastEntry()),
@@ -52,21 +51,7 @@ KinshipWindow::KinshipWindow(persons::Persons stored, int32_t year)
 void KinshipWindow::Run(HWND owner) {
   const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_LISTVIEW_CLASSES | ICC_UPDOWN_CLASS};
   InitCommonControlsEx(&classes);
-  dialogs::RunDialog(owner, IDD_KINSHIP, DialogProc, this);
-}
-
-INT_PTR CALLBACK KinshipWindow::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-    reinterpret_cast<KinshipWindow*>(lParam)->dialog_ = dialog;
-  }
-  auto* const self = reinterpret_cast<KinshipWindow*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  if (!self) return FALSE;
-  try {
-    return self->Handle(message, wParam, lParam);
-  } catch (...) {
-    return dialogs::OnException(dialog, message);
-  }
+  dialogs::RunDialog(owner, IDD_KINSHIP, dialogs::ClassDialogProc<KinshipWindow>, this);
 }
 
 INT_PTR KinshipWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -78,6 +63,7 @@ INT_PTR KinshipWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ACTIVATE:
       if (LOWORD(wParam) != WA_INACTIVE) OnActivate();
       return FALSE;
+    case WM_QUERYENDSESSION: return OnQueryEndSession();
     case WM_COMMAND: return OnCommand(LOWORD(wParam), HIWORD(wParam));
     case WM_NOTIFY: return OnNotify(*reinterpret_cast<NMHDR*>(lParam));
     case WM_HELP: return dialogs::PassHelpOn(dialog_, lParam);
@@ -87,6 +73,7 @@ INT_PTR KinshipWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 INT_PTR KinshipWindow::OnInitDialog() {
   list_.Start(Control(IDC_PERSONS), shown_);
+  list_.ShowOrder(sortColumn_, descending_);
   FillLists();
   Send(IDC_TYPED, EM_LIMITTEXT, kMostTypedLetters, 0);
   Send(IDC_YEAR, EM_LIMITTEXT, kDigitsOfYear, 0);
@@ -202,7 +189,7 @@ void RunKinshipWindow(HWND owner, uint32_t year) {
   if (!dialogs::IsKnown(owner, persons::PersonsPath(), read) || !dialogs::IsKnownIni(owner, kSettingsFile)) return;
   constexpr uint32_t kFirst = persons::kFirstGregorianYear;
   constexpr uint32_t kLast = persons::kLastGregorianYear;
-  KinshipWindow(std::move(*stored), static_cast<int32_t>(std::clamp(year, kFirst, kLast))).Run(owner);
+  KinshipWindow(*stored, static_cast<int32_t>(std::clamp(year, kFirst, kLast))).Run(owner);
 }
 
 }  // namespace kinship

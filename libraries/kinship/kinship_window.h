@@ -19,16 +19,18 @@ namespace kinship {
 class KinshipWindow {
  public:
   // stored: the file as it stands. year: Gregorian, in the years of personal_date.h.
-  KinshipWindow(persons::Persons stored, int32_t year);
+  KinshipWindow(const persons::Persons& stored, int32_t year);
 
   // Modal over its owner, which may be null.
   void Run(HWND owner);
 
+  // For dialogs::ClassDialogProc.
+  void Attach(HWND dialog) { dialog_ = dialog; }
+  INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
  private:
   using Id = persons::Editing::Id;
 
-  static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-  INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR OnInitDialog();
   INT_PTR OnSize();
   INT_PTR OnCommand(int control, int notification);
@@ -73,6 +75,7 @@ class KinshipWindow {
   void Apply();
   void Accept();
   void Cancel();
+  INT_PTR OnQueryEndSession() const;
 
   HWND Control(int id) const { return GetDlgItem(dialog_, id); }
   LRESULT Send(int control, UINT message, WPARAM wParam, LPARAM lParam) const {

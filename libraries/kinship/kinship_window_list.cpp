@@ -29,6 +29,7 @@ void KinshipWindow::SortBy(Column column) {
   Send(IDC_SORT, CB_SETCURSEL, static_cast<WPARAM>(column), 0);
   const std::vector<Id> selected = SelectedIds();
   rows_.Sort(sortColumn_, descending_);
+  list_.ShowOrder(sortColumn_, descending_);
   Fill();
   Show(selected);
 }
@@ -62,8 +63,11 @@ void KinshipWindow::OnActivate() {
   Renew();
 }
 
+// Of several entries that are selected the first stays so: thousands would cost more than a key may.
 void KinshipWindow::Search() {
-  const std::vector<Id> selected = SelectedIds();
+  const int first = list_.FirstSelected();
+  std::vector<Id> selected;
+  if (first >= 0) selected.push_back(rows_.IdOf(first));
   Fill();
   Show(selected);
 }
@@ -80,7 +84,6 @@ void KinshipWindow::Reckon() {
 void KinshipWindow::Fill() {
   isFilling_ = true;
   rows_.Search(dialogs::ToUtf8(dialogs::TextOf(Control(IDC_TYPED))));
-  list_.ShowOrder(sortColumn_, descending_);
   list_.SetCount(rows_.Count());
   SetDlgItemTextW(dialog_, IDC_COUNT, CountText(rows_.Count(), editing_.Now().size()).c_str());
   isFilling_ = false;

@@ -104,4 +104,10 @@ void KinshipWindow::Cancel() {
   if (!IsUnsaved() || dialogs::IsConfirmed(dialog_, L"Discard the changes?")) EndDialog(dialog_, IDCANCEL);
 }
 
+// With something unsaved the system asks the user whether to go on, and shows this window's title.
+INT_PTR KinshipWindow::OnQueryEndSession() const {
+  SetWindowLongPtrW(dialog_, DWLP_MSGRESULT, !IsUnsaved());
+  return TRUE;
+}
+
 }  // namespace kinship

@@ -43,13 +43,16 @@ class PersonDialog {
   PersonDialog(const Shown& shown, const LastEntry& last, const Person* old) : shown_(shown), last_(last), old_(old) {}
 
   std::optional<Person> Run(HWND owner) {
-    if (dialogs::RunDialog(owner, IDD_PERSON, DialogProc, this) != IDOK) return std::nullopt;
+    if (dialogs::RunDialog(owner, IDD_PERSON, dialogs::ClassDialogProc<PersonDialog>, this) != IDOK)
+      return std::nullopt;
     return accepted_;
   }
 
- private:
-  static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+  // For dialogs::ClassDialogProc.
+  void Attach(HWND dialog) { dialog_ = dialog; }
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+ private:
   INT_PTR OnInitDialog();
   INT_PTR OnCommand(int control, int notification);
   INT_PTR OnAccept();
@@ -72,25 +75,12 @@ class PersonDialog {
 
   const Shown& shown_;
   const LastEntry& last_;
-  const Person* const old_;  // null for a new one
+  const Person* const old_;        // null for a new one
+  std::optional<Person> offered_;  // what the controls said of the old one at first
   HWND dialog_ = nullptr;
   persons::DateEntry date_;
   std::optional<Person> accepted_;
 };
-
-INT_PTR CALLBACK PersonDialog::DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) {
-    SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-    reinterpret_cast<PersonDialog*>(lParam)->dialog_ = dialog;
-  }
-  auto* const self = reinterpret_cast<PersonDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  if (!self) return FALSE;
-  try {
-    return self->Handle(message, wParam, lParam);
-  } catch (...) {
-    return dialogs::OnException(dialog, message);
-  }
-}
 
 INT_PTR PersonDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
@@ -112,11 +102,13 @@ INT_PTR PersonDialog::OnInitDialog() {
   date_.Start(dialog_, kDateControls, persons::YearIs::kOptional, last_.calendar);
   if (old_) {
     ShowPerson(*old_);
+    ShowConsequences();
+    offered_ = Entered(old_->event);
   } else {
     Choose(IDC_OCCASION, static_cast<int>(last_.kind));
     Choose(IDC_ADAR, 0);
+    ShowConsequences();
   }
-  ShowConsequences();
   return TRUE;
 }
 
@@ -194,7 +186,7 @@ INT_PTR PersonDialog::OnAccept() {
   } else if (!event) {
     dialogs::ShowFieldError(dialog_, date_.FaultyControl(), date_.Fault());
   } else {
-    accepted_ = person;
+    accepted_ = person == offered_ ? *old_ : person;  // a file written by hand may say more than the controls
     EndDialog(dialog_, IDOK);
   }
   return TRUE;

@@ -92,7 +92,7 @@ void PersonList::FitColumns() const {
 
 void PersonList::SetCount(int count) const {
   SetState(kAllRows, 0, LVIS_SELECTED | LVIS_FOCUSED);
-  Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), 0);
+  Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LVSICF_NOINVALIDATEALL);
   InvalidateRect(list_, nullptr, TRUE);
 }
 
@@ -100,9 +100,10 @@ void PersonList::SelectOnly(const std::vector<int>& rows) const {
   SetState(kAllRows, 0, LVIS_SELECTED | LVIS_FOCUSED);
   if (rows.empty()) return;
   const bool areAll = static_cast<LRESULT>(rows.size()) == Send(LVM_GETITEMCOUNT, 0, 0);
-  Send(WM_SETREDRAW, FALSE, 0);
+  const bool areMany = !areAll && rows.size() > 1;  // drawn once then
+  if (areMany) Send(WM_SETREDRAW, FALSE, 0);
   for (const int row : areAll ? std::vector<int>{kAllRows} : rows) SetState(row, LVIS_SELECTED, LVIS_SELECTED);
-  Send(WM_SETREDRAW, TRUE, 0);
+  if (areMany) Send(WM_SETREDRAW, TRUE, 0);
   SetState(rows.front(), LVIS_FOCUSED, LVIS_FOCUSED);
   Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(rows.front()), FALSE);
 }

@@ -37,6 +37,8 @@ class PersonList {
   void SelectOnly(const std::vector<int>& rows) const;
   void SelectAll() const;
   std::vector<int> Selected() const;
+  // -1 for none.
+  int FirstSelected() const { return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED)); }
   int SelectedCount() const { return static_cast<int>(Send(LVM_GETSELECTEDCOUNT, 0, 0)); }
 
  private:

@@ -62,7 +62,7 @@ void PersonRows::Take(const std::map<Id, Person>& persons, const Shown& shown) {
   }
   sorted_.resize(rows_.size());
   std::iota(sorted_.begin(), sorted_.end(), size_t{0});
-  found_ = sorted_;
+  ShowAll();
 }
 
 PersonRows::Row PersonRows::MadeRow(Id id, const Person& person) const {
@@ -116,17 +116,27 @@ void PersonRows::Sort(Column column, bool descending) {
     return std::tie(aNext, a.nameKey, a.id) < std::tie(bNext, b.nameKey, b.id);
   };
   std::ranges::sort(sorted_, isBefore);
-  found_ = sorted_;
+  ShowAll();
 }
 
+// What more letters find is among what fewer of them found.
 void PersonRows::Search(std::string_view typed) {
-  const std::vector<std::string> words = WordsIn(letters_.small(typed));
-  found_.clear();
-  for (const size_t row : sorted_) {
+  std::string small = letters_.small(typed);
+  const std::vector<std::string> words = WordsIn(small);
+  const bool isNarrower = small.starts_with(typed_);
+  typed_ = std::move(small);
+  if (!isNarrower) found_ = sorted_;
+  std::erase_if(found_, [&](size_t row) {
     const std::string& searched = rows_[row].searched;
-    const auto isThere = [&searched](const std::string& word) { return searched.find(word) != searched.npos; };
-    if (std::ranges::all_of(words, isThere)) found_.push_back(row);
-  }
+    const auto isMissing = [&searched](const std::string& word) { return searched.find(word) == searched.npos; };
+    return std::ranges::any_of(words, isMissing);
+  });
+}
+
+// All rows are shown.
+void PersonRows::ShowAll() {
+  found_ = sorted_;
+  typed_.clear();
 }
 
 std::string PersonRows::Text(int row, Column column) const {

@@ -28,7 +28,8 @@ class PersonRows {
   // Takes all entries. Those that have not changed since keep what was reckoned of them, unless other years are shown.
   void Take(const std::map<Id, persons::Person>& persons, const Shown& shown);
 
-  // The order of all rows; where a column says the same, by the next day, then by name.
+  // The order of all rows; where a column says the same, by the next day, then by name. All rows are shown after this
+  // and after Take.
   void Sort(Column column, bool descending);
 
   // Which rows are shown: those of which each word that was typed stands somewhere in a column, letters' case aside.
@@ -57,6 +58,7 @@ class PersonRows {
     std::string nameKey;
   };
 
+  void ShowAll();
   Row MadeRow(Id id, const persons::Person& person) const;
   const Row& RowOf(int row) const { return rows_[found_[static_cast<size_t>(row)]]; }
   int64_t NumberIn(const Row& row, Column column) const;
@@ -67,6 +69,7 @@ class PersonRows {
   std::vector<Row> rows_;       // by id
   std::vector<size_t> sorted_;  // of rows_
   std::vector<size_t> found_;   // of sorted_
+  std::string typed_;           // what found_ was searched for, in small letters
 };
 
 }  // namespace kinship

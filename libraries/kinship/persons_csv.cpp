@@ -55,7 +55,8 @@ class PersonRecord {
                         ReadAdar(&person, message);
     if (!isRead) return std::nullopt;
     if (auto fault = FaultIn(person)) return Refused(fault->message, message);
-    if (!persons::CanBeKept(person)) return Refused("its letters are not UTF-8; save the file as such.", message);
+    if (!persons::CanBeKept(person))
+      return Refused("its letters cannot be told; save the table as \"CSV UTF-8\".", message);
     return person;
   }
 

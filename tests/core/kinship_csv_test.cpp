@@ -97,6 +97,12 @@ TEST(DateWords, DatesAreReadInTheFormsOfTables) {
   EXPECT_EQ(ReadDateWords("3 Adar 2", {}).date, (Date{3, calendar::kAdarII, persons::kUnknownYear}));
 }
 
+TEST(DateWords, EarlyYearsAreWrittenSoThatTheyAreReadAgain) {
+  const persons::EventDate event = {Calendar::kJewish, {3, calendar::kAdarII, 27}, false};
+  EXPECT_EQ(DateWords(event), "3 Adar II 0027");
+  EXPECT_EQ(ReadDateWords("3 Adar II 0027", {}).date, event.date);
+}
+
 TEST(DateWords, WhatCanBeReadInTwoWaysIsRefused) {
   EXPECT_EQ(ReadDateWords("3 Adar 5784", {}).message, "5784 has Adar I and Adar II; write which of them it is.");
   EXPECT_FALSE(ReadDateWords("02/03/1950", {}).date);

@@ -18,9 +18,6 @@ using testing::IsEmpty;
 class PersonRowsTest : public testing::Test {
  protected:
   PersonRowsTest() {
-    people_ = {{1, Jewish(Kind::kYahrzeit, "Moshe", {14, calendar::kAdar, 5710})},
-               {2, Jewish(Kind::kBirthday, "anna", {15, calendar::kNisan, 5750})},
-               {5, Jewish(Kind::kWedding, "Zvi", {1, calendar::kTishri, persons::kUnknownYear})}};
     people_.at(2).notes = "Likes\nbooks";
     rows_.Take(people_, In2026());
   }
@@ -39,7 +36,10 @@ class PersonRowsTest : public testing::Test {
     return Names();
   }
 
-  std::map<PersonRows::Id, Person> people_;
+  std::map<PersonRows::Id, Person> people_ = {
+      {1, Jewish(Kind::kYahrzeit, "Moshe", {14, calendar::kAdar, 5710})},
+      {2, Jewish(Kind::kBirthday, "anna", {15, calendar::kNisan, 5750})},
+      {5, Jewish(Kind::kWedding, "Zvi", {1, calendar::kTishri, persons::kUnknownYear})}};
   PersonRows rows_{kAsciiLetters};
 };
 
