@@ -10,23 +10,16 @@
 #include "libraries/settings_folder/settings_folder_win.h"
 #include "libraries/settings_folder/whole_file.h"
 #include "publishing/core/csv.h"
-#include "publishing/core/icalendar.h"
 #include "publishing/core/table_rtf.h"
 #include "publishing/core/table_text.h"
+#include "publishing/utc_now.h"
 
 namespace kinship {
 namespace {
 
 using settings_folder::ReadResult;
-using settings_folder::ReplaceResult;
 
 constexpr uint64_t kMostImportedBytes = 64 << 20;
-
-publishing::UtcMoment Now() {
-  SYSTEMTIME now;
-  GetSystemTime(&now);
-  return {{now.wYear, now.wMonth, now.wDay}, now.wHour, now.wMinute, now.wSecond};
-}
 
 publishing::RtfFont RtfFontOfChoice() {
   const auto font = StoredFont();
@@ -54,7 +47,8 @@ std::string ExportedText(const std::vector<persons::Person>& people, const Shown
     case Format::kCsv: return publishing::CsvOf(CsvTableOf(people, shown));
     case Format::kCalendar:
       return publishing::CalendarOf("Birthdays and Yahrzeit",
-                                    EventsOf(people, shown.ofYahrzeit, request.firstYear, request.choice.years), Now());
+                                    EventsOf(people, shown.ofYahrzeit, request.firstYear, request.choice.years),
+                                    publishing::UtcNow());
   }
   return {};
 }
@@ -65,15 +59,7 @@ void WriteExportedFile(HWND owner, const std::wstring& path, const std::string& 
                                          L"\nis the one that the program keeps the dates in. Choose another one to "
                                          L"export to.");
   }
-  const std::wstring file = SystemPath(path);
-  bool isWritten = false;
-  {
-    const settings_folder::WriterLock lock;
-    settings_folder::FileStamp written;
-    isWritten = lock.Held() && settings_folder::ReplaceWholeFile(file, text, settings_folder::StampOf(file),
-                                                                 &written) == ReplaceResult::kReplaced;
-  }
-  if (isWritten) return;
+  if (settings_folder::WriteChosenFile(path, text)) return;
   dialogs::ShowError(owner, L"The file\n" + path +
                                 L"\ncould not be written; an older one of that name is as it was.\n\nSee to it that no "
                                 L"other program holds it, that it is not read-only and that the disk is not full, or "

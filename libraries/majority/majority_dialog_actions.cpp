@@ -12,14 +12,11 @@
 #include "libraries/majority/majority_texts.h"
 #include "libraries/persons/date_fields.h"
 #include "libraries/persons/persons_file.h"
-#include "libraries/settings_folder/settings_folder.h"
-#include "libraries/settings_folder/settings_folder_win.h"
 #include "libraries/settings_folder/whole_file.h"
+#include "publishing/utc_now.h"
 
 namespace majority {
 namespace {
-
-using settings_folder::ReplaceResult;
 
 constexpr size_t kLongestPath = 32768;  // of the system, terminator included
 constexpr wchar_t kCalendarFilter[] = L"iCalendar (*.ics)\0*.ics\0All files\0*.*\0";
@@ -60,20 +57,6 @@ std::wstring AskForCalendarFile(HWND dialog, const std::wstring& offered) {
   question.lpstrDefExt = L"ics";
   question.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST | OFN_OVERWRITEPROMPT;
   return GetSaveFileNameW(&question) ? path.c_str() : std::wstring();
-}
-
-bool WriteAtOnce(const std::wstring& path, const std::string& text) {
-  const std::wstring file = settings_folder::WithoutLengthLimit(settings_folder::FullPath(path));
-  const settings_folder::WriterLock lock;
-  settings_folder::FileStamp written;
-  return lock.Held() && settings_folder::ReplaceWholeFile(file, text, settings_folder::StampOf(file), &written) ==
-                            ReplaceResult::kReplaced;
-}
-
-publishing::UtcMoment Now() {
-  SYSTEMTIME now;
-  GetSystemTime(&now);
-  return {{now.wYear, now.wMonth, now.wDay}, now.wHour, now.wMinute, now.wSecond};
 }
 
 }  // namespace
@@ -146,7 +129,8 @@ void MajorityDialog::SaveAsCalendar() {
   const std::wstring path = AskForCalendarFile(dialog_, offered);
   if (path.empty()) return;
   calendarFile_ = path;
-  if (WriteAtOnce(path, publishing::CalendarOf(title, events, Now()))) return;
+  const std::string text = publishing::CalendarOf(title, events, publishing::UtcNow());
+  if (settings_folder::WriteChosenFile(path, text)) return;
   dialogs::ShowError(dialog_, L"The file\n" + path +
                                   L"\ncould not be written; an older one of that name is as it was.\n\nSee to it that "
                                   L"no other program holds it, that it is not read-only and that the disk is not full, "
