@@ -9,10 +9,12 @@
 namespace kinship {
 namespace {
 
+// The font of message boxes: that of dialogs goes by a name that the list of fonts does not have.
 LOGFONTW DefaultFont() {
-  LOGFONTW font = {};
-  GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof font, &font);
-  return font;
+  NONCLIENTMETRICSW metrics = {};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  return metrics.lfMessageFont;
 }
 
 }  // namespace
