@@ -7,6 +7,7 @@
 
 #include "app/compute_document.h"
 #include "benchmarks/exports_bench.h"
+#include "benchmarks/kinship_bench.h"
 #include "benchmarks/measured.h"
 #include "benchmarks/start_up_bench.h"
 #include "benchmarks/zmanim_bench.h"
@@ -161,6 +162,7 @@ int main() {
     MeasureShabbatTimes("32,000 Shabbatot by degrees, ms");
     if (!MeasureZmanim(home)) return 1;
     MeasureExports(home);
+    MeasureKinship(home);
   }
   return MeasureStartUp() ? 0 : 1;
 }

@@ -1,4 +1,5 @@
-/* kinship.dll: birthdays, yahrzeit and other dates of persons. They are kept in "persons.txt" of the settings folder. */
+/* kinship.dll: birthdays, yahrzeit and other dates of persons. They are kept in "persons.txt" of the settings folder.
+ */
 #ifndef TIMES_READINGS_COMPANION_KINSHIP_H
 #define TIMES_READINGS_COMPANION_KINSHIP_H
 

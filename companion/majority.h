@@ -22,9 +22,9 @@ typedef struct MajorityDialogData {
  * today by the computer's date. A null record is left alone. */
 void MajorityInitDialogData(MajorityDialogData* data);
 
-/* The modal dialog, which opens with the record and leaves in it what it was closed with; a record with a date that does
- * not exist counts as that of MajorityInitDialogData. Null for owner or record is allowed. Writes files only where the
- * user says so: the persons' file of kinship.dll, an iCalendar file. */
+/* The modal dialog, which opens with the record and leaves in it what it was closed with; a record with a date that
+ * does not exist counts as that of MajorityInitDialogData. Null for owner or record is allowed. Writes files only where
+ * the user says so: the persons' file of kinship.dll, an iCalendar file. */
 void MajorityDoDialog(HWND owner, MajorityDialogData* data);
 
 #ifdef __cplusplus

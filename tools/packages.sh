@@ -5,7 +5,7 @@ build_packages="cmake ninja-build g++-mingw-w64-x86-64-posix librsvg2-bin icouti
   python3-fonttools fonts-liberation2"
 wine_packages="wine wine64 fonts-wine xvfb xauth imagemagick"
 test_packages="g++ googletest python3-minimal clang libclang-rt-14-dev
-  libreoffice-writer-nogui fontconfig poppler-utils"
+  libreoffice-writer-nogui libreoffice-calc-nogui fontconfig poppler-utils python3-icalendar"
 # A print server of the tests' own, and what turns its jobs into files and text.
 printing_packages="cups-daemon ghostscript poppler-utils"
 benchmark_packages="g++ libbenchmark-dev"

@@ -3,12 +3,13 @@
 //   print_answers readings FIRST LAST   the Jewish years: a line of JSON for each day, land and custom with readings
 //   print_answers calendar              the years 1583 to 3000: "year-month-day day.month.year" of both calendars
 //   print_answers personal              each day of the Jewish years 5682 to 5719: "birthday" or "yahrzeit",
-//   day.month.year
-//                                       of the event, the Jewish year, year-month-day when it is kept, for 38 years
+//                                       day.month.year of the event, the Jewish year, year-month-day when it is kept,
+//                                       for 38 years
 //   print_answers offsets               every zone with the offset of its standard time in minutes
 //   print_answers zones                 for each line "zone latitude longitude" (packed) of the input, with the zone's
 //                                       standard offset: the zone found, "-" for none, and whether both clocks agree
 //                                       on every noon of 2000 to 2030
+//   print_answers daf-yomi              11 September 1923 to 3000: "absolute-day tractate leaf"
 //   print_answers clocks                for each line "zone seconds" of the input the offset from UTC, "-" for none
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +19,7 @@
 
 #include "libraries/calendar/gregorian.h"
 #include "libraries/calendar/jewish.h"
+#include "libraries/folio/folio_core.h"
 #include "libraries/lections/language.h"
 #include "libraries/lections/reading_texts.h"
 #include "libraries/persons/personal_date.h"
@@ -124,6 +126,14 @@ void PrintZones() {
   }
 }
 
+void PrintDafYomi() {
+  const int32_t end = calendar::AbsoluteFromGregorian({1, 1, 3001});
+  for (int32_t day = calendar::AbsoluteFromGregorian({11, 9, 1923}); day < end; ++day) {
+    const std::optional<folio::Leaf> leaf = folio::LeafOf(day);
+    std::cout << day << ' ' << (leaf ? leaf->tractate : "-") << ' ' << (leaf ? leaf->number : 0) << '\n';
+  }
+}
+
 void PrintClocks() {
   std::string zone;
   for (int64_t moment = 0; std::cin >> zone >> moment;) {
@@ -146,11 +156,14 @@ int main(int argc, char** argv) {
     PrintOffsets();
   } else if (what == "zones") {
     PrintZones();
+  } else if (what == "daf-yomi") {
+    PrintDafYomi();
   } else if (what == "clocks") {
     PrintClocks();
   } else {
     std::cerr
-        << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | offsets | zones | clocks\n";
+        << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | offsets | zones | daf-yomi | "
+           "clocks\n";
     return 1;
   }
   return 0;

@@ -40,10 +40,13 @@ using Starts = std::array<int32_t, kTractateCount + 1>;
 
 constexpr Starts StartsWhenShekalimEndsOn(int32_t lastLeafOfShekalim) {
   Starts starts{};
+  int32_t day = 0;
   for (std::size_t i = 0; i < kTractateCount; ++i) {
+    starts[i] = day;
     const int32_t lastLeaf = i == kShekalim ? lastLeafOfShekalim : kTractates[i].lastLeaf;
-    starts[i + 1] = starts[i] + lastLeaf - kTractates[i].firstLeaf + 1;
+    day += lastLeaf - kTractates[i].firstLeaf + 1;
   }
+  starts.back() = day;
   return starts;
 }
 

@@ -25,21 +25,37 @@ uint32_t TakeCharacter(std::string_view& text) {
   return character;
 }
 
+// The characters that a code page has beyond ASCII and that texts here use: count of them from first on, in the page
+// from byte on.
+struct Run {
+  CodePage page;
+  uint32_t first;
+  uint32_t count;
+  uint32_t byte;
+};
+constexpr Run kRuns[] = {{CodePage::kHebrew, 0x05D0, 27, 0xE0},  // alef to tav
+                         {CodePage::kHebrew, 0x05F3, 2, 0xD7},   // geresh, behind a numeral, and gershayim
+                         {CodePage::kWestern, 0xA0, 96, 0xA0}};
+
 char ByteOf(uint32_t character, CodePage page) {
-  constexpr uint32_t kAlef = 0x05D0;
-  constexpr uint32_t kTav = 0x05EA;
-  constexpr uint32_t kAlefIn1255 = 0xE0;
-  constexpr uint32_t kGeresh = 0x05F3;  // behind a numeral; gershayim follows it in Unicode and in windows-1255
-  constexpr uint32_t kGereshIn1255 = 0xD7;
   if (character < 0x80) return static_cast<char>(character);
-  if (page == CodePage::kHebrew && character >= kAlef && character <= kTav) {
-    return static_cast<char>(kAlefIn1255 + (character - kAlef));
+  for (const Run& run : kRuns) {
+    const uint32_t place = character - run.first;
+    if (run.page == page && character >= run.first && place < run.count) return static_cast<char>(run.byte + place);
   }
-  if (page == CodePage::kHebrew && (character == kGeresh || character == kGeresh + 1)) {
-    return static_cast<char>(kGereshIn1255 + (character - kGeresh));
-  }
-  if (page == CodePage::kWestern && character >= 0xA0 && character <= 0xFF) return static_cast<char>(character);
   return '?';
+}
+
+void AppendCharacterOf(char encoded, CodePage page, std::string& utf8) {
+  const uint32_t byte = static_cast<unsigned char>(encoded);
+  for (const Run& run : kRuns) {
+    if (run.page != page || byte < run.byte || byte - run.byte >= run.count) continue;
+    const uint32_t character = run.first + byte - run.byte;  // of two bytes each
+    utf8 += static_cast<char>(0xC0 | character >> 6);
+    utf8 += static_cast<char>(0x80 | (character & 0x3F));
+    return;
+  }
+  utf8 += byte < 0x80 ? encoded : '?';
 }
 
 }  // namespace
@@ -52,6 +68,12 @@ std::string Encoded(std::string_view utf8, CodePage page) {
   std::string text;
   text.reserve(utf8.size());
   while (!utf8.empty()) text += ByteOf(TakeCharacter(utf8), page);
+  return text;
+}
+
+std::string Decoded(std::string_view encoded, CodePage page) {
+  std::string text;
+  for (const char byte : encoded) AppendCharacterOf(byte, page, text);
   return text;
 }
 

@@ -15,4 +15,7 @@ uint32_t CharSetOf(CodePage page);
 // Characters that the code page does not have, and damaged UTF-8, become question marks.
 std::string Encoded(std::string_view utf8, CodePage page);
 
+// The way back, of what Encoded made.
+std::string Decoded(std::string_view encoded, CodePage page);
+
 }  // namespace lections

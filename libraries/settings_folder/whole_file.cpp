@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "libraries/settings_folder/settings_folder.h"
+#include "libraries/settings_folder/settings_folder_win.h"
+
 namespace settings_folder {
 namespace {
 
@@ -168,6 +171,13 @@ ReplaceResult ReplaceWholeFile(const std::wstring& path, std::string_view text, 
       WriteNewFile(beside, text, old, written) ? RenameOver(beside, path, old) : ReplaceResult::kFailed;
   if (result != ReplaceResult::kReplaced) DeleteFileW(beside.c_str());
   return result;
+}
+
+bool WriteChosenFile(const std::wstring& path, std::string_view text) {
+  const std::wstring file = WithoutLengthLimit(FullPath(path));
+  const WriterLock lock;
+  FileStamp written;
+  return lock.Held() && ReplaceWholeFile(file, text, StampOf(file), &written) == ReplaceResult::kReplaced;
 }
 
 WriterLock::WriterLock() : mutex_(OpenWriterMutex()) {

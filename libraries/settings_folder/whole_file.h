@@ -39,6 +39,10 @@ enum class ReplaceResult { kReplaced, kChangedMeanwhile, kFailed };
 // caller holds the lock.
 ReplaceResult ReplaceWholeFile(const std::wstring& path, std::string_view text, FileStamp old, FileStamp* written);
 
+// A file that the user chose, written whole under the writers' lock, whatever stood there before. path: as a dialog
+// answers it. Whether it stands; if not, an older file is as it was.
+bool WriteChosenFile(const std::wstring& path, std::string_view text);
+
 // Keeps the writers of files, in whatever processes of the machine, from each other's way while it lives. One lock
 // serves all files: a file may be known by several paths (short names, links, drive letters), and writing is quick.
 class WriterLock {

@@ -107,6 +107,15 @@ const std::set<std::string>& EveryText() {
 }
 
 // The width of a column of the text export, which cuts what is longer; the limit of a slot is far beyond.
+TEST(EncodedText, IsDecodedToWhatItWas) {
+  for (const char* text : {"", "Genesis 1:1-6:8", "Ki Sisa (Parah)", "וירא: בראשית יח:א-כב:כד", "ט״ו בשבט, א׳"}) {
+    EXPECT_EQ(Decoded(Encoded(text, CodePage::kHebrew), CodePage::kHebrew), text);
+  }
+  EXPECT_EQ(Decoded(Encoded("Séder ÿ", CodePage::kWestern), CodePage::kWestern), "Séder ÿ");
+  EXPECT_EQ(Decoded("\x80\xFB", CodePage::kHebrew), "??");
+  EXPECT_EQ(Decoded("\x80", CodePage::kWestern), "?");
+}
+
 TEST(LectionsTexts, FitTheirColumnWhateverTheYearAndTheSettings) {
   constexpr size_t kColumnOfTextExport = 95;
   static_assert(kColumnOfTextExport < kLongestText);

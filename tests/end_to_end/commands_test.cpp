@@ -199,7 +199,7 @@ TEST_F(CommandsTest, APlaceOfTheUsersOwnIsThereAfterARestart) {
 }
 
 TEST_F(CommandsTest, ClosingTheFrameUnderAnOpenDialogEndsCleanly) {
-  for (const unsigned command : {1001u, 1002u, 1003u, 1004u, 1007u, 1014u, 1016u, 1017u, 1101u, 3003u}) {
+  for (const unsigned command : {1001u, 1002u, 1003u, 1004u, 1007u, 1014u, 1016u, 1017u, 1101u, 1135u, 1137u, 3003u}) {
     ProgramRun program(ProgramFolder(), settings_.path());
     program.WaitForDocuments(1);
     program.PostCommand(command);

@@ -62,7 +62,8 @@ class ImageFile {
 };
 
 const std::set<std::string> kSystemLibraries = {"kernel32.dll", "msvcrt.dll",   "user32.dll",   "gdi32.dll",
-                                                "shell32.dll",  "advapi32.dll", "comctl32.dll", "ole32.dll"};
+                                                "shell32.dll",  "advapi32.dll", "comctl32.dll", "comdlg32.dll",
+                                                "winspool.drv", "ole32.dll"};
 
 }  // namespace
 

@@ -70,6 +70,8 @@ TEST_F(KeyboardTest, TheHelpKeyOpensThePageOfTheViewOrTheDialog) {
                           {1011, "Readings", "readings.html"},
                           {1015, "Language of Readings", "readings.html"},
                           {1014, "Zmanim Selection", "zmanim.html"},
+                          {1135, "Daf Yomi List", "persons.html"},
+                          {1137, "Bar and Bat Mitzvah", "persons.html"},
                           {1016, "Custom Candle-Lighting Times", "shabbat_times.html"},
                           {1017, "Form of Times", "shabbat_times.html"}};
   for (const auto& [command, title, page] : dialogs) {

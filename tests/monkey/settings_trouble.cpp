@@ -8,8 +8,8 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kFiles[] = {
-    "shabbat2.ini", "shabloc2.ini", "shab30.ini",  "almanac13.ini",        "solar.ini",   "stamp.ini",
-    "hours.txt",    "lections.ini", "candles.txt", "almanacelevation.ini", "ownhours.txt"};
+    "shabbat2.ini", "shabloc2.ini", "shab30.ini",           "almanac13.ini", "solar.ini",   "stamp.ini",  "hours.txt",
+    "lections.ini", "candles.txt",  "almanacelevation.ini", "ownhours.txt",  "persons.txt", "kinship.ini"};
 
 // Sound settings that another copy, or the user in an editor, might have stored.
 struct Sound {
@@ -27,6 +27,8 @@ constexpr Sound kSound[] = {
     {"solar.ini", ""},
     {"hours.txt", ""},
     {"lections.ini", ""},
+    {"persons.txt", "yahrzeit|5710-12-16 jewish|both|Moshe||\r\nbirthday|2020-02-29 evening||Sarah||two%0Alines\r\n"},
+    {"persons.txt", ""},
 };
 
 std::string Read(const fs::path& file) {

@@ -1,0 +1,50 @@
+/* The library's dialogs and their controls. Read by the compiler and by the resource compiler, so macros only. */
+#ifndef TIMES_READINGS_LIBRARIES_KINSHIP_KINSHIP_IDS_H
+#define TIMES_READINGS_LIBRARIES_KINSHIP_KINSHIP_IDS_H
+
+#define IDD_KINSHIP 100
+#define IDC_TYPED 101
+#define IDC_YEAR 102
+#define IDC_YEAR_SPIN 103
+#define IDC_SORT 104
+#define IDC_CUSTOM 105
+#define IDC_COUNT 106
+#define IDC_PERSONS 107
+#define IDC_ADD 108
+#define IDC_CHANGE 109
+#define IDC_REMOVE 110
+#define IDC_UNDO 111
+#define IDC_IMPORT 112
+#define IDC_EXPORT 113
+#define IDC_PRINT 114
+#define IDC_DAMAGED 115
+#define IDC_APPLY 116
+
+#define IDD_PERSON 200
+#define IDC_NAME 201
+#define IDC_OCCASION 202
+#define IDC_TITLE 203
+#define IDC_TITLE_LABEL 204
+#define IDC_GREGORIAN_DAY 205
+#define IDC_GREGORIAN_MONTH 206
+#define IDC_GREGORIAN_YEAR 207
+#define IDC_JEWISH_DAY 208
+#define IDC_JEWISH_MONTH 209
+#define IDC_JEWISH_YEAR 210
+#define IDC_AFTER_SUNSET 211
+#define IDC_DATE_FAULT 212
+#define IDC_ADAR 213
+#define IDC_ADAR_LABEL 214
+#define IDC_NOTES 215
+#define IDC_OUTLOOK 216
+
+#define IDD_EXPORT 300
+#define IDC_FORMAT 301
+#define IDC_ALL 302
+#define IDC_SHOWN 303
+#define IDC_FIRST_YEAR 304
+#define IDC_FIRST_YEAR_LABEL 305
+#define IDC_YEARS 306
+#define IDC_YEARS_LABEL 307
+
+#endif

@@ -1,0 +1,13 @@
+// How the columns of a table share the room there is.
+#pragma once
+
+#include <vector>
+
+namespace publishing {
+
+// The widths of columns in a room, in the unit of what is given (none is negative). Columns that fit have their own
+// widths. Where they do not, those no wider than an equal share keep theirs, and what is left goes to the others: an
+// equal share each, and the rest in proportion to what they lack.
+std::vector<int> ColumnWidths(const std::vector<int>& own, int room);
+
+}  // namespace publishing

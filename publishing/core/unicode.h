@@ -1,0 +1,49 @@
+// Characters of UTF-8 texts: how wide they are and which way they are written.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace publishing {
+
+// Takes the first character off a text that is not empty. Bytes that are no UTF-8 give U+FFFD, one for each.
+char32_t TakeCharacter(std::string_view& text);
+
+void AppendUtf8(std::string& text, char32_t character);
+
+// Two units for a character beyond U+FFFF.
+void AppendUtf16(std::u16string& text, char32_t character);
+
+// The same text in UTF-16.
+std::u16string Utf16Of(std::string_view utf8);
+
+// Whether a character takes no room of its own: marks above and below letters, and signs that are not seen.
+bool IsCombining(char32_t character);
+
+// In columns of a typewriter.
+std::size_t WidthInCharacters(std::string_view text);
+
+// A text in one line: its line ends and tabs are blanks, a CR LF one.
+std::string InOneLine(std::string_view text);
+
+enum class Direction : uint8_t { kNeutral, kLeftToRight, kRightToLeft };
+
+// Which way a character is written; kNeutral for what goes with its neighbours.
+Direction DirectionOf(char32_t character);
+
+// Whether the first letter is Hebrew, Arabic or another written from right to left.
+bool IsRightToLeft(std::string_view text);
+
+// A part of a text that is written one way.
+struct DirectedRun {
+  std::u32string characters;
+  bool rightToLeft;
+};
+
+// The text in runs, in logical order, as a paragraph of its own direction has them (a short form of Unicode's
+// bidirectional algorithm, UAX #9: W1, W2 and W7 for numbers and marks, N1 and N2 for what is neutral).
+std::vector<DirectedRun> RunsOf(std::string_view text);
+
+}  // namespace publishing

@@ -1,0 +1,94 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "publishing/core/csv.h"
+
+namespace publishing {
+namespace {
+
+using testing::ElementsAre;
+using testing::Optional;
+using Records = std::vector<std::vector<std::string>>;
+
+const Table kTable = {.title = "Not in the file",
+                      .remarks = {"nor this"},
+                      .columns = {{"Name"}, {"Years", Align::kRight}},
+                      .rows = {{"Cohen, \"Moshe\"", "80"}, {"כהן"}, {"a\r\nb", " 1"}, {"", ""}, {"x;y", "z\t"}}};
+
+// RFC 4180, 2.5-2.7.
+TEST(Csv, TextsWithCommasQuotesAndLineEndsAreQuoted) {
+  EXPECT_EQ(CsvOf(kTable),
+            "\xEF\xBB\xBF"
+            "Name,Years\r\n"
+            "\"Cohen, \"\"Moshe\"\"\",80\r\n"
+            "כהן,\r\n"
+            "\"a\r\nb\",\" 1\"\r\n"
+            ",\r\n"
+            "\"x;y\",\"z\t\"\r\n");
+}
+
+TEST(Csv, WhatIsWrittenIsRead) {
+  const Records expected = {{"Name", "Years"}, {"Cohen, \"Moshe\"", "80"}, {"כהן", ""}, {"a\r\nb", " 1"}, {"", ""},
+                            {"x;y", "z\t"}};
+  EXPECT_EQ(CsvIn(CsvOf(kTable)), expected);
+}
+
+TEST(Csv, TheOnlyTextOfARowMayBeEmpty) {
+  const Table table = {.columns = {{""}}, .rows = {{""}, {"a;b"}}};
+  EXPECT_EQ(CsvIn(CsvOf(table)), (Records{{""}, {""}, {"a;b"}}));
+}
+
+TEST(Csv, LinesEndInAnyWay) {
+  const Records expected = {{"a", "b"}, {"c", "d"}};
+  for (const char* const text : {"a,b\r\nc,d\r\n", "a,b\nc,d", "a,b\rc,d\r", "\xEF\xBB\xBF\r\n\na,b\n\n\nc,d\n\n"}) {
+    EXPECT_EQ(CsvIn(text), expected) << text;
+  }
+}
+
+TEST(Csv, LastFieldMayBeEmpty) {
+  EXPECT_EQ(CsvIn("a,"), (Records{{"a", ""}}));
+  EXPECT_EQ(CsvIn(",\r\n"), (Records{{"", ""}}));
+}
+
+TEST(Csv, NothingHasNoRecords) {
+  EXPECT_EQ(CsvIn(""), Records{});
+  EXPECT_EQ(CsvIn("\xEF\xBB\xBF\r\n"), Records{});
+}
+
+// Spreadsheets write them where the comma is the decimal sign.
+TEST(Csv, SemicolonsOrTabsSeparateWhereTheFirstRecordHasNoComma) {
+  EXPECT_EQ(CsvIn("a;\"b,c\"\r\n1,5;d\r\n"), (Records{{"a", "b,c"}, {"1,5", "d"}}));
+  EXPECT_EQ(CsvIn("a\tb\nc;d\te"), (Records{{"a", "b"}, {"c;d", "e"}}));
+  EXPECT_EQ(CsvIn("a;b,c\n"), (Records{{"a;b", "c"}}));
+  EXPECT_EQ(CsvIn("a\nb;c,d"), (Records{{"a"}, {"b;c", "d"}}));
+}
+
+TEST(Csv, QuotesWithinAnUnquotedFieldStand) {
+  EXPECT_EQ(CsvIn("ד\"ר,b\"\"c"), (Records{{"ד\"ר", "b\"\"c"}}));
+}
+
+TEST(Csv, AQuoteThatIsNotClosedIsAnError) {
+  for (const char* const text : {"\"", "a,\"b", "\"a\"\"", "\"a\nb,c\n"}) EXPECT_EQ(CsvIn(text), std::nullopt) << text;
+}
+
+TEST(Csv, TextAfterAClosingQuoteIsAnError) {
+  for (const char* const text : {"\"a\"b", "\"a\" ,b", "x\r\n\"a\"b\r\n"}) EXPECT_EQ(CsvIn(text), std::nullopt) << text;
+}
+
+TEST(Csv, AMegabyteOfAnythingIsRead) {
+  constexpr std::size_t kMegabyte = 1 << 20;
+  EXPECT_EQ(CsvIn(std::string(kMegabyte, 'x')), (Records{{std::string(kMegabyte, 'x')}}));
+  EXPECT_EQ(CsvIn(std::string(kMegabyte, ','))->front().size(), kMegabyte + 1);
+  EXPECT_EQ(CsvIn(std::string(kMegabyte, '\n')), Records{});
+  EXPECT_EQ(CsvIn(std::string(kMegabyte, '"')), (Records{{std::string(kMegabyte / 2 - 1, '"')}}));
+  EXPECT_EQ(CsvIn(std::string(kMegabyte - 1, '"')), std::nullopt);
+  std::string rubbish;
+  for (uint32_t dice = 1; rubbish.size() < kMegabyte; dice = dice * 1664525 + 1013904223) {
+    rubbish += static_cast<char>(dice >> 24);
+  }
+  const auto read = CsvIn(rubbish);
+  EXPECT_TRUE(!read || !read->empty());
+}
+
+}  // namespace
+}  // namespace publishing

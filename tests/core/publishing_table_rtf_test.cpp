@@ -1,0 +1,117 @@
+// That word processors show these files right is what the test "word_processor" sees to.
+#include "publishing/core/table_rtf.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "publishing/core/column_widths.h"
+
+namespace publishing {
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+const RtfFont kFont = {.face = "Times New Roman", .halfPoints = 20};
+
+std::string OfCell(const std::string& text, Align align = Align::kLeft) {
+  return RtfOf({.columns = {{"H", align}}, .rows = {{text}}}, kFont);
+}
+
+// RTF 1.9.1, "Unicode RTF": a signed number of 16 bits and what readers without Unicode show.
+TEST(TableRtf, WhatIsNotAsciiIsWrittenByItsNumber) {
+  EXPECT_THAT(OfCell("é€\uFFFD"), HasSubstr("\\u233?\\u8364?\\u-3?"));
+  EXPECT_THAT(OfCell("👪"), HasSubstr("\\u-10179?\\u-9110?"));  // U+D83D, U+DC6A
+  const std::string rtf =
+      RtfOf({.title = "é", .remarks = {"è"}, .columns = {{"ê"}}, .rows = {{"ש\x01"}}}, {"Ö;{}", 20});
+  EXPECT_TRUE(std::all_of(rtf.begin(), rtf.end(),
+                          [](char byte) { return (byte >= ' ' && byte < 0x7F) || byte == '\r' || byte == '\n'; }));
+  EXPECT_THAT(rtf, HasSubstr("{\\f0\\fnil\\fcharset0 \\u214?\\{\\};}"));
+}
+
+TEST(TableRtf, MarkupInTextsIsEscaped) {
+  EXPECT_THAT(OfCell("{a}\\b\r\nc"), HasSubstr(" \\{a\\}\\\\b c}"));
+}
+
+TEST(TableRtf, ATextFromRightToLeftBeginsAtTheRight) {
+  EXPECT_THAT(OfCell("אב"),
+              HasSubstr("\\rtlpar\\qr {\\ltrch\\fcs0\\f0\\fs20\\rtlch\\fcs1\\af0\\afs20 \\u1488?\\u1489?}"));
+  EXPECT_THAT(OfCell("ab"), HasSubstr("\\ltrpar\\ql {\\rtlch\\fcs1\\af0\\afs20\\ltrch\\fcs0\\f0\\fs20 ab}"));
+  EXPECT_THAT(OfCell("ab", Align::kRight), HasSubstr("\\ltrpar\\qr "));
+}
+
+TEST(TableRtf, PartsOfATextAreEachWrittenTheirWay) {
+  EXPECT_THAT(OfCell("a ב"), HasSubstr("\\fs20 a }{\\ltrch\\fcs0\\f0\\fs20\\rtlch\\fcs1\\af0\\afs20 \\u1489?}\\cell"));
+}
+
+TEST(TableRtf, HeadingsAreBoldAndRepeated) {
+  EXPECT_THAT(OfCell("x"), AllOf(HasSubstr("\\trowd\\trhdr\\trkeep"), HasSubstr("\\fs20\\b H}\\cell\r\n\\row")));
+  EXPECT_THAT(RtfOf({.title = "T", .columns = {{"H"}}}, kFont), HasSubstr("\\fs28\\b T}\\par"));
+}
+
+std::vector<int> RightEdges(const std::string& rtf) {
+  std::vector<int> edges;
+  for (std::size_t at = rtf.find("\\cellx"); at != std::string::npos; at = rtf.find("\\cellx", at + 1)) {
+    edges.push_back(std::atoi(rtf.c_str() + at + 6));
+  }
+  return edges;
+}
+
+// A character of 10 points takes 110 twips, a cell 108 at each side.
+TEST(TableRtf, ColumnsAreAsWideAsTheirLongestText) {
+  const std::string rtf = RtfOf({.columns = {{"abc"}, {"d"}}, .rows = {{"x", std::string(9, 'x')}}}, kFont);
+  EXPECT_THAT(RightEdges(rtf), ElementsAre(4 * 110 + 216, 4 * 110 + 216 + 10 * 110 + 216, 656, 1972));
+  EXPECT_THAT(rtf, AllOf(HasSubstr("\\paperw11906\\paperh16838"), Not(HasSubstr("landscape"))));
+}
+
+// A4 across has 14570 twips between margins of 2 cm.
+TEST(TableRtf, WideColumnsLieAcrossTheSheetAndShareIt) {
+  const std::string rtf =
+      RtfOf({.columns = {{"abc"}, {"d"}, {"e"}}, .rows = {{"x", std::string(500, 'x'), std::string(90, 'y')}}}, kFont);
+  EXPECT_THAT(rtf, HasSubstr("\\paperw16838\\paperh11906"));
+  EXPECT_THAT(rtf, HasSubstr("\\landscape"));
+  const std::vector<int> edges = RightEdges(rtf);
+  EXPECT_EQ(edges[0], 656);
+  EXPECT_NEAR(edges[2], 14570, 3);
+}
+
+TEST(TableRtf, ImpossibleSizesAreLimited) {
+  EXPECT_THAT(RtfOf({.columns = {{"H"}}}, {"F", 1 << 30}), HasSubstr("\\fs400"));
+  EXPECT_THAT(RtfOf({.columns = {{"H"}}}, {"F", -5}), HasSubstr("\\fs2"));
+}
+
+TEST(TableRtf, ATableWithoutColumnsIsATextWithoutATable) {
+  EXPECT_THAT(RtfOf({.title = "T", .rows = {{"x"}}}, kFont), Not(HasSubstr("\\trowd")));
+}
+
+// 100 - 10 leaves 90: an equal share of 33 each and the rest of 24 as 67 to 17, which is 19 and 4.
+TEST(ColumnWidths, WideColumnsShareWhatTheOthersLeave) {
+  EXPECT_THAT(ColumnWidths({10, 100, 50}, 100), ElementsAre(10, 33 + 67 * 24 / 84, 33 + 17 * 24 / 84));
+  EXPECT_THAT(ColumnWidths({10, 20}, 30), ElementsAre(10, 20));
+  EXPECT_THAT(ColumnWidths({10, 21}, 30), ElementsAre(10, 20));
+  EXPECT_THAT(ColumnWidths({5, 5}, 0), ElementsAre(0, 0));
+  EXPECT_THAT(ColumnWidths({}, 10), ElementsAre());
+}
+
+TEST(ColumnWidths, NoColumnIsWiderThanItsOwnNorTheTableThanTheRoom) {
+  for (int seed = 0; seed < 5000; ++seed) {
+    std::vector<int> own;
+    for (int column = 0; column <= seed % 9; ++column) own.push_back((seed * 7919 + column * column * 104729) % 1000);
+    const int room = (seed * 31) % 3000;
+    const std::vector<int> widths = ColumnWidths(own, room);
+    int total = 0;
+    for (std::size_t column = 0; column < own.size(); ++column) {
+      EXPECT_LE(widths[column], own[column]);
+      EXPECT_GE(widths[column], std::min(own[column], room / static_cast<int>(own.size())));
+      total += widths[column];
+    }
+    EXPECT_LE(total, room);
+  }
+}
+
+}  // namespace
+}  // namespace publishing

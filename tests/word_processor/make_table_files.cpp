@@ -1,0 +1,73 @@
+// Writes a table in every form, and its rows as a calendar: make_table_files FOLDER
+// The table comes from FOLDER/table.csv, as another program writes it: a record of headings, then records of date
+// (20260309), name and further texts. Files: table.txt, table.rtf, wide.rtf (each text four times), written.csv,
+// calendar.ics.
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "publishing/core/csv.h"
+#include "publishing/core/icalendar.h"
+#include "publishing/core/table_rtf.h"
+#include "publishing/core/table_text.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace publishing;
+
+std::string ContentOf(const fs::path& file) {
+  std::ostringstream text;
+  text << std::ifstream(file, std::ios::binary).rdbuf();
+  return text.str();
+}
+
+void Save(const fs::path& file, const std::string& text) {
+  std::ofstream(file, std::ios::binary) << text;
+}
+
+Table TableOf(const std::vector<std::vector<std::string>>& records) {
+  Table table = {.title = "Persons {of} \\2026", .remarks = {"Лица", "אנשים (2026)"}};
+  for (const std::string& heading : records.front()) table.columns.push_back({heading, Align::kLeft});
+  table.columns.front().align = Align::kRight;
+  table.rows.assign(records.begin() + 1, records.end());
+  return table;
+}
+
+Table Widened(Table table) {
+  for (Column& column : table.columns) column.heading += column.heading;
+  for (auto& row : table.rows) {
+    for (std::string& text : row) text = text + " " + text + " " + text + " " + text;
+  }
+  return table;
+}
+
+std::string CalendarOfRows(const Table& table) {
+  std::vector<Event> events;
+  for (const auto& row : table.rows) {
+    const int date = std::stoi(row.at(0));
+    std::string description;
+    for (std::size_t column = 2; column < row.size(); ++column) description += row[column] + "\n";
+    events.push_back({"row" + std::to_string(events.size()) + "@times.readings",
+                      {date / 10000, date / 100 % 100, date % 100},
+                      row.at(1),
+                      description});
+  }
+  return CalendarOf("Persons, שמות; Имена", events, {{2026, 11, 2}, 7, 5, 9});
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (count != 2) return 2;
+  const fs::path folder = arguments[1];
+  const auto records = CsvIn(ContentOf(folder / "table.csv"));
+  if (!records || records->empty()) return 1;
+  const Table table = TableOf(*records);
+  Save(folder / "table.txt", TextOf(table));
+  Save(folder / "table.rtf", RtfOf(table, {"Times New Roman", 20}));
+  Save(folder / "wide.rtf", RtfOf(Widened(table), {"Times New Roman", 20}));
+  Save(folder / "written.csv", CsvOf(table));
+  Save(folder / "calendar.ics", CalendarOfRows(table));
+}
