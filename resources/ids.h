@@ -201,6 +201,7 @@
 #define IDC_LOCATION_ZONE_HOURS 110
 #define IDC_LOCATION_ZONE_MINUTES 200
 #define IDC_LOCATION_ELEVATION 300
+#define IDC_LOCATION_CLOCK 400
 
 /* Help ids of the dialogs, by which the help key finds its page; those of the libraries are in companion/dialog_help.h.
  */
