@@ -96,6 +96,14 @@ void SelectZmanim(HWND frame) {
   OpenBesideRenewed(frame);
 }
 
+void ChooseSummerTime(HWND frame) {
+  const auto dialog = OptionalEntries.SolarDoSummerTimeDialog;
+  const Location& place = CurrentLocation;
+  if (dialog && dialog(frame, place.latitude, place.longitude, place.zoneHours, place.zoneMinutes)) {
+    OpenBesideRenewed(frame);
+  }
+}
+
 void ToggleBuiltInZmanim(HWND frame) {
   if (SetZmanimEnabled(!ZmanimEnabled())) {
     OpenBesideRenewed(frame);
@@ -196,6 +204,7 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_EXPORT_RTF_BY_DAY, ExportZmanimByDayLater},
     {IDM_EXPORT_RTF_NARROW, ExportReadingsNarrowLater},
     {IDM_LOCATION_MANAGER, ManageLocations},
+    {IDM_SUMMER_TIME, ChooseSummerTime},
     {IDM_BUILT_IN_ZMANIM, ToggleBuiltInZmanim},
     {IDM_VIEW_SHABBAT_TIMES, PressButton<IDB_SHABBAT_TIMES>},
     {IDM_VIEW_ZMANIM, PressButton<IDB_ZMANIM>},

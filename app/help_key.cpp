@@ -49,6 +49,7 @@ constexpr HelpTopic kDialogTopics[] = {
     {HELPID_KINSHIP_EXPORT, kPersons},
     {HELPID_MAJORITY, kPersons},
     {HELPID_PRINT_PREVIEW, kPersons},
+    {HELPID_SOLAR_SUMMER_TIME, kPlaces},
 };
 
 struct ViewTopic {

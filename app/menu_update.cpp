@@ -7,6 +7,7 @@
 #include "app/own_times_dialog.h"
 #include "app/program.h"
 #include "document/document_window.h"
+#include "engine/optional_entries.h"
 #include "engine/settings_flags.h"
 #include "resources/ids.h"
 
@@ -67,5 +68,6 @@ void UpdateMenus(HWND frame) {
   Check(menu, IDM_ZMANIM_ENGLISH, !hebrew);
   Check(menu, IDM_BUILT_IN_ZMANIM, !ZmanimEnabled());
   Enable(menu, IDM_OWN_TIMES, HasOwnTimesDialog());
+  Enable(menu, IDM_SUMMER_TIME, OptionalEntries.SolarDoSummerTimeDialog != nullptr);
   GreyIdleCommands(menu);
 }

@@ -89,6 +89,7 @@ int RunProgram(HINSTANCE instance, HINSTANCE previousInstance, LPSTR commandLine
   ProduceNoticeLine(Program.notice);
   LoadStringTable(instance);
   if (!BindLibraries()) return 0;
+  LookUpSolarEntries();
   if (!previousInstance) {
     const char* const refused = RegisterWindowClasses(instance, Program.tooltipBrush);
     if (refused) return EndWithFailure("the window class " + std::string(refused) + " could not be registered");

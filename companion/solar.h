@@ -5,12 +5,13 @@
  * 30) and (-3, -30) are both 3:30 behind (St. John's: -3, 30); with hours 0 the minutes' own sign counts.
  *
  * Every operation survives any argument: a date that does not exist means the nearest one of its month and year (years
- * 1 to 9999), a latitude beyond a pole the pole, a longitude wraps, a zone ends at 24 hours. None shows a window; none
- * writes a file. */
+ * 1 to 9999), a latitude beyond a pole the pole, a longitude wraps, a zone ends at 24 hours. None but
+ * SolarDoSummerTimeDialog shows a window or writes a file. */
 #ifndef TIMES_READINGS_COMPANION_SOLAR_H
 #define TIMES_READINGS_COMPANION_SOLAR_H
 
 #include <stdint.h>
+#include <windows.h>
 
 #ifdef __cplusplus
 extern "C" {
@@ -39,6 +40,19 @@ uint32_t SolarGetBuiltInLocation(uint32_t index, char* name, int32_t* latitude, 
 void SolarGetSunsetSunrise(uint32_t day, uint32_t month, uint32_t year, uint32_t event, int32_t latitude,
                            int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes, int32_t* hour,
                            int32_t* minute);
+
+/* Optional; looked up by name. One line about the clock in which the times of a place with these numbers are told, for
+ * whoever types them: ASCII text into buffer (size bytes, terminator included; cut to size - 1), such as "Clock:
+ * America/Chicago, summer time from March to November". Answers the number of bytes without the terminator; 0, nothing
+ * written, for a null buffer or size 0. Reads "solar.ini". */
+uint32_t SolarDescribeZone(int32_t latitude, int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes,
+                           char* buffer, uint32_t size);
+
+/* Optional; looked up by name. Shows a modal dialog about the clock of the place with these numbers, in which the user
+ * chooses its zone, or that it or no place has summer time; the choice is stored in "solar.ini". Nonzero when something
+ * was stored. owner may be null. */
+int32_t SolarDoSummerTimeDialog(HWND owner, int32_t latitude, int32_t longitude, int32_t timeZoneHours,
+                                int32_t timeZoneMinutes);
 
 #ifdef __cplusplus
 }

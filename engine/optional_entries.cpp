@@ -30,3 +30,8 @@ void LookUpOptionalEntries() {
   LookUp("profile.dll", "ProfileCanRead", entries.ProfileCanRead);
   if (!entries.LectionsGetReadingsBy || !entries.LectionsIsYizkorBy) entries.LectionsGetChoice = nullptr;
 }
+
+void LookUpSolarEntries() {
+  LookUp("solar.dll", "SolarDescribeZone", OptionalEntries.SolarDescribeZone);
+  LookUp("solar.dll", "SolarDoSummerTimeDialog", OptionalEntries.SolarDoSummerTimeDialog);
+}

@@ -7,6 +7,7 @@
 #include "companion/lections.h"
 #include "companion/ownhours.h"
 #include "companion/profile.h"
+#include "companion/solar.h"
 
 struct OptionalEntryPoints {
   decltype(&::CandlesDoDialogAt) CandlesDoDialogAt;
@@ -18,8 +19,13 @@ struct OptionalEntryPoints {
   decltype(&::LectionsIsYizkorBy) LectionsIsYizkorBy;
   decltype(&::OwnHoursDoDialog) OwnHoursDoDialog;
   decltype(&::ProfileCanRead) ProfileCanRead;
+  decltype(&::SolarDescribeZone) SolarDescribeZone;
+  decltype(&::SolarDoSummerTimeDialog) SolarDoSummerTimeDialog;
 };
 
 extern OptionalEntryPoints OptionalEntries;
 
 void LookUpOptionalEntries();
+
+// Those of the solar library, which the program does not import: once it is bound.
+void LookUpSolarEntries();

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "engine/core/leading_integer.h"
+#include "engine/optional_entries.h"
 #include "engine/string_table.h"
 #include "engine/unread_settings.h"
 #include "locations/core/location_texts.h"
@@ -22,6 +23,7 @@
 namespace {
 
 constexpr uint32_t kFirstRefusedLatitude = 66;
+constexpr uint32_t kMostLongitude = 180;
 
 // What the editor was opened with; the dialog keeps a pointer to it.
 struct Editing {
@@ -84,6 +86,41 @@ void ShowBuiltInLocation(HWND dialog, Editing& editing) {
   SetDlgItemInt(dialog, IDC_LOCATION_ELEVATION, 0, FALSE);
 }
 
+// The minutes of the zone as typed; an empty field means those that the place had.
+std::optional<int32_t> TypedZoneMinutes(HWND dialog) {
+  if (GetWindowTextLengthA(GetDlgItem(dialog, IDC_LOCATION_ZONE_MINUTES)) == 0) {
+    return EditingOf(dialog).builtInZoneMinutes;
+  }
+  return ReadSigned(dialog, IDC_LOCATION_ZONE_MINUTES);
+}
+
+// Degrees and minutes in two fields as a packed coordinate; nothing where they are none.
+std::optional<int32_t> TypedCoordinate(HWND dialog, int degreesField, int minutesField, int negativeButton,
+                                       uint32_t mostDegrees) {
+  constexpr uint32_t kMinutesPerDegree = 60;
+  const auto degrees = ReadUnsigned(dialog, degreesField);
+  const auto minutes = ReadUnsigned(dialog, minutesField);
+  if (!degrees || !minutes || *degrees > mostDegrees || *minutes >= kMinutesPerDegree) return std::nullopt;
+  return PackCoordinate(static_cast<int32_t>(*degrees), static_cast<int32_t>(*minutes),
+                        IsDlgButtonChecked(dialog, negativeButton) == BST_CHECKED);
+}
+
+// The clock in which times of the place would be told; empty while the fields are no place.
+void ShowClock(HWND dialog) {
+  if (!OptionalEntries.SolarDescribeZone) return;
+  const auto latitude = TypedCoordinate(dialog, IDC_LOCATION_LATITUDE_DEGREES, IDC_LOCATION_LATITUDE_MINUTES,
+                                        IDC_LOCATION_SOUTH, kFirstRefusedLatitude - 1);
+  const auto longitude = TypedCoordinate(dialog, IDC_LOCATION_LONGITUDE_DEGREES, IDC_LOCATION_LONGITUDE_MINUTES,
+                                         IDC_LOCATION_WEST, kMostLongitude);
+  const auto zoneHours = ReadSigned(dialog, IDC_LOCATION_ZONE_HOURS);
+  const auto zoneMinutes = TypedZoneMinutes(dialog);
+  char line[kTextSize] = "";
+  if (latitude && longitude && zoneHours && zoneMinutes) {
+    OptionalEntries.SolarDescribeZone(*latitude, *longitude, *zoneHours, *zoneMinutes, line, sizeof line);
+  }
+  SetDlgItemTextA(dialog, IDC_LOCATION_CLOCK, line);
+}
+
 LRESULT OnInitDialog(HWND dialog, LPARAM parameter) {
   SetWindowLongPtrA(dialog, DWLP_USER, parameter);
   Editing& editing = EditingOf(dialog);
@@ -97,15 +134,13 @@ LRESULT OnInitDialog(HWND dialog, LPARAM parameter) {
   } else {
     ShowBuiltInLocation(dialog, editing);
   }
+  ShowClock(dialog);
   return TRUE;
 }
 
-// Empty, the field means the minutes that the place had; what is no number is not taken for one.
+// What is no number is not taken for one.
 std::optional<int32_t> ReadZoneMinutes(HWND dialog) {
-  if (GetWindowTextLengthA(GetDlgItem(dialog, IDC_LOCATION_ZONE_MINUTES)) == 0) {
-    return EditingOf(dialog).builtInZoneMinutes;
-  }
-  const auto minutes = ReadSigned(dialog, IDC_LOCATION_ZONE_MINUTES);
+  const auto minutes = TypedZoneMinutes(dialog);
   if (!minutes) {
     ShowFieldError(dialog, IDC_LOCATION_ZONE_MINUTES,
                    "The minutes of the time zone are not a number. Please type 0, 30 or 45, for instance.");
@@ -195,10 +230,22 @@ void OnSave(HWND dialog) {
   EndDialog(dialog, 1);
 }
 
-LRESULT OnCommand(HWND dialog, int control) {
+LRESULT OnCommand(HWND dialog, int control, int notification) {
   switch (control) {
     case IDOK: OnSave(dialog); break;
     case IDCANCEL: EndDialog(dialog, 0); break;
+    case IDC_LOCATION_LATITUDE_DEGREES:
+    case IDC_LOCATION_LATITUDE_MINUTES:
+    case IDC_LOCATION_LONGITUDE_DEGREES:
+    case IDC_LOCATION_LONGITUDE_MINUTES:
+    case IDC_LOCATION_ZONE_HOURS:
+    case IDC_LOCATION_ZONE_MINUTES:
+      if (notification == EN_CHANGE) ShowClock(dialog);
+      break;
+    case IDC_LOCATION_NORTH:
+    case IDC_LOCATION_SOUTH:
+    case IDC_LOCATION_EAST:
+    case IDC_LOCATION_WEST: ShowClock(dialog); break;
   }
   return 0;
 }
@@ -206,7 +253,7 @@ LRESULT OnCommand(HWND dialog, int control) {
 LRESULT Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_INITDIALOG: return OnInitDialog(dialog, lParam);
-    case WM_COMMAND: return OnCommand(dialog, LOWORD(wParam));
+    case WM_COMMAND: return OnCommand(dialog, LOWORD(wParam), HIWORD(wParam));
   }
   return DefaultDialogMessage(dialog, message, wParam, lParam);
 }

@@ -81,6 +81,7 @@
 #define IDM_EXPORT_RTF_THREE_COLUMNS 1022 /* these two are posted, not in a menu */
 #define IDM_EXPORT_RTF_TWO_COLUMNS 1023
 #define IDM_LOCATION_MANAGER 1101
+#define IDM_SUMMER_TIME 1102
 #define IDM_BUILT_IN_ZMANIM 1103
 #define IDM_OWN_TIMES 1104
 #define IDM_EXPORT_RTF_BY_DAY 1105
@@ -200,6 +201,7 @@
 #define IDC_LOCATION_ZONE_HOURS 110
 #define IDC_LOCATION_ZONE_MINUTES 200
 #define IDC_LOCATION_ELEVATION 300
+#define IDC_LOCATION_CLOCK 400
 
 /* Help ids of the dialogs, by which the help key finds its page; those of the libraries are in companion/dialog_help.h.
  */

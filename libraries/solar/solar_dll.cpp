@@ -1,9 +1,13 @@
+#include <chrono>
 #include <cstdio>
 #include <mutex>
 #include <optional>
 
 #include "companion/profile.h"
 #include "companion/solar.h"
+#include "libraries/solar/clock_texts.h"
+#include "libraries/solar/summer_time_choice.h"
+#include "libraries/solar/summer_time_dialog.h"
 #include "libraries/sun/clock_in_force.h"
 #include "libraries/sun/place_settings.h"
 #include "libraries/sun/places.h"
@@ -72,4 +76,25 @@ void SolarGetSunsetSunrise(uint32_t day, uint32_t month, uint32_t year, uint32_t
   Put(hour, time.hour);
   Put(minute, time.minute);
 } catch (...) {  // the outputs stay as they are
+}
+
+uint32_t SolarDescribeZone(int32_t latitude, int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes,
+                           char* buffer, uint32_t size) try {
+  if (!buffer || size == 0) return 0;
+  const sun::PackedPlace place = {latitude, longitude, timeZoneHours, timeZoneMinutes};
+  const solar::SummerTimeChoice stored = solar::StoredChoice({ProfileGetInt, ProfileGetString}, place);
+  const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch());
+  const std::string line = solar::LineText(solar::ClockBy(stored, place), place, now.count());
+  const size_t length = line.copy(buffer, size - 1);
+  buffer[length] = '\0';
+  return static_cast<uint32_t>(length);
+} catch (...) {
+  return 0;
+}
+
+int32_t SolarDoSummerTimeDialog(HWND owner, int32_t latitude, int32_t longitude, int32_t timeZoneHours,
+                                int32_t timeZoneMinutes) try {
+  return solar::RunSummerTimeDialog(owner, {latitude, longitude, timeZoneHours, timeZoneMinutes}) ? 1 : 0;
+} catch (...) {
+  return 0;
 }

@@ -14,27 +14,13 @@ namespace {
 
 constexpr char kElevationFile[] = "almanacelevation.ini";
 constexpr char kElevationSection[] = "Elevation";
-constexpr char kClockFile[] = "solar.ini";
-constexpr char kClockSection[] = "SummerTime";
 
 char LowerCase(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
-  return std::ranges::equal(left, right, {}, LowerCase, LowerCase);
-}
-
-// The text of a key of the clock section, "" when it is missing; what does not fit is no mode and no zone either.
-std::array<char, 64> ReadClockText(const SettingsReader& reader, const char* key) {
-  std::array<char, 64> text = {};
-  reader.readText(kClockSection, key, "", text.data(), static_cast<uint32_t>(text.size()), kClockFile);
-  text.back() = '\0';
-  return text;
-}
-
 bool IsOff(const PlaceTexts& texts) {
-  return EqualsIgnoringCase(texts.mode.data(), "Off");
+  return IsWord(texts.mode.data(), kModeOff);
 }
 
 int32_t ReadElevation(const SettingsReader& reader, const PackedPlace& place, const PlaceKey& key,
@@ -54,7 +40,7 @@ PlaceTexts ReadTexts(const SettingsReader& reader, const PackedPlace& place, con
                      const PlaceKey& otherKey) {
   PlaceTexts texts = {};
   texts.elevationMetres = ReadElevation(reader, place, key, otherKey);
-  texts.mode = ReadClockText(reader, "Mode");
+  texts.mode = ReadClockText(reader, kModeKey);
   if (IsOff(texts)) return texts;
   texts.zone = ReadClockText(reader, key.data());
   if (texts.zone[0] == '\0' && otherKey[0] != '\0') texts.zone = ReadClockText(reader, otherKey.data());
@@ -67,7 +53,7 @@ PlaceSettings SettingsOf(const PackedPlace& place, const PlaceTexts& texts) {
                             {}};
   PlaceClock& clock = settings.clock;
   clock.standardOffsetSeconds = settings.site.standardOffsetMinutes * 60;
-  if (IsOff(texts) || EqualsIgnoringCase(texts.zone.data(), "none")) return settings;
+  if (IsOff(texts) || IsWord(texts.zone.data(), kNoSummerTime)) return settings;
   if (IsKnownZone(texts.zone.data())) {
     clock.zoneId = texts.zone;
   } else if (const char* zone = FindZone(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes).zoneId) {
@@ -77,6 +63,17 @@ PlaceSettings SettingsOf(const PackedPlace& place, const PlaceTexts& texts) {
 }
 
 }  // namespace
+
+bool IsWord(const char* text, const char* word) {
+  return std::ranges::equal(std::string_view(text), std::string_view(word), {}, LowerCase, LowerCase);
+}
+
+std::array<char, 64> ReadClockText(const SettingsReader& reader, const char* key) {
+  std::array<char, 64> text = {};
+  reader.readText(kClockSection, key, "", text.data(), static_cast<uint32_t>(text.size()), kClockFile);
+  text.back() = '\0';
+  return text;
+}
 
 PlaceKey KeyOf(const PackedPlace& place) {
   PlaceKey key = {};

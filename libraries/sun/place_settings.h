@@ -56,6 +56,18 @@ struct PlaceTexts {
   bool operator==(const PlaceTexts&) const = default;
 };
 
+constexpr char kClockFile[] = "solar.ini";
+constexpr char kClockSection[] = "SummerTime";
+constexpr char kModeKey[] = "Mode";
+constexpr char kModeOff[] = "Off";     // as Mode; in any letter case
+constexpr char kNoSummerTime[] = "none";  // in place of a zone id; in any letter case
+
+// Whether a text of the clock's section is one of these words.
+bool IsWord(const char* text, const char* word);
+
+// A text of the clock's section, "" when it is missing; what does not fit is no mode and no zone either.
+std::array<char, 64> ReadClockText(const SettingsReader& reader, const char* key);
+
 using PlaceKey = std::array<char, 80>;
 
 PlaceKey KeyOf(const PackedPlace& place);

@@ -121,6 +121,7 @@ TEST_F(HelpKeyTest, EachDialogOfALibraryHasItsPage) {
                                                  {HELPID_KINSHIP_EXPORT, "Persons"},
                                                  {HELPID_MAJORITY, "Persons"},
                                                  {HELPID_PRINT_PREVIEW, "Persons"},
+                                                 {HELPID_SOLAR_SUMMER_TIME, "Places"},
                                                  {4711, "Start"}};
   WithDialog([&] { RunDialog<HandleAny>(frame_, "ABOUTDLG"); },
              [&](HWND dialog) {

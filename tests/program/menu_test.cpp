@@ -79,6 +79,7 @@ TEST_F(MenuTest, MenuTextsOfTheCommandsStand) {
       {1013, "Birthdays/&Yahrzeit font..."},
       {1020, "Export Zmanim..."},
       {1021, "Export Gregorian/Jewish date, Torah/Haphtarah readings and Holidays..."},
+      {1102, "Su&mmer time..."},
       {1135, "&Daf Yomi..."},
       {1136, "&Birthdays and yahrzeit..."},
       {1137, "Bar and bat &mitzvah..."},
@@ -98,6 +99,13 @@ TEST_F(MenuTest, MenuTextsOfTheCommandsStand) {
     EXPECT_STREQ(text, row.text);
   }
   for (const unsigned id : {1006u, 1022u, 1023u}) EXPECT_EQ(GetMenuState(menu, id, MF_BYCOMMAND), ~0u) << id;
+}
+
+TEST_F(MenuTest, SummerTimeStandsBelowTheLocations) {
+  ListNoUserPlace("Aachen");
+  const HMENU settings = GetSubMenu(GetMenu(OpenFrame()), 3);
+  EXPECT_EQ(GetMenuItemID(settings, 0), 1101u);
+  EXPECT_EQ(GetMenuItemID(settings, 1), 1102u);
 }
 
 TEST_F(MenuTest, CommandsWithoutActionAreGreyedAndIgnored) {
