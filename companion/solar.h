@@ -22,7 +22,7 @@ enum { SOLAR_SUNSET = 0, SOLAR_SUNRISE = 1 };
 /* The interface version, 256. */
 uint32_t SolarGetAPIVersion(void);
 
-/* The number of built-in places; their indexes run from 0 in alphabetical order. */
+/* The number of built-in places; their indexes run from 0, which is Aachen; the others are in alphabetical order. */
 uint32_t SolarGetCountOfBuiltInLocations(void);
 
 /* The record of built-in place index: its name (a buffer of 256 bytes), packed coordinates and standard zone. Nonzero
