@@ -2,13 +2,12 @@
 #pragma once
 
 #include <span>
-#include <string_view>
 
 namespace placepick::place_names_table {
 
 struct OtherNames {
-  std::u16string_view country;
-  std::u16string_view names;  // joined by "|": Hebrew, former and other spellings; may be empty
+  const char16_t* country;
+  const char16_t* names;  // joined by "|": Hebrew, former and other spellings; may be empty
 };
 
 // In the order of sun::BuiltInPlaces().

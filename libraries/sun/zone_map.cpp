@@ -35,8 +35,6 @@ class CellReader {
   ZoneSet SetAt(uint32_t x, uint32_t y) { return sets[Find(x, y, kRootDepth)]; }
 
  private:
-  static constexpr uint32_t kNone = UINT32_MAX;
-
   uint32_t Find(uint32_t x, uint32_t y, int depth) {
     if (depth == kDepth || !reader_.Take(1)) return TakeSet();
     const uint32_t half = 1u << (kDepth - depth - 1);
