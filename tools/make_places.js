@@ -9,7 +9,7 @@
 // From GeoNames (geonames.org, CC BY 4.0): cities above 100,000 people, capitals, towns of Israel above 5,000, and those
 // of tools/community_places.txt; between 65 degrees south and north. The places of tools/first_places.txt keep name,
 // coordinates, offset and zone as they stand there. Zones are the gazetteer's, or the boundaries' where these disagree;
-// Israeli towns beyond the line of 1949 keep Israel's clock. Offsets are those of standard time in the
+// Jewish towns beyond the line of 1949 keep Israel's clock. Offsets are those of standard time in the
 // committed table of clock rules. The same releases give the same bytes. What had to be decided is told on stderr.
 "use strict";
 
@@ -104,8 +104,13 @@ for (const line of linesOf(inRoot("tools", "first_places.txt"))) {
   add({ name, latitude: +latitude, longitude: +longitude, offset: +offset, zone, city, country });
 }
 
+const communities = new Map(); // the name of each city that tools/community_places.txt has
+
+// Jewish communities beyond the line of 1949, which keep Israel's clock.
+const isBeyondTheLine = (city) => city.code === "STLMT" || (city.country === "PS" && communities.has(city));
+
 function zoneOf(city) {
-  if (city.code === "STLMT") return "Asia/Jerusalem";
+  if (isBeyondTheLine(city)) return "Asia/Jerusalem";
   const there = find(city.latitude, city.longitude);
   if (there.includes(city.zone) || there.length === 0) return city.zone;
   console.error(`${city.name} (${city.country}): ${city.zone} in the gazetteer, ${there[0]} by the boundaries`);
@@ -134,11 +139,12 @@ for (const line of linesOf(inRoot("tools", "community_places.txt"))) {
   const [name, country, region] = line.split("|");
   const city = cityNamed(name, (c) => c.country === country && (!region || c.region === region));
   if (!city) throw new Error(`${line}: not in the gazetteer`);
+  communities.set(city, name);
   wanted.push([city, name]);
 }
 const isWanted = ({ people, code, country }) => people >= 100000 || code === "PPLC" ||
   (people >= 5000 && country === "IL") || (people >= 1000 && code === "STLMT");
-for (const city of cities.filter(isWanted)) wanted.push([city, city.name]);
+for (const city of cities.filter((c) => isWanted(c) && !communities.has(c))) wanted.push([city, city.name]);
 wanted.sort(([a, nameA], [b, nameB]) => b.people - a.people || (nameA < nameB ? -1 : 1));
 for (const [city, name] of wanted) addCity(city, name);
 
@@ -183,7 +189,7 @@ const std::span<const BuiltInPlace> places = kPlaces;
 }  // namespace sun::places_table
 // clang-format on
 `);
-const countryOf = ({ city, country }) => (city?.code === "STLMT" ? "West Bank" : countryName(country ?? city.country));
+const countryOf = ({ city, country }) => (city && isBeyondTheLine(city) ? "West Bank" : countryName(country ?? city.country));
 fs.writeFileSync(inRoot("libraries", "placepick", "place_names_table.cpp"), `${head}
 #include "libraries/placepick/place_names_table.h"
 
