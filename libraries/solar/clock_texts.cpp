@@ -19,8 +19,7 @@ constexpr int64_t kSecondsPerMinute = 60;
 constexpr int64_t kSecondsPerDay = 86400;
 constexpr int64_t kYearAndMonthSeconds = 400 * kSecondsPerDay;
 
-constexpr const char* kWeekdays[] = {"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                     "Thursday", "Friday", "Saturday"};
+constexpr const char* kWeekdays[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
 constexpr const char* kMonths[] = {"January", "February", "March",     "April",   "May",      "June",
                                    "July",    "August",   "September", "October", "November", "December"};
 
@@ -72,8 +71,8 @@ std::string ChangeText(const ClockChange& change, stamp::Form form) {
 std::string SeasonText(const sun::PlaceClock& clock, int64_t unixSeconds) {
   const auto [first, second] = ChangesOf(clock, unixSeconds);
   if (!first) return "no summer time";
-  const bool isYearly = second && second->offsetAfter == first->offsetBefore &&
-                        second->unixSeconds - unixSeconds < kYearAndMonthSeconds;
+  const bool isYearly =
+      second && second->offsetAfter == first->offsetBefore && second->unixSeconds - unixSeconds < kYearAndMonthSeconds;
   if (!isYearly) return OffsetText(first->offsetAfter) + " from " + MonthOf(*first) + " " + YearOf(*first) + " on";
   const bool startsFirst = first->offsetAfter > first->offsetBefore;
   const ClockChange& start = startsFirst ? *first : *second;
@@ -90,8 +89,8 @@ std::optional<int32_t> OtherStandardOffset(const ExplainedClock& clock) {
 std::string ZoneThereText(const sun::PackedPlace& place) {
   const char* const there = sun::ZoneThere(place.latitude, place.longitude);
   if (!there) return {};
-  return std::string(" The zone here is ") + there + " (" +
-         OffsetText(sun::StandingOffsetSeconds(there).value_or(0)) + ").";
+  return std::string(" The zone here is ") + there + " (" + OffsetText(sun::StandingOffsetSeconds(there).value_or(0)) +
+         ").";
 }
 
 bool PartsWords(char c) {
@@ -133,8 +132,7 @@ std::string OffsetText(int32_t offsetSeconds) {
 }
 
 std::string PlaceText(const sun::PackedPlace& place) {
-  const sun::Site site =
-      sun::SiteFromPacked(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes);
+  const sun::Site site = sun::SiteFromPacked(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes);
   return CoordinateText(place.latitude, 'N', 'S') + ", " + CoordinateText(place.longitude, 'E', 'W') +
          ", standard time " + OffsetText(site.standardOffsetMinutes * 60);
 }
@@ -146,10 +144,9 @@ std::string MomentText(int64_t unixSeconds, int32_t offsetSeconds, stamp::Form f
   const year_month_day date{day};
   const int64_t secondOfDay = clockSeconds - day.time_since_epoch().count() * kSecondsPerDay;
   const sun::HourAndMinute time = sun::TimeOfDay(secondOfDay / kSecondsPerMinute);
-  return std::string(kWeekdays[weekday{day}.c_encoding()]) + ", " +
-         std::to_string(static_cast<unsigned>(date.day())) + " " +
-         kMonths[static_cast<unsigned>(date.month()) - 1] + " " + std::to_string(static_cast<int>(date.year())) + ", " +
-         stamp::TimeText(time.hour, time.minute, form);
+  return std::string(kWeekdays[weekday{day}.c_encoding()]) + ", " + std::to_string(static_cast<unsigned>(date.day())) +
+         " " + kMonths[static_cast<unsigned>(date.month()) - 1] + " " + std::to_string(static_cast<int>(date.year())) +
+         ", " + stamp::TimeText(time.hour, time.minute, form);
 }
 
 std::string ClockText(const ExplainedClock& clock) {

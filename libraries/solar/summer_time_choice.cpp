@@ -65,8 +65,7 @@ std::vector<KeyChange> ChangesFor(const SummerTimeChoice& stored, const SummerTi
 }
 
 ExplainedClock ClockBy(const SummerTimeChoice& choice, const sun::PackedPlace& place) {
-  const sun::Site site =
-      sun::SiteFromPacked(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes);
+  const sun::Site site = sun::SiteFromPacked(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes);
   ExplainedClock explained = {{site.standardOffsetMinutes * 60, {}}, ClockReason::kOff};
   if (choice.isOffAnywhere) return explained;
   if (choice.choice == Choice::kNoSummerTime) {
@@ -75,8 +74,7 @@ ExplainedClock ClockBy(const SummerTimeChoice& choice, const sun::PackedPlace& p
     explained.reason = ClockReason::kSetByUser;
     SetZone(explained.clock, choice.zoneId.c_str());
   } else {
-    const sun::ZoneOfPlace found =
-        sun::FindZone(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes);
+    const sun::ZoneOfPlace found = sun::FindZone(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes);
     explained.reason = ReasonOf(found.reason);
     if (found.zoneId) SetZone(explained.clock, found.zoneId);
   }

@@ -14,7 +14,7 @@ enum class Choice : uint8_t { kZoneFound, kOtherZone, kNoSummerTime };
 
 struct SummerTimeChoice {
   Choice choice = Choice::kZoneFound;
-  std::string zoneId;     // with kOtherZone: of the tz database
+  std::string zoneId;  // with kOtherZone: of the tz database
   bool isOffAnywhere = false;
 
   bool operator==(const SummerTimeChoice&) const = default;

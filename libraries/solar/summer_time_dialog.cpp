@@ -34,11 +34,11 @@ constexpr int64_t kSecondsPerMinute = 60;
 constexpr WPARAM kMostTypedLetters = 100;
 
 constexpr Anchor kAnchors[] = {
-    {IDC_PLACE, Follow::kGrow, Follow::kNo},       {IDC_CLOCK, Follow::kGrow, Follow::kNo},
-    {IDC_NOW, Follow::kGrow, Follow::kNo},         {IDC_NEXT_CHANGE, Follow::kGrow, Follow::kNo},
+    {IDC_PLACE, Follow::kGrow, Follow::kNo},         {IDC_CLOCK, Follow::kGrow, Follow::kNo},
+    {IDC_NOW, Follow::kGrow, Follow::kNo},           {IDC_NEXT_CHANGE, Follow::kGrow, Follow::kNo},
     {IDC_SECOND_CHANGE, Follow::kGrow, Follow::kNo}, {IDC_WARNING, Follow::kGrow, Follow::kNo},
-    {IDC_COUNT, Follow::kMove, Follow::kNo},       {IDC_ZONES, Follow::kGrow, Follow::kGrow},
-    {IDC_OFF_ANYWHERE, Follow::kNo, Follow::kMove}, {IDOK, Follow::kMove, Follow::kMove},
+    {IDC_COUNT, Follow::kMove, Follow::kNo},         {IDC_ZONES, Follow::kGrow, Follow::kGrow},
+    {IDC_OFF_ANYWHERE, Follow::kNo, Follow::kMove},  {IDOK, Follow::kMove, Follow::kMove},
     {IDCANCEL, Follow::kMove, Follow::kMove},
 };
 

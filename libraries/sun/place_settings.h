@@ -59,7 +59,7 @@ struct PlaceTexts {
 constexpr char kClockFile[] = "solar.ini";
 constexpr char kClockSection[] = "SummerTime";
 constexpr char kModeKey[] = "Mode";
-constexpr char kModeOff[] = "Off";     // as Mode; in any letter case
+constexpr char kModeOff[] = "Off";        // as Mode; in any letter case
 constexpr char kNoSummerTime[] = "none";  // in place of a zone id; in any letter case
 
 // Whether a text of the clock's section is one of these words.

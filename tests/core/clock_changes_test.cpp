@@ -43,8 +43,7 @@ TEST(ClockChanges, AreTheReferencesInTheirOrderInEachYear) {
 TEST(ClockChanges, PlacesOfTheReferenceHaveItsZones) {
   for (const ClockYear& year : kClockYears) {
     const sun::PackedPlace& place = year.place;
-    const char* const found =
-        sun::FindZone(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes).zoneId;
+    const char* const found = sun::FindZone(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes).zoneId;
     EXPECT_STREQ(found, year.zoneId);
   }
 }

@@ -1,6 +1,7 @@
 // The clocks of thirteen places in four years.
 //
-// From CPython's zoneinfo: tz release 2025b, and for 2026 in Casablanca and Vancouver, whose laws are newer, release 2026f.
+// From CPython's zoneinfo: tz release 2025b, and for 2026 in Casablanca and Vancouver, whose laws are newer, release
+// 2026f.
 #pragma once
 
 #include <cstdint>

@@ -71,11 +71,8 @@ TEST_F(CommandsTest, InformationDialogsOpenAndClose) {
   const struct {
     unsigned command;
     const char* title;
-  } dialogs[] = {{1001, "Select Location"},
-                 {1004, "Sunset time of a day"},
-                 {3003, "About Times / Readings"},
-                 {1017, "Form of Times"},
-                 {1101, "Select Location"}};
+  } dialogs[] = {{1001, "Select Location"}, {1004, "Sunset time of a day"}, {3003, "About Times / Readings"},
+                 {1017, "Form of Times"},   {1102, "Summer Time"},          {1101, "Select Location"}};
   for (const auto& row : dialogs) {
     program.PostCommand(row.command);
     const HWND dialog = program.WaitForDialog(row.title);
@@ -92,6 +89,29 @@ TEST_F(CommandsTest, CustomTimesOpenADocumentWithThem) {
   program.PostCommand(1016);
   Click(program.WaitForDialog("Custom Candle-Lighting Times"), IDOK);
   EXPECT_EQ(program.WaitForDocuments(2).size(), 2u);
+}
+
+// Sunset in Aachen by PyEphem (50:47 N, 6:05 E, centre at -50'): 21:53 on 26 June 2026, in summer
+// time; candles are lit 18 minutes before.
+TEST_F(CommandsTest, WithoutSummerTimeTheNewDocumentIsAnHourEarlier) {
+  const auto exported = [this](const ProgramRun& program, const char* name) {
+    const fs::path file = exports_.path() / name;
+    program.PostCommand(1005);
+    SaveAs(program, file);
+    EXPECT_TRUE(program.Eventually([&] { return !ReadFileText(file).empty(); }));
+    return ReadFileText(file);
+  };
+  ProgramRun program(ProgramFolder(), settings_.path());
+  program.WaitForDocuments(1);
+  OpenRange(program, "26.6.2026", "27.6.2026");
+  EXPECT_THAT(exported(program, "summer.txt"), HasSubstr("26.06.2026   21:35"));
+  program.PostCommand(1102);
+  const HWND dialog = program.WaitForDialog("Summer Time");
+  SendDlgItemMessageA(dialog, 111, BM_CLICK, 0, 0);  // no summer time for this place
+  Click(dialog, IDOK);
+  program.WaitForDocuments(3);
+  EXPECT_THAT(Setting("solar.ini"), HasSubstr("[SummerTime]\r\n50-47-6-5-1-0=none\r\n"));
+  EXPECT_THAT(exported(program, "standard.txt"), HasSubstr("26.06.2026   20:35"));
 }
 
 TEST_F(CommandsTest, UnknownCommandsAreIgnored) {

@@ -26,6 +26,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const auto offset = sun::UtcOffsetSeconds(zones[known].id, moment);
   FUZZ_CHECK(offset.has_value() == (moment >= 0));
   FUZZ_CHECK(!offset || (*offset > -kMostOffsetSeconds && *offset < kMostOffsetSeconds));
+  const auto change = sun::NextClockChange(zones[known].id, moment);
+  FUZZ_CHECK(!change || change->unixSeconds > moment);
+  FUZZ_CHECK(!change || sun::UtcOffsetSeconds(zones[known].id, change->unixSeconds) == change->offsetAfter);
+  FUZZ_CHECK(!change || sun::UtcOffsetSeconds(zones[known].id, change->unixSeconds - 1) == change->offsetBefore);
+  FUZZ_CHECK(!sun::NextClockChange(text, moment).has_value() || sun::IsKnownZone(text));
   FUZZ_CHECK(sun::UtcOffsetSeconds(text, moment).has_value() == (sun::IsKnownZone(text) && moment >= 0));
   const char* const found = sun::FindZone(latitude, longitude, zoneHours, zoneMinutes).zoneId;
   FUZZ_CHECK(!found || sun::IsKnownZone(found));

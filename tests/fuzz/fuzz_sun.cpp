@@ -3,8 +3,13 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <string>
 
+#include "libraries/profile/ini_document.h"
+#include "libraries/profile/profile_answers.h"
+#include "libraries/solar/clock_texts.h"
+#include "libraries/solar/summer_time_choice.h"
 #include "libraries/sun/clock_in_force.h"
 #include "libraries/sun/place_settings.h"
 #include "libraries/sun/sun_day.h"
@@ -15,18 +20,42 @@ namespace {
 
 constexpr double kSecondsPerDay = 86400;
 
-// What the settings say, whatever is asked.
+// What the settings say: the elevation whatever is asked, and solar.ini.
 int32_t elevationMetres;
-std::string clockText;
+std::optional<profile::IniDocument> clockFile;
 
 int32_t ReadInt(const char*, const char*, int32_t, const char*) {
   return elevationMetres;
 }
 
-uint32_t ReadText(const char*, const char*, const char*, char* buffer, uint32_t size, const char*) {
-  const size_t length = clockText.copy(buffer, size - 1);
-  buffer[length] = '\0';
-  return static_cast<uint32_t>(length);
+uint32_t ReadText(const char* section, const char* key, const char* defaultValue, char* buffer, uint32_t size,
+                  const char*) {
+  return profile::TextAnswer(*clockFile, section, key, defaultValue, buffer, size);
+}
+
+// What the dialog and the editor of a place say about its clock, which is the one that times are told in.
+void CheckTexts(const sun::PackedPlace& place, const sun::PlaceClock& told, int64_t now) {
+  const solar::SummerTimeChoice stored = solar::StoredChoice({ReadInt, ReadText}, place);
+  FUZZ_CHECK(solar::ChangesFor(stored, stored, place).empty());
+  const solar::ExplainedClock explained = solar::ClockBy(stored, place);
+  FUZZ_CHECK(explained.clock.standardOffsetSeconds == told.standardOffsetSeconds);
+  FUZZ_CHECK(std::strcmp(explained.clock.zoneId.data(), told.zoneId.data()) == 0);
+  const std::string line = solar::LineText(explained, place, now);
+  FUZZ_CHECK(!line.empty() && line.size() < 256);
+  FUZZ_CHECK(!solar::PlaceText(place).empty() && !solar::ClockText(explained).empty());
+  FUZZ_CHECK(!solar::NowText(explained.clock, now, stamp::Form::kTwelveHours).empty());
+  FUZZ_CHECK(!solar::NextChangesText(explained.clock, now, stamp::Form::kTwelveHours).second.empty());
+  FUZZ_CHECK(solar::WarningText(explained, place).size() < 256);
+}
+
+// Any text, or one whose section begins with this mode and this zone of the place.
+std::string ClockFileText(FuzzedDataProvider& input, const sun::PackedPlace& place) {
+  if (input.ConsumeBool()) return input.ConsumeRandomLengthString(400);
+  const std::string zone = input.ConsumeBool() ? "Europe/London" : input.ConsumeRandomLengthString(70);
+  const std::string mode = input.ConsumeRandomLengthString(12);
+  const sun::PlaceKey other = sun::OtherKeyOf(place);
+  const sun::PlaceKey key = input.ConsumeBool() && other[0] != '\0' ? other : sun::KeyOf(place);
+  return std::string("[SummerTime]\n") + key.data() + "=" + zone + "\nMode=" + mode + "\n";
 }
 
 void CheckEvent(const sun::SunDay& day, const sun::SunEvent& event, const sun::PlaceClock& clock) {
@@ -53,9 +82,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   double depressionDegrees;
   std::memcpy(&depressionDegrees, &depressionBits, sizeof depressionDegrees);
   elevationMetres = number(-500, 9000);
-  clockText = input.ConsumeRandomLengthString(70);
+  clockFile.emplace(ClockFileText(input, place));
+  const auto now = input.ConsumeIntegralInRange<int64_t>(-100000, 40'000'000'000);
 
   const sun::PlaceSettings settings = sun::ReadPlaceSettings({ReadInt, ReadText}, place);
+  CheckTexts(place, settings.clock, now);
   const sun::SunDay day = sun::ComputeSunDay(unixDay, settings.site);
   const sun::SunEvent sunrise = sun::Sunrise(day, settings.elevationMetres);
   const sun::SunEvent sunset = sun::Sunset(day, settings.elevationMetres);
