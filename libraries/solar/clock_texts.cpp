@@ -149,6 +149,11 @@ std::string MomentText(int64_t unixSeconds, int32_t offsetSeconds, stamp::Form f
          ", " + stamp::TimeText(time.hour, time.minute, form);
 }
 
+std::string FoundText(const ExplainedClock& found) {
+  const std::string zone = found.clock.zoneId.data();
+  return "The zone &found for this place: " + (zone.empty() ? "none, standard time all year" : zone);
+}
+
 std::string ClockText(const ExplainedClock& clock) {
   const std::string zone = clock.clock.zoneId.data();
   const std::string given = OffsetText(GivenOffset(clock));

@@ -22,6 +22,9 @@ std::string PlaceText(const sun::PackedPlace& place);
 // A moment (seconds since 1970-01-01 00:00 UTC) by a clock so far ahead of UTC: "Sunday, 29 March 2026, 02:00".
 std::string MomentText(int64_t unixSeconds, int32_t offsetSeconds, stamp::Form form);
 
+// The choice of the zone found, with the mark of its access key: "The zone &found for this place: Europe/Berlin".
+std::string FoundText(const ExplainedClock& found);
+
 // Which clock it is, and why.
 std::string ClockText(const ExplainedClock& clock);
 

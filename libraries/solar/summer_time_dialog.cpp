@@ -140,6 +140,7 @@ INT_PTR SummerTimeDialog::OnInitDialog() {
   CheckRadioButton(dialog_, IDC_ZONE_FOUND, IDC_OTHER_ZONE, checked);
   CheckDlgButton(dialog_, IDC_OFF_ANYWHERE, stored_.isOffAnywhere ? BST_CHECKED : BST_UNCHECKED);
   SetText(IDC_PLACE, PlaceText(place_));
+  SetText(IDC_ZONE_FOUND, FoundText(ClockBy({}, place_)));
   Search();
   SetFocus(Control(checked));
   return FALSE;
@@ -182,6 +183,9 @@ INT_PTR SummerTimeDialog::OnNotify(NMHDR& header) {
     case LVN_ODFINDITEMW:
       SetWindowLongPtrW(dialog_, DWLP_MSGRESULT,
                         list_.RowBeginningWith(reinterpret_cast<const NMLVFINDITEMW&>(header)));
+      return TRUE;
+    case NM_CUSTOMDRAW:
+      SetWindowLongPtrW(dialog_, DWLP_MSGRESULT, list_.OnCustomDraw(reinterpret_cast<NMLVCUSTOMDRAW&>(header)));
       return TRUE;
     case LVN_ITEMCHANGED:
       if (isFilling_) return TRUE;

@@ -76,6 +76,17 @@ void ZoneList::OnGetDisplayInfo(NMLVDISPINFOW& info, int64_t unixSeconds) const 
   lstrcpynW(item.pszText, dialogs::Wide(text).c_str(), item.cchTextMax);
 }
 
+LRESULT ZoneList::OnCustomDraw(NMLVCUSTOMDRAW& draw) const {
+  if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  const bool isSelected = draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT && IsWindowEnabled(list_) &&
+                          Send(LVM_GETITEMSTATE, draw.nmcd.dwItemSpec, LVIS_SELECTED);
+  if (!isSelected) return CDRF_DODEFAULT;
+  draw.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+  draw.clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+  draw.clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+  return CDRF_NEWFONT;
+}
+
 int ZoneList::RowBeginningWith(const NMLVFINDITEMW& find) const {
   if (!(find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) || !find.lvfi.psz) return -1;
   const std::wstring typed = find.lvfi.psz;

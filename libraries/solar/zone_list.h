@@ -32,6 +32,9 @@ class ZoneList {
   // For LVN_ODFINDITEM: the row whose zone begins with what the user types into the list, around the end if need be;
   // -1 for none.
   int RowBeginningWith(const NMLVFINDITEMW& find) const;
+  // For NM_CUSTOMDRAW; its result. The list seldom has the focus, and its own colours for a selection without focus are
+  // next to none.
+  LRESULT OnCustomDraw(NMLVCUSTOMDRAW& draw) const;
 
  private:
   LRESULT Send(UINT message, WPARAM wParam, LPARAM lParam) const {

@@ -88,6 +88,7 @@ TEST_F(SummerTimeDialogTest, TellsTheZoneFoundItsTimeAndItsChanges) {
   SummerTimeRun run;
   EXPECT_EQ(run.Text(IDC_PLACE), L"50\u00B047' N, 6\u00B005' E, standard time GMT+1");
   EXPECT_THAT(run.Text(IDC_CLOCK), StartsWith(L"Europe/Berlin, the zone "));
+  EXPECT_EQ(run.Text(IDC_ZONE_FOUND), L"The zone &found for this place: Europe/Berlin");
   EXPECT_THAT(run.Text(IDC_NOW), HasSubstr(L" (GMT+"));
   EXPECT_THAT(run.Text(IDC_NEXT_CHANGE), HasSubstr(L": from GMT+"));
   EXPECT_THAT(run.Text(IDC_SECOND_CHANGE), HasSubstr(L": from GMT+"));

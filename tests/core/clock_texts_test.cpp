@@ -50,6 +50,12 @@ TEST(ClockTexts, MomentsAreInTheFormOfTimes) {
   EXPECT_EQ(solar::MomentText(kNovember2026, 14 * 3600, Form::kTwelveHours), "Monday, 23 November 2026, 12:45 a.m.");
 }
 
+TEST(ClockTexts, TheZoneFoundIsNamedInItsChoice) {
+  EXPECT_EQ(solar::FoundText(solar::ClockBy({}, kChicago)), "The zone &found for this place: America/Chicago");
+  EXPECT_EQ(solar::FoundText(solar::ClockBy({}, kChicagoAtFour)),
+            "The zone &found for this place: none, standard time all year");
+}
+
 TEST(ClockTexts, TheTimeThereIsInTheClockInForce) {
   const auto jerusalem = ClockOf("Asia/Jerusalem", {3147, 3514, 2, 0});
   EXPECT_EQ(solar::NowText(jerusalem.clock, 1792882799, Form::kTwentyFourHours),
