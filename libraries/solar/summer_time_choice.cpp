@@ -54,7 +54,8 @@ std::vector<KeyChange> ChangesFor(const SummerTimeChoice& stored, const SummerTi
                                   const sun::PackedPlace& place) {
   std::vector<KeyChange> changes;
   if (ValueOf(chosen) != ValueOf(stored)) {
-    changes.push_back({sun::KeyOf(place).data(), ValueOf(chosen)});
+    const sun::PlaceKey key = sun::KeyOf(place);
+    changes.push_back({key.data(), ValueOf(chosen)});
     const sun::PlaceKey otherKey = sun::OtherKeyOf(place);
     if (otherKey[0] != '\0') changes.push_back({otherKey.data(), std::nullopt});
   }
