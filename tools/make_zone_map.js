@@ -5,9 +5,9 @@
 //   tools/make_zone_map.js FOLDER > libraries/sun/zone_map_table.cpp
 //
 // geo-tz brings the boundaries of the project timezone-boundary-builder, which are made from OpenStreetMap (Open Database
-// License), zones alike since 1970 being one. It keeps them in a quadtree of its own; this one goes to cells of 1/46
-// degrees of longitude and 1/91 of latitude, of which each takes the zones at its middle, and lets the seas take whatever
-// lies beside them. The same release gives the same bytes. zone_map_table.h has the layout.
+// License). It keeps them in a quadtree of its own; this one goes to cells of 1/46 degrees of longitude and 1/91 of
+// latitude, of which each takes the zones at its middle, and lets the seas take whatever lies beside them. The same
+// release gives the same bytes. zone_map_table.h has the layout.
 "use strict";
 
 const fs = require("fs");
@@ -17,7 +17,7 @@ const FOLDER = path.resolve(process.argv[2] ?? ".");
 const load = (name) => require(path.join(FOLDER, "node_modules", name));
 const geobuf = load("geobuf");
 const Pbf = load("pbf");
-const DATA = path.join(FOLDER, "node_modules", "geo-tz", "data", "timezones-1970.geojson.");
+const DATA = path.join(FOLDER, "node_modules", "geo-tz", "data", "timezones.geojson.");
 const { timezones: ZONES, lookup } = JSON.parse(fs.readFileSync(`${DATA}index.json`));
 const boundaries = fs.readFileSync(`${DATA}geo.dat`);
 const { version } = JSON.parse(fs.readFileSync(path.join(FOLDER, "node_modules", "geo-tz", "package.json")));
