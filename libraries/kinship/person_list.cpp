@@ -91,13 +91,13 @@ void PersonList::FitColumns() const {
 }
 
 void PersonList::SetCount(int count) const {
-  SetState(kAllRows, 0, LVIS_SELECTED | LVIS_FOCUSED);
+  SelectNone();
   Send(LVM_SETITEMCOUNT, static_cast<WPARAM>(count), LVSICF_NOINVALIDATEALL);
   InvalidateRect(list_, nullptr, TRUE);
 }
 
 void PersonList::SelectOnly(const std::vector<int>& rows) const {
-  SetState(kAllRows, 0, LVIS_SELECTED | LVIS_FOCUSED);
+  SelectNone();
   if (rows.empty()) return;
   const bool areAll = static_cast<LRESULT>(rows.size()) == Send(LVM_GETITEMCOUNT, 0, 0);
   const bool areMany = !areAll && rows.size() > 1;  // drawn once then
@@ -106,6 +106,15 @@ void PersonList::SelectOnly(const std::vector<int>& rows) const {
   if (areMany) Send(WM_SETREDRAW, TRUE, 0);
   SetState(rows.front(), LVIS_FOCUSED, LVIS_FOCUSED);
   Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(rows.front()), FALSE);
+}
+
+// To tell all rows costs some milliseconds for thousands of them, and there is seldom more than one to tell.
+void PersonList::SelectNone() const {
+  const int selected = SelectedCount();
+  if (selected > 1) return SetState(kAllRows, 0, LVIS_SELECTED | LVIS_FOCUSED);
+  const LRESULT focused = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED);
+  if (focused >= 0) SetState(static_cast<int>(focused), 0, LVIS_SELECTED | LVIS_FOCUSED);
+  if (selected == 1 && FirstSelected() >= 0) SetState(FirstSelected(), 0, LVIS_SELECTED);
 }
 
 void PersonList::SelectAll() const {

@@ -45,6 +45,7 @@ class PersonList {
   LRESULT Send(UINT message, WPARAM wParam, LPARAM lParam) const {
     return SendMessageW(list_, message, wParam, lParam);
   }
+  void SelectNone() const;
   void SetState(int row, UINT state, UINT mask) const;
   int WidthOf(const wchar_t* text) const;
 

@@ -214,9 +214,11 @@ void PickerDialog::Search() {
   const UINT length = GetDlgItemTextW(dialog_, IDC_TYPED, text, std::size(text));
   typed_.assign(text, text + length);
   rows_ = places_.Matching(typed_, lastUsed_);
+  // The one row that is selected: to tell all rows of thousands costs some milliseconds.
   LVITEMW unselected = {};
   unselected.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-  SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&unselected));
+  const LRESULT before = SendList(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED);
+  if (before >= 0) SendList(LVM_SETITEMSTATE, static_cast<WPARAM>(before), reinterpret_cast<LPARAM>(&unselected));
   SendList(LVM_SETITEMCOUNT, rows_.size(), 0);
   const auto current = std::ranges::find(rows_, current_, [](std::size_t row) { return std::optional(row); });
   const bool nothingTyped = Fold(typed_).text.empty();

@@ -9,6 +9,18 @@
 #include <thread>
 #include <vector>
 
+// Places of the user's own and their numbers, as "shabbat2.ini" and "shabloc2.ini" hold them.
+inline constexpr char kUsersPlaces[] =
+    "[Locations]\r\n"
+    "Summer house=Available\r\n"
+    "London=Available\r\n"
+    "Z\xFCrich-Nord=Available\r\n"
+    "Nowhere=\r\n";
+inline constexpr char kTheirNumbers[] =
+    "[Summer house]\r\nLatitudeDegrees=33\r\nLatitudeHours=52\r\nLatitudeFlag=1\r\n"
+    "LongitudeDegrees=52\r\nLongitudeHours=43\r\nLongitudeFlag=1\r\nTimeZone=-3\r\nTimeZoneMin=-30\r\n"
+    "[London]\r\nLatitudeDegrees=51\r\nLatitudeHours=34\r\n";
+
 // Polls until the condition holds; whether it did before patience ended.
 bool Eventually(const std::function<bool()>& condition);
 
