@@ -9,6 +9,7 @@
 #include "libraries/calendar/jewish.h"
 #include "libraries/kinship/person_texts.h"
 #include "libraries/persons/date_fields.h"
+#include "publishing/core/stable_hash.h"
 
 namespace kinship {
 namespace {
@@ -17,13 +18,6 @@ using persons::Kind;
 using persons::Observance;
 using persons::Person;
 
-// G. Fowler, L. C. Noll, K.-P. Vo: FNV-1a of 64 bits.
-uint64_t Hash(uint64_t basis, std::string_view text) {
-  uint64_t hash = basis;
-  for (const char character : text) hash = (hash ^ static_cast<unsigned char>(character)) * 0x100000001B3u;
-  return hash;
-}
-constexpr uint64_t kBasis = 0xCBF29CE484222325u;
 constexpr uint64_t kOtherBasis = 0x84222325CBF29CE4u;  // for 64 bits more
 
 // Of an entry, whatever its notes say and whichever Adar it is kept in. occurrence: among entries that are the same.
@@ -33,8 +27,8 @@ std::string KeyOf(const Person& person, int occurrence) {
   told.adar.reset();
   const std::string line = persons::LineOf(told);
   char key[64];
-  std::snprintf(key, sizeof key, "%016llx%016llx-%d", static_cast<unsigned long long>(Hash(kBasis, line)),
-                static_cast<unsigned long long>(Hash(kOtherBasis, line)), occurrence);
+  std::snprintf(key, sizeof key, "%016llx%016llx-%d", static_cast<unsigned long long>(publishing::StableHash(line)),
+                static_cast<unsigned long long>(publishing::StableHash(line, kOtherBasis)), occurrence);
   return key;
 }
 

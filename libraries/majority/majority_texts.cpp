@@ -9,6 +9,7 @@
 #include "libraries/calendar/portion_schedule.h"
 #include "libraries/lections/reading_texts.h"
 #include "libraries/persons/date_fields.h"
+#include "publishing/core/stable_hash.h"
 
 namespace majority {
 namespace {
@@ -74,17 +75,11 @@ std::string ShabbatText(int32_t shabbat, const lections::Settings& settings) {
   return text + ReadingsText(shabbat, settings);
 }
 
-// G. Fowler, L. C. Noll, K.-P. Vo: FNV-1a of 64 bits.
-uint64_t Hash(std::string_view text) {
-  uint64_t hash = 0xCBF29CE484222325u;
-  for (const char character : text) hash = (hash ^ static_cast<unsigned char>(character)) * 0x100000001B3u;
-  return hash;
-}
-
 std::string UidOf(const std::string& title, const Date& birth, const char* which) {
   char uid[96];
-  std::snprintf(uid, sizeof uid, "%016llx-%04d%02d%02d-%s@times-readings", static_cast<unsigned long long>(Hash(title)),
-                birth.year, birth.month, birth.day, which);
+  std::snprintf(uid, sizeof uid, "%016llx-%04d%02d%02d-%s@times-readings",
+                static_cast<unsigned long long>(publishing::StableHash(title)), birth.year, birth.month, birth.day,
+                which);
   return uid;
 }
 

@@ -62,15 +62,7 @@ class ListDialog : public DialogDriver {
     CandlesDoDialog(owner);
     return 0;
   }
-  std::wstring Cell(int row, int column) const {
-    wchar_t text[300] = L"";
-    LVITEMW item = {};
-    item.iSubItem = column;
-    item.pszText = text;
-    item.cchTextMax = 300;
-    SendMessageW(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    return text;
-  }
+  std::wstring Cell(int row, int column) const { return ListCell(list_, row, column); }
 
   HWND window_;
   HWND list_;

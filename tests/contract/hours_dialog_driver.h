@@ -53,15 +53,7 @@ class SelectionRun : public DialogDriver {
     item.state = item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
     SendMessageW(Control(listId), LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
   }
-  std::wstring Cell(int listId, int row, int column) const {
-    wchar_t text[300] = L"";
-    LVITEMW item = {};
-    item.iSubItem = column;
-    item.pszText = text;
-    item.cchTextMax = 300;
-    SendMessageW(Control(listId), LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    return text;
-  }
+  std::wstring Cell(int listId, int row, int column) const { return ListCell(Control(listId), row, column); }
   // The names in the lists, without the indent under a heading.
   std::vector<std::wstring> Offered() const { return Names(IDC_OFFERED, 0); }
   std::vector<std::wstring> Chosen() const { return Names(IDC_CHOSEN, 1); }

@@ -65,15 +65,7 @@ class KinshipRun : public DialogDriver {
     Select(-1, false);
     Select(row);
   }
-  std::wstring Cell(int row, int column) const {
-    wchar_t text[300] = L"";
-    LVITEMW item = {};
-    item.iSubItem = column;
-    item.pszText = text;
-    item.cchTextMax = 300;
-    SendMessageW(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    return text;
-  }
+  std::wstring Cell(int row, int column) const { return ListCell(list_, row, column); }
   std::vector<std::wstring> Cells(int row) const {
     std::vector<std::wstring> cells;
     for (int column = 0; column < 10; ++column) cells.push_back(Cell(row, column));

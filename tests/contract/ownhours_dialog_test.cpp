@@ -63,15 +63,7 @@ class OwnTimesRun : public DialogDriver {
     item.state = selected ? LVIS_SELECTED : 0;
     SendMessageW(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
   }
-  std::wstring Cell(int row, int column) const {
-    wchar_t text[300] = L"";
-    LVITEMW item = {};
-    item.iSubItem = column;
-    item.pszText = text;
-    item.cchTextMax = 300;
-    SendMessageW(list_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    return text;
-  }
+  std::wstring Cell(int row, int column) const { return ListCell(list_, row, column); }
   Row Cells(int row) const {
     Row cells;
     for (int column = 0; column < 5; ++column) cells.push_back(Cell(row, column));

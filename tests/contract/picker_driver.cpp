@@ -59,6 +59,16 @@ HWND WaitForDialog(const std::wstring& caption) {
   return dialog;
 }
 
+std::wstring ListCell(HWND list, int row, int column) {
+  wchar_t text[300] = L"";
+  LVITEMW item = {};
+  item.iSubItem = column;
+  item.pszText = text;
+  item.cchTextMax = static_cast<int>(std::size(text));
+  SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  return text;
+}
+
 std::wstring WindowText(HWND window) {
   wchar_t text[1024] = L"";
   SendMessageW(window, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text));
@@ -148,15 +158,7 @@ std::vector<std::wstring> PickerRun::Row(int row) const {
   const auto header = reinterpret_cast<HWND>(SendList(LVM_GETHEADER, 0, 0));
   const auto columns = static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
   std::vector<std::wstring> cells;
-  for (int column = 0; column < columns; ++column) {
-    wchar_t text[256] = L"";
-    LVITEMW item = {};
-    item.iSubItem = column;
-    item.pszText = text;
-    item.cchTextMax = static_cast<int>(std::size(text));
-    SendList(LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    cells.emplace_back(text);
-  }
+  for (int column = 0; column < columns; ++column) cells.push_back(ListCell(Control(IDC_PLACES), row, column));
   return cells;
 }
 

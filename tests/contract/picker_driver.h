@@ -31,6 +31,9 @@ HWND WaitForDialog(const std::wstring& caption);
 
 std::wstring WindowText(HWND window);
 
+// The text of a list view's cell, its first 299 characters.
+std::wstring ListCell(HWND list, int row, int column);
+
 class PickerRun {
  public:
   enum class Owner { kNone, kWindow };

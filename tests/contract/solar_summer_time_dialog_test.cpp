@@ -47,14 +47,7 @@ class SummerTimeRun : public DialogDriver {
   std::wstring Text(int id) const { return ControlText(window_, id); }
   std::wstring SelectedZone() const {
     const LRESULT row = SendMessageW(Control(IDC_ZONES), LVM_GETNEXTITEM, ~WPARAM{0}, LVNI_SELECTED);
-    wchar_t text[100] = L"";
-    LVITEMW item = {};
-    item.pszText = text;
-    item.cchTextMax = 100;
-    if (row >= 0) {
-      SendMessageW(Control(IDC_ZONES), LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    }
-    return text;
+    return row < 0 ? std::wstring() : ListCell(Control(IDC_ZONES), static_cast<int>(row), 0);
   }
   // The answer of the call after a button that closes the dialog.
   int32_t End(int button) {
