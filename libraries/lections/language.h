@@ -17,6 +17,13 @@ namespace lections {
 
 enum class Numerals : uint8_t { kDecimal, kHebrew };
 
+// How the language's printed Bibles write a passage.
+struct Notation {
+  Numerals numerals = Numerals::kDecimal;
+  const char* verse = ":";  // between a chapter and its verse
+  const char* next = ", ";  // between two stretches of verses
+};
+
 // In patterns "@" stands for a name and "#" for its number or month.
 struct Words {
   const char* numbered;  // a day of a festival
@@ -39,9 +46,11 @@ struct PlainWords {
 
 struct Language {
   uint32_t code;
-  const char* name;  // as the dialog lists it
+  const char* name;     // in English
+  const char* ownName;  // in the language itself
   CodePage codePage;
-  Numerals numerals;
+  Notation notation;
+  // A null name falls back to the English one: ask for names below.
   std::array<const char*, calendar::kPortionCount> portions;
   std::array<const char*, kBookCount> books;
   std::array<const char*, kOccasionCount> occasions;  // in the order of Occasion
@@ -59,6 +68,10 @@ std::span<const Language* const> Languages();
 
 // The language of a code; the default one for a code that is none.
 const Language& LanguageOf(uint32_t code);
+
+const char* PortionName(const Language& language, calendar::Portion portion);
+const char* BookName(const Language& language, Book book);
+const char* OccasionName(const Language& language, Occasion occasion);
 
 // The name of a month in a year: Adar I in a leap year.
 const char* MonthName(const std::array<const char*, 14>& months, int32_t month, bool isLeapYear);

@@ -20,7 +20,7 @@ constexpr std::array<const char*, kBookCount> kEnglishBooks = {
 
 // clang-format off
 constexpr Language kEnglish = {
-    1, "English", CodePage::kWestern, Numerals::kDecimal,
+    1, "English", "English", CodePage::kWestern, {},
     {"Bereshit", "Noach", "Lech Lecha", "Vayera", "Chayei Sarah", "Toldot", "Vayetzei", "Vayishlach", "Vayeshev",
      "Miketz", "Vayigash", "Vayechi",
      "Shemot", "Vaera", "Bo", "Beshalach", "Yitro", "Mishpatim", "Terumah", "Tetzaveh", "Ki Tisa", "Vayakhel",
@@ -42,7 +42,7 @@ constexpr Language kEnglish = {
 };
 
 constexpr Language kAshkenaziEnglish = {
-    2, "English, Ashkenazi spelling", CodePage::kWestern, Numerals::kDecimal,
+    2, "English, Ashkenazi spelling", "", CodePage::kWestern, {},
     {"Bereishis", "Noach", "Lech Lecha", "Vayeira", "Chayei Sarah", "Toldos", "Vayeitzei", "Vayishlach", "Vayeishev",
      "Mikeitz", "Vayigash", "Vayechi",
      "Shemos", "Va'eira", "Bo", "Beshalach", "Yisro", "Mishpatim", "Terumah", "Tetzaveh", "Ki Sisa", "Vayakhel",

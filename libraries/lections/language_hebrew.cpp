@@ -5,7 +5,7 @@ namespace lections {
 
 // clang-format off
 constexpr Language kHebrew = {
-    4, "Hebrew", CodePage::kHebrew, Numerals::kHebrew,
+    4, "Hebrew", "עברית", CodePage::kHebrew, {.numerals = Numerals::kHebrew},
     {"בראשית", "נח", "לך לך", "וירא", "חיי שרה", "תולדות", "ויצא", "וישלח", "וישב", "מקץ", "ויגש", "ויחי",
      "שמות", "וארא", "בא", "בשלח", "יתרו", "משפטים", "תרומה", "תצוה", "כי תשא", "ויקהל", "פקודי",
      "ויקרא", "צו", "שמיני", "תזריע", "מצורע", "אחרי מות", "קדושים", "אמור", "בהר", "בחוקותי",

@@ -84,18 +84,18 @@ class DayWriter {
   bool IsLeapYear() const { return IsJewishLeapYear(date_.year); }
 
   std::string PortionName(const WeeklyPortion& read) const {
-    std::string name = language_.portions[read.portion];
-    if (read.joinedWithNext) AppendItem(name, language_.portions[read.Last()], "-");
+    std::string name = lections::PortionName(language_, read.portion);
+    if (read.joinedWithNext) AppendItem(name, lections::PortionName(language_, read.Last()), "-");
     return name;
   }
 
   std::string OccasionName(const NumberedOccasion& occasion) const {
-    const char* const name = language_.occasions[static_cast<size_t>(occasion.occasion)];
+    const char* const name = lections::OccasionName(language_, occasion.occasion);
     if (occasion.number == 0) return name;
     if (occasion.occasion == Occasion::kRoshChodesh) {
       return Filled(language_.words.monthly, name, MonthName(language_.months, occasion.number, IsLeapYear()));
     }
-    return Filled(language_.words.numbered, name, Number(occasion.number, language_.numerals));
+    return Filled(language_.words.numbered, name, Number(occasion.number, language_.notation.numerals));
   }
 
   // The portion with what the day is besides, or what the day is.
@@ -111,7 +111,7 @@ class DayWriter {
     const Words& words = language_.words;
     switch (line.part) {
       case Part::kMain: return nameOfMain;
-      case Part::kRoshChodesh: return language_.occasions[static_cast<size_t>(Occasion::kRoshChodesh)];
+      case Part::kRoshChodesh: return lections::OccasionName(language_, Occasion::kRoshChodesh);
       case Part::kMaftir: return words.maftir;
       case Part::kMaftirOfWalledCities: return words.maftirOfWalledCities;
       case Part::kWalledCities: return words.walledCities;
@@ -180,10 +180,11 @@ class DayWriter {
   std::vector<DayReadings> readings_;
 };
 
-void AppendVerses(std::string& text, const Verses& verses, Numerals numerals) {
+void AppendVerses(std::string& text, const Verses& verses, const Notation& notation) {
+  const Numerals numerals = notation.numerals;
   const auto place = [&](int chapter, int verse) {
     text += Number(chapter, numerals);
-    text += ':';
+    text += notation.verse;
     text += Number(verse, numerals);
   };
   place(verses.chapter, verses.verse);
@@ -205,10 +206,11 @@ std::string PassageText(const Passage& passage, const Language& language, bool v
     const bool isNewBook = !before || before->book != part.book;
     before = &part;
     if (!isNewBook && !verses) continue;
-    AppendItem(text, isNewBook ? language.books[static_cast<size_t>(part.book)] : "");
+    const char* const next = verses ? language.notation.next : ", ";
+    if (isNewBook) AppendItem(text, BookName(language, part.book), next);
     if (part.chapter == 0 || !verses) continue;
-    text += isNewBook ? " " : ", ";
-    AppendVerses(text, part, language.numerals);
+    text += isNewBook ? " " : next;
+    AppendVerses(text, part, language.notation);
   }
   return text;
 }

@@ -112,8 +112,12 @@ TEST(EncodedText, IsDecodedToWhatItWas) {
     EXPECT_EQ(Decoded(Encoded(text, CodePage::kHebrew), CodePage::kHebrew), text);
   }
   EXPECT_EQ(Decoded(Encoded("Séder ÿ", CodePage::kWestern), CodePage::kWestern), "Séder ÿ");
-  EXPECT_EQ(Decoded("\x80\xFB", CodePage::kHebrew), "??");
-  EXPECT_EQ(Decoded("\x80", CodePage::kWestern), "?");
+  EXPECT_EQ(Decoded(Encoded("Řehoř, Śniadanie, ű", CodePage::kCentralEuropean), CodePage::kCentralEuropean),
+            "Řehoř, Śniadanie, ű");
+  EXPECT_EQ(Decoded(Encoded("Ёлка № 1", CodePage::kCyrillic), CodePage::kCyrillic), "Ёлка № 1");
+  EXPECT_EQ(Decoded(Encoded("Α΄ Σαμουήλ ώ", CodePage::kGreek), CodePage::kGreek), "Α΄ Σαμουήλ ώ");
+  EXPECT_EQ(Decoded("\x81\xFB", CodePage::kHebrew), "??");
+  EXPECT_EQ(Decoded("\x80\x81", CodePage::kWestern), "€?");
 }
 
 TEST(LectionsTexts, FitTheirColumnWhateverTheYearAndTheSettings) {
@@ -230,7 +234,13 @@ TEST(LectionsEncodedText, KnowsTheLettersOfItsCodePage) {
   EXPECT_EQ(Encoded("א׳ ״", CodePage::kHebrew), "\xE0\xD7 \xD8");
   EXPECT_EQ(Encoded("Säule é", CodePage::kWestern), "S\xE4ule \xE9");
   EXPECT_EQ(Encoded("א", CodePage::kWestern), "?");
-  EXPECT_EQ(Encoded("ä–", CodePage::kHebrew), "??");
+  EXPECT_EQ(Encoded("ä–", CodePage::kHebrew), "?\x96");
+  EXPECT_EQ(Encoded("č ž", CodePage::kCentralEuropean), "\xE8 \x9E");  // CP1250.TXT
+  EXPECT_EQ(Encoded("Бо ё", CodePage::kCyrillic), "\xC1\xEE \xB8");    // CP1251.TXT
+  EXPECT_EQ(Encoded("Βώ΄", CodePage::kGreek), "\xC2\xFE\xB4");         // CP1253.TXT
+  EXPECT_TRUE(IsEncodable("œuvre", CodePage::kWestern));
+  EXPECT_FALSE(IsEncodable("œuvre", CodePage::kCentralEuropean));
+  EXPECT_FALSE(IsEncodable("\xD7", CodePage::kHebrew));
   EXPECT_EQ(Encoded("\xD7", CodePage::kHebrew), "?");
   EXPECT_EQ(Encoded("\xE2\x82z\xFF", CodePage::kWestern), "??z?");
   EXPECT_EQ(Encoded("", CodePage::kHebrew), "");
