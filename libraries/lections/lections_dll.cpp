@@ -10,6 +10,7 @@
 #include "libraries/lections/day_readings.h"
 #include "libraries/lections/language.h"
 #include "libraries/lections/language_dialog.h"
+#include "libraries/lections/own_readings_file.h"
 #include "libraries/lections/reading_texts.h"
 #include "libraries/lections/settings_store.h"
 
@@ -52,7 +53,8 @@ void LectionsGetReadingsBy(uint32_t choice, uint32_t day, uint32_t month, uint32
   if (!readings) return;
   *readings = {};
   const lections::Settings settings = lections::SettingsBy(choice, lections::StoredSettings());
-  const lections::ReadingTexts texts = lections::TextsOn(DateOf(day, month, year), settings);
+  const lections::ReadingTexts texts =
+      lections::TextsOn(DateOf(day, month, year), settings, lections::StoredOwnReadings().get());
   Copy(texts.torah[0], readings->torah1, sizeof readings->torah1);
   Copy(texts.torah[1], readings->torah2, sizeof readings->torah2);
   Copy(texts.torah[2], readings->torah3, sizeof readings->torah3);

@@ -6,6 +6,9 @@
 #include "libraries/calendar/jewish.h"
 #include "libraries/lections/day_readings.h"
 #include "libraries/lections/numerals.h"
+#include "libraries/lections/own_readings.h"
+#include "libraries/lections/reading_names.h"
+#include "libraries/lections/when.h"
 
 namespace lections {
 namespace {
@@ -15,20 +18,6 @@ using namespace calendar;
 void AppendItem(std::string& list, std::string_view item, std::string_view separator = ", ") {
   if (!list.empty() && !item.empty()) list += separator;
   list += item;
-}
-
-std::string Filled(const char* pattern, std::string_view name, std::string_view number) {
-  std::string text;
-  for (const char* c = pattern; *c != '\0'; ++c) {
-    if (*c == '@') {
-      text += name;
-    } else if (*c == '#') {
-      text += number;
-    } else {
-      text += *c;
-    }
-  }
-  return text;
 }
 
 // The customs whose readings are listed, in the order in which they are.
@@ -53,6 +42,9 @@ class DayWriter {
   bool HasReadings() const {
     return std::ranges::any_of(readings_, [](const DayReadings& one) { return !one.torah.empty(); });
   }
+
+  // For own texts, the days of which are the same in all customs.
+  Whens Kinds() const { return WhensOn(date_, readings_[0]); }
 
   std::array<std::string, 3> Torah() const {
     return Slots(
@@ -83,27 +75,13 @@ class DayWriter {
 
   bool IsLeapYear() const { return IsJewishLeapYear(date_.year); }
 
-  std::string PortionName(const WeeklyPortion& read) const {
-    std::string name = lections::PortionName(language_, read.portion);
-    if (read.joinedWithNext) AppendItem(name, lections::PortionName(language_, read.Last()), "-");
-    return name;
-  }
-
-  std::string OccasionName(const NumberedOccasion& occasion) const {
-    const char* const name = lections::OccasionName(language_, occasion.occasion);
-    if (occasion.number == 0) return name;
-    if (occasion.occasion == Occasion::kRoshChodesh) {
-      return Filled(language_.words.monthly, name, MonthName(language_.months, occasion.number, IsLeapYear()));
-    }
-    return Filled(language_.words.numbered, name, Number(occasion.number, language_.notation.numerals));
-  }
-
   // The portion with what the day is besides, or what the day is.
   std::string Title() const {
     std::string occasions;
-    for (const NumberedOccasion& occasion : readings_[0].occasions) AppendItem(occasions, OccasionName(occasion));
+    for (const NumberedOccasion& occasion : readings_[0].occasions)
+      AppendItem(occasions, NameOf(occasion, IsLeapYear(), language_));
     if (!readings_[0].portion) return occasions;
-    const std::string portion = PortionName(*readings_[0].portion);
+    const std::string portion = NameOf(*readings_[0].portion, language_);
     return occasions.empty() ? portion : portion + " (" + occasions + ")";
   }
 
@@ -111,12 +89,12 @@ class DayWriter {
     const Words& words = language_.words;
     switch (line.part) {
       case Part::kMain: return nameOfMain;
-      case Part::kRoshChodesh: return lections::OccasionName(language_, Occasion::kRoshChodesh);
+      case Part::kRoshChodesh: return OccasionName(language_, Occasion::kRoshChodesh);
       case Part::kMaftir: return words.maftir;
       case Part::kMaftirOfWalledCities: return words.maftirOfWalledCities;
       case Part::kWalledCities: return words.walledCities;
       case Part::kAfternoon:
-        return line.portion ? std::string(words.afternoon) + ", " + PortionName(*line.portion) : words.afternoon;
+        return line.portion ? std::string(words.afternoon) + ", " + NameOf(*line.portion, language_) : words.afternoon;
       case Part::kScroll: return words.scroll;
     }
     return {};
@@ -215,10 +193,12 @@ std::string PassageText(const Passage& passage, const Language& language, bool v
   return text;
 }
 
-ReadingTexts TextsOn(const Date& date, const Settings& settings) {
+ReadingTexts TextsOn(const Date& date, const Settings& settings, const OwnReadings* own) {
   const DayWriter day(date, settings);
-  if (!day.HasReadings()) return {};
-  return {day.Torah(), day.Haftarot(), day.Additional()};
+  ReadingTexts texts;
+  if (day.HasReadings()) texts = {day.Torah(), day.Haftarot(), day.Additional()};
+  if (own && !own->empty() && IsJewishDate(date)) own->Put(day.Kinds(), settings, texts);
+  return texts;
 }
 
 }  // namespace lections

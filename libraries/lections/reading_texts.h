@@ -20,7 +20,10 @@ struct ReadingTexts {
 };
 constexpr size_t kLongestText = 255;
 
-ReadingTexts TextsOn(const calendar::Date& date, const Settings& settings);
+class OwnReadings;
+
+// own: the user's own texts, which take their places; null for none.
+ReadingTexts TextsOn(const calendar::Date& date, const Settings& settings, const OwnReadings* own = nullptr);
 
 // A passage in a language, in UTF-8: with chapters and verses, or its books alone.
 std::string PassageText(const Passage& passage, const Language& language, bool verses);

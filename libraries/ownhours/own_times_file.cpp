@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "libraries/ownhours/own_times_editing.h"
 #include "libraries/settings_folder/eight_bit_text.h"
 #include "libraries/settings_folder/settings_folder_win.h"
+#include "libraries/settings_folder/table_editing.h"
 #include "libraries/settings_folder/watched_file.h"
 #include "libraries/settings_folder/whole_file.h"
 
@@ -55,7 +55,7 @@ bool WriteChanges(const Changes& changes, const Entries& stored, bool replaceOth
   settings_folder::WatchedFile file(kFile);
   return file.Edit([&](std::string& bytes) {
     conflicts->clear();
-    if (!replaceOthers) *conflicts = Conflicts(changes, stored, OwnTimes(bytes).All());
+    if (!replaceOthers) *conflicts = settings_folder::Conflicts(changes, stored, OwnTimes(bytes).All());
     if (!conflicts->empty()) return false;
     bytes = Applied(changes, bytes);
     return true;

@@ -32,8 +32,8 @@ class OpenStore {
 std::optional<Entries> StoredEntries();
 
 // Makes the changes in the file as it is now, at once and whole. Where that says something new since stored was read
-// (Conflicts), nothing is written unless the changes are to replace it. False when nothing was written: for conflicts,
-// which are then told, or because the file cannot be written.
+// (settings_folder::Conflicts), nothing is written unless the changes are to replace it. False when nothing was
+// written: for conflicts, which are then told, or because the file cannot be written.
 bool WriteChanges(const Changes& changes, const Entries& stored, bool replaceOthers, std::vector<Occasion>* conflicts);
 
 // The file's full path, for messages.

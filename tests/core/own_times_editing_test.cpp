@@ -75,7 +75,7 @@ TEST(OwnTimesEditing, AFileThatSaysSomethingNewIsAConflict) {
   const Changes toAnother = {{kEvening, Time{17, 20}}};
   const Changes away = {{kEvening, std::nullopt}};
   const auto conflicts = [](const Changes& changes, const Entries& file) {
-    return !Conflicts(changes, {{kEvening, {17, 25}}}, file).empty();
+    return !settings_folder::Conflicts(changes, {{kEvening, {17, 25}}}, file).empty();
   };
   EXPECT_FALSE(conflicts(toAnother, {{kEvening, {17, 25}}}));
   EXPECT_FALSE(conflicts(toAnother, {{kEvening, {17, 20}}}));
