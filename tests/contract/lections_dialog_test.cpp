@@ -15,7 +15,8 @@ namespace {
 constexpr wchar_t kConfigure[] = L"Readings";
 constexpr wchar_t kLanguage[] = L"Language of Readings";
 constexpr char kAllStored[] =
-    "[Readings]\r\nLand=Israel\r\nCustom=Sephardi\r\nLanguage=2\r\nOwnNumbers=1\r\nChabad=1\r\nVerses=0\r\nNewMonth=0\r\n"
+    "[Readings]\r\nLand=Israel\r\nCustom=Sephardi\r\nLanguage=2\r\nOwnNumbers=1\r\nChabad=1\r\nVerses=0\r\nNewMonth="
+    "0\r\n"
     "MondayThursday=1\r\nShabbatAfternoon=1\r\nTriennial=1\r\n";
 constexpr char kFirstStored[] =
     "[Readings]\r\nLand=Diaspora\r\nCustom=Both\r\nLanguage=1\r\nOwnNumbers=0\r\nChabad=0\r\nVerses=1\r\nNewMonth=1\r\n"
