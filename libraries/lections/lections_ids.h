@@ -17,5 +17,9 @@
 
 #define IDD_LANGUAGE 200
 #define IDC_LANGUAGES 201
+#define IDC_WEEK 202
+#define IDC_WEEK_FROM_RIGHT 203
+#define IDC_OWN_NUMBERS 204
+#define IDC_WHOSE_NUMBERS 205
 
 #endif
