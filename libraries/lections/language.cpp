@@ -7,7 +7,7 @@
 namespace lections {
 namespace {
 
-constexpr const Language* kLanguages[] = {&kEnglish, &kAshkenaziEnglish, &kHebrew, &kGerman};
+constexpr const Language* kLanguages[] = {&kEnglish, &kAshkenaziEnglish, &kHebrew, &kDutch, &kGerman};
 
 const char* NameOr(const char* name, const char* english) {
   return name ? name : english;
