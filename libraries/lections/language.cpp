@@ -7,7 +7,7 @@
 namespace lections {
 namespace {
 
-constexpr const Language* kLanguages[] = {&kEnglish, &kAshkenaziEnglish, &kHebrew, &kDutch, &kGerman};
+constexpr const Language* kLanguages[] = {&kEnglish, &kAshkenaziEnglish, &kHebrew, &kDanish, &kDutch, &kGerman};
 
 const char* NameOr(const char* name, const char* english) {
   return name ? name : english;

@@ -62,6 +62,7 @@ struct Language {
 extern const Language kEnglish;
 extern const Language kAshkenaziEnglish;
 extern const Language kHebrew;
+extern const Language kDanish;
 extern const Language kDutch;
 extern const Language kGerman;
 
