@@ -65,6 +65,7 @@ extern const Language kHebrew;
 extern const Language kDanish;
 extern const Language kDutch;
 extern const Language kGerman;
+extern const Language kNorwegian;
 extern const Language kSwedish;
 
 // In the order in which the dialog lists them; the first is the default.
