@@ -64,6 +64,7 @@ extern const Language kAshkenaziEnglish;
 extern const Language kHebrew;
 extern const Language kDanish;
 extern const Language kDutch;
+extern const Language kFinnish;
 extern const Language kGerman;
 extern const Language kNorwegian;
 extern const Language kSwedish;
