@@ -66,6 +66,7 @@ extern const Language kDanish;
 extern const Language kDutch;
 extern const Language kFinnish;
 extern const Language kGerman;
+extern const Language kHungarian;
 extern const Language kNorwegian;
 extern const Language kSwedish;
 
