@@ -7,7 +7,8 @@
 namespace lections {
 namespace {
 
-constexpr const Language* kLanguages[] = {&kEnglish, &kAshkenaziEnglish, &kHebrew};
+constexpr const Language* kLanguages[] = {&kEnglish, &kAshkenaziEnglish, &kHebrew,    &kDanish,    &kDutch,
+                                          &kFinnish, &kGerman,           &kHungarian, &kNorwegian, &kSwedish};
 
 const char* NameOr(const char* name, const char* english) {
   return name ? name : english;

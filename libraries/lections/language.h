@@ -62,6 +62,13 @@ struct Language {
 extern const Language kEnglish;
 extern const Language kAshkenaziEnglish;
 extern const Language kHebrew;
+extern const Language kDanish;
+extern const Language kDutch;
+extern const Language kFinnish;
+extern const Language kGerman;
+extern const Language kHungarian;
+extern const Language kNorwegian;
+extern const Language kSwedish;
 
 // In the order in which the dialog lists them; the first is the default.
 std::span<const Language* const> Languages();
