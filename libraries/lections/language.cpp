@@ -7,7 +7,9 @@
 namespace lections {
 namespace {
 
-constexpr const Language* kLanguages[] = {&kEnglish, &kAshkenaziEnglish, &kHebrew};
+// English and Hebrew, then by their English names.
+constexpr const Language* kLanguages[] = {&kEnglish, &kAshkenaziEnglish, &kHebrew,     &kCzech,   &kFrench, &kGreek,
+                                          &kItalian, &kPolish,           &kPortuguese, &kRussian, &kSpanish};
 
 const char* NameOr(const char* name, const char* english) {
   return name ? name : english;

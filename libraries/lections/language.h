@@ -62,6 +62,14 @@ struct Language {
 extern const Language kEnglish;
 extern const Language kAshkenaziEnglish;
 extern const Language kHebrew;
+extern const Language kCzech;
+extern const Language kFrench;
+extern const Language kGreek;
+extern const Language kItalian;
+extern const Language kPolish;
+extern const Language kPortuguese;
+extern const Language kRussian;
+extern const Language kSpanish;
 
 // In the order in which the dialog lists them; the first is the default.
 std::span<const Language* const> Languages();
