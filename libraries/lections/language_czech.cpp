@@ -6,7 +6,7 @@
 // passages as Mystika and the weekly of Prague do.
 //
 // One source only: Bemidbar (the calendar), Vezot haberacha and Ki tisa with a small letter (Derech), Machar chodeš
-// (Mystika); Gedaljův půst, Hošana raba, Šabat Šira, Půst Ester, the genitives of the other fasts, walled cities and
+// (Mystika); Gedaljův půst, Hošana raba, Šabat Šira, Esteřin půst, the genitives of the other fasts, walled cities and
 // the customs (common usage).
 #include "libraries/lections/language.h"
 
@@ -26,7 +26,7 @@ constexpr Language kCzech = {
      "1. Královská", "2. Královská", "Izajáš", "Jeremjáš", "Ezechiel", "Ozeáš", "Jóel", "Ámos", "Abdijáš", "Jonáš",
      "Micheáš", "Abakuk", "Zacharjáš", "Malachiáš", "Píseň písní", "Rút", "Pláč", "Kazatel", "Ester"},
     {"", "Roš ha-šana", "Gedaljův půst", "Šabat Šuva", "Jom kipur", "Sukot", "Hošana raba", "Šmini aceret",
-     "Simchat Tora", "Chanuka", "Půst 10. tevetu", "Šabat Šira", "Šabat Šekalim", "Šabat Zachor", "Půst Ester",
+     "Simchat Tora", "Chanuka", "Půst 10. tevetu", "Šabat Šira", "Šabat Šekalim", "Šabat Zachor", "Esteřin půst",
      "Purim", "Šušan Purim, opevněná města", "Šabat Para", "Šabat ha-chodeš", "Šabat ha-gadol", "Pesach", "Šavuot",
      "Půst 17. tamuzu", "Šabat Chazon", "Tiša be-av", "Šabat Nachamu", "Roš chodeš", "Machar chodeš", "Chol ha-moed",
      "Šabat chol ha-moed", "Šabat"},
