@@ -3,11 +3,11 @@
 // Spelling: the tables of Derech ("Parašat ha-šavua"), Mystika on special Shabbatot, a table for bar mitzvahs, a
 // calendar for Haifa and Prague, the communities of Brno and Ostrava and the Federation's pages (festivals), Wikipedia
 // ("Židovský kalendář"); months also CLDR. Books: lists of the Český ekumenický překlad, which Derech quotes too;
-// passages as Mystika and the weekly of Prague do.
+// passages as Mystika and the weekly Šavua tov do.
 //
-// One source only: Bemidbar (the calendar), Vezot haberacha and Ki tisa with a small letter (Derech), Machar chodeš
-// (Mystika); Gedaljův půst, Hošana raba, Šabat Šira, Esteřin půst, the genitives of the other fasts, walled cities and
-// the customs (common usage).
+// One source only: Bemidbar (the calendar), Vezot haberacha (Derech), Machar chodeš (Mystika); Gedaljův půst, Hošana
+// raba, Šabat Šira, Esteřin půst, the genitives of the other fasts, Svitek, walled cities and the customs (common
+// usage).
 #include "libraries/lections/language.h"
 
 namespace lections {

@@ -1,4 +1,5 @@
-// French, as communities of France write the Hebrew names; the letter Chet is 'h.
+// French, as communities of France write the Hebrew names; the letter Chet is 'h, a vocal Shva é where the timetable
+// below writes it, and so in Chémini Atséret and Chékalim.
 //
 // Spelling: the calendar of Roger Stioui with its glossary (Consistoire de France), the timetable of Beth Yossef in
 // Jerusalem for 5787, Torah-Box, Éditions Bakish (customs of the haftarot), Chabad.org in French, e-Talmud, Hebcal;

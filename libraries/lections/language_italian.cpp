@@ -6,9 +6,9 @@
 // Virtual Yeshiva (customs). Books: the lists of SWORD and of the Bible passage reference parser; passages as
 // archivio-torah does.
 //
-// One source only: Shabbat Teshuvà and Shabbat Zakhor (Shalom), Hachodesh and the other Shabbatot, Machar Chodesh, Chol
-// Hamoed, Mikketz, Vaychì with ch, Pekudè, Metzorà, Chukkat, Mas'è, Meghillà, walled cities and the announcement of the
-// month (common usage).
+// One source only: Shabbat Teshuvà and Shabbat Zakhor (Shalom), Shabbat Chazon (Wikipedia); the other Shabbatot, Machar
+// Chodesh, Chol Hamoed, Mikketz, Vaychì with ch, Pekudè, Metzorà, Chukkat, Mas'è, Meghillà, walled cities and the
+// announcement of the month (common usage).
 #include "libraries/lections/language.h"
 
 namespace lections {

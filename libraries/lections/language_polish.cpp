@@ -4,8 +4,9 @@
 // Warsaw and Poznań, Am Hazak and Wirtualny Sztetl (festivals), Hebcal; months also CLDR. Books: the list of SWORD,
 // whose short forms are those of lists of readings ("Rodzaju", "1 Samuela"); passages as Chabad does.
 //
-// One source only: Dewarim, Pekude, Mase, Achare Mot, Machar Chodesz and Megilla (Hebcal), Bemidbar (Lauder); Wajakhel,
-// Pieśń nad Pieśniami, Post Gedalii, walled cities and the announcement of the month (common usage).
+// One source only: Dewarim, Pekude, Mase, Achare Mot, Szelach, Machar Chodesz and Megilla (Hebcal), Bemidbar (Lauder);
+// Wajakhel, Pieśń nad Pieśniami with its capitals, Post Gedalii, Po południu, the customs, walled cities and the
+// announcement of the month (common usage).
 #include "libraries/lections/language.h"
 
 namespace lections {

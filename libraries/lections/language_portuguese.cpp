@@ -5,8 +5,9 @@
 // Revista Nascente (months); months also CLDR. Books: the lists of SWORD and of the Bible passage reference parser, as
 // Brazil writes them; passages as Wikipedia does.
 //
-// One source only: Nassô, Reê, Yitrô, Ki Tavô with their accents, Shabat Shirá, cities with walls, the announcement of
-// the month (all common usage), Machar Chodesh and Meguilá (Hebcal), Sefaradim (Etz Hayim).
+// One source only: Machar Chodesh, Meguilá and the special Shabbatot but Shuvá and Hachodesh (Hebcal), Sefaradim (Etz
+// Hayim); the accents of Nassô, Reê, Yitrô, Tetzavê, Vayetzê, Ki Tetzê and Ki Tavô, Shabat Shirá, walled cities and the
+// announcement of the month (common usage).
 #include "libraries/lections/language.h"
 
 namespace lections {

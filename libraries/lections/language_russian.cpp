@@ -1,11 +1,11 @@
 // Russian, as the Jewish press in Israel and Russia writes the Hebrew names; the letter He is not written.
 //
-// Spelling: Toldot.ru, Chabad.org in Russian, Wikipedia ("Недельная глава"), Hebcal and three independent lists of
-// portions in Russian calendars; months also CLDR. Books: the lists of SWORD and of the Bible passage reference parser,
-// which are the Synodal Bible's: its four books of Kingdoms are Samuel and Kings.
+// Spelling: Toldot.ru, Chabad.org in Russian, Wikipedia, Hebcal and three independent lists of portions in Russian
+// calendars; months also CLDR. Books: the lists of SWORD and of the Bible passage reference parser, which are the
+// Synodal Bible's: its four books of Kingdoms are Samuel and Kings.
 //
-// One source only: Махар Ходеш (Chabad calls it so), Свиток (Hebcal), Шаббат Шира, Шаббат а-Ходеш, Песнь песней, walled
-// cities and the customs (common usage).
+// One source only: Пост Гедальи, Свиток and the special Shabbatot but Шува (Hebcal); Махар Ходеш, Шаббат Шира, Шаббат
+// а-Ходеш, Шаббат а-Гадоль, Песнь песней, walled cities and the customs (common usage).
 #include "libraries/lections/language.h"
 
 namespace lections {

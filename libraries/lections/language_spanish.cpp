@@ -5,8 +5,9 @@
 // Hebcal; months also CLDR. Books: the lists of SWORD and of the Bible passage reference parser; passages as Wikipedia
 // does.
 //
-// One source only: Sheminí Atzeret, Majar Jodesh, Jol Hamoed (Hebcal); Meguilá, Shabat Shirá, the customs, walled
-// cities and the announcement of the month (common usage).
+// One source only: the accents of Vayetzé, Sheminí, Nasó, Pinjás, Vaetjanán and Ki Tetzé (one of the lists), Sheminí
+// Atzeret, Majar Jodesh, Jol Hamoed and the special Shabbatot but Shuvá (Hebcal); Meguilá, Shabat Shirá, the customs,
+// walled cities and the announcement of the month (common usage).
 #include "libraries/lections/language.h"
 
 namespace lections {
