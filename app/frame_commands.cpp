@@ -191,6 +191,7 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_KINSHIP_FONT, KinshipFontDialog},
     {IDM_ZMANIM_SELECTION, SelectZmanim},
     {IDM_READINGS_CONFIGURE, ChangeReadings<LectionsDoConfigureDialog>},
+    {IDM_READINGS_CUSTOM, ChangeReadings<LectionsDoCustomReadingsDialog>},
     {IDM_READINGS_LANGUAGE, ChangeReadings<LectionsDoLanguageDialog>},
     {IDM_CUSTOM_CANDLES, ChangeCustomTimes},
     {IDM_TIME_FORM, ChangeFormOfTimes},

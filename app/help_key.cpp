@@ -40,6 +40,8 @@ constexpr HelpTopic kDialogTopics[] = {
     {HELPID_HOURS_OWN, kZmanim},
     {HELPID_LECTIONS_CONFIGURE, kReadings},
     {HELPID_LECTIONS_LANGUAGE, kReadings},
+    {HELPID_LECTIONS_OWN, kReadings},
+    {HELPID_LECTIONS_OWN_TEXT, kReadings},
     {HELPID_OWNHOURS, kZmanim},
     {HELPID_OWNHOURS_TIME, kZmanim},
     {HELPID_STAMP_FORM, kShabbatTimes},

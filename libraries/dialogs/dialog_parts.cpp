@@ -31,6 +31,15 @@ std::wstring TextOf(HWND window) {
   return text;
 }
 
+std::wstring WithLineEnds(const std::wstring& text) {
+  std::wstring lines;
+  for (const wchar_t character : text) {
+    if (character == L'\n') lines += L'\r';
+    lines += character;
+  }
+  return lines;
+}
+
 void ShowError(HWND dialog, const std::wstring& text) {
   MessageBoxW(dialog, text.c_str(), L"Error", MB_OK | MB_ICONSTOP);
 }

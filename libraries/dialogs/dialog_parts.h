@@ -34,6 +34,9 @@ INT_PTR CALLBACK ClassDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARA
 
 std::wstring TextOf(HWND window);
 
+// A text whose lines end in LF as edit controls take it, in CR LF.
+std::wstring WithLineEnds(const std::wstring& text);
+
 // An error of the user's or the system's, in words that say how to go on.
 void ShowError(HWND dialog, const std::wstring& text);
 

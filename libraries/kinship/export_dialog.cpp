@@ -1,10 +1,9 @@
 #include "libraries/kinship/export_dialog.h"
 
-#include <commdlg.h>
-
 #include <algorithm>
 #include <cwchar>
 
+#include "libraries/dialogs/chosen_file.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/kinship/kinship_ids.h"
 
@@ -23,7 +22,6 @@ constexpr FormatLook kLooks[kFormats] = {
     {L"Calendar programs", L"iCalendar (*.ics)\0*.ics\0All files\0*.*\0", L"ics"}};
 
 constexpr wchar_t kImportFilter[] = L"Comma-separated values (*.csv)\0*.csv\0All files\0*.*\0";
-constexpr size_t kLongestPath = 32768;  // of the system, terminator included
 
 struct State {
   ExportRequest request;
@@ -104,26 +102,10 @@ INT_PTR CALLBACK ExportDialogProc(HWND dialog, UINT message, WPARAM wParam, LPAR
   return dialogs::OnException(dialog, message);
 }
 
-OPENFILENAMEW FileDialog(HWND owner, const wchar_t* title, const wchar_t* filter, std::wstring& path) {
-  OPENFILENAMEW dialog = {};
-  dialog.lStructSize = sizeof dialog;
-  dialog.hwndOwner = owner;
-  dialog.lpstrTitle = title;
-  dialog.lpstrFilter = filter;
-  dialog.lpstrFile = path.data();
-  dialog.nMaxFile = static_cast<DWORD>(path.size());
-  dialog.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST;
-  return dialog;
-}
-
 // The file to write; empty when cancelled.
 std::wstring AskForPath(HWND owner, const FormatLook& look) {
-  std::wstring path = L"Dates of persons." + std::wstring(look.extension);
-  path.resize(kLongestPath);
-  OPENFILENAMEW dialog = FileDialog(owner, L"Export Dates to File", look.filter, path);
-  dialog.lpstrDefExt = look.extension;
-  dialog.Flags |= OFN_OVERWRITEPROMPT;
-  return GetSaveFileNameW(&dialog) ? std::wstring(path.c_str()) : std::wstring();
+  return dialogs::AskForFileToWrite(owner, {L"Export Dates to File", look.filter, look.extension},
+                                    L"Dates of persons." + std::wstring(look.extension));
 }
 
 }  // namespace
@@ -138,11 +120,9 @@ std::optional<ExportRequest> AskForExport(HWND owner, int32_t year, size_t all, 
 }
 
 std::optional<std::wstring> AskForImportFile(HWND owner) {
-  std::wstring path(kLongestPath, L'\0');
-  OPENFILENAMEW dialog = FileDialog(owner, L"Import Dates from File", kImportFilter, path);
-  dialog.Flags |= OFN_FILEMUSTEXIST;
-  if (!GetOpenFileNameW(&dialog)) return std::nullopt;
-  return std::wstring(path.c_str());
+  std::wstring path = dialogs::AskForFileToRead(owner, {L"Import Dates from File", kImportFilter, nullptr});
+  if (path.empty()) return std::nullopt;
+  return path;
 }
 
 }  // namespace kinship

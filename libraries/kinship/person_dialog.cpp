@@ -20,15 +20,6 @@ constexpr persons::DateControls kDateControls = {{IDC_GREGORIAN_DAY, IDC_GREGORI
                                                  IDC_AFTER_SUNSET,
                                                  IDC_DATE_FAULT};
 
-std::wstring WithLineEnds(const std::string& text) {
-  std::wstring lines;
-  for (const wchar_t character : FromUtf8(text)) {
-    if (character == L'\n') lines += L'\r';
-    lines += character;
-  }
-  return lines;
-}
-
 int FieldOf(TextField field) {
   switch (field) {
     case TextField::kName: return IDC_NAME;
@@ -126,7 +117,7 @@ void PersonDialog::ShowPerson(const Person& person) {
   SetDlgItemTextW(dialog_, IDC_TITLE, FromUtf8(person.title).c_str());
   date_.Show(person.event);
   Choose(IDC_ADAR, person.adar ? static_cast<int>(*person.adar) + 1 : 0);
-  SetDlgItemTextW(dialog_, IDC_NOTES, WithLineEnds(person.notes).c_str());
+  SetDlgItemTextW(dialog_, IDC_NOTES, dialogs::WithLineEnds(FromUtf8(person.notes)).c_str());
 }
 
 INT_PTR PersonDialog::OnCommand(int control, int notification) {

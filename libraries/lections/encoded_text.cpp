@@ -96,11 +96,15 @@ constexpr CodedPage InOrder(const Page& page) {
   return coded;
 }
 
-constexpr std::array<CodedPage, std::size(kPages)> kCodedPages = [] {
-  std::array<CodedPage, std::size(kPages)> pages{};
+using CodedPages = std::array<CodedPage, std::size(kPages)>;
+
+constexpr CodedPages AllInOrder() {
+  CodedPages pages{};
   for (size_t i = 0; i < pages.size(); ++i) pages[i] = InOrder(kPages[i]);
   return pages;
-}();
+}
+
+constexpr CodedPages kCodedPages = AllInOrder();
 
 constexpr size_t IndexOf(CodePage page) {
   return static_cast<size_t>(std::ranges::find(kPages, page, &Page::page) - kPages);

@@ -7,7 +7,10 @@
 namespace lections {
 namespace {
 
-constexpr const Language* kLanguages[] = {&kEnglish, &kAshkenaziEnglish, &kHebrew};
+// English and Hebrew, then by their English names.
+constexpr const Language* kLanguages[] = {
+    &kEnglish, &kAshkenaziEnglish, &kHebrew,  &kCzech,     &kDanish, &kDutch,      &kFinnish, &kFrench,  &kGerman,
+    &kGreek,   &kHungarian,        &kItalian, &kNorwegian, &kPolish, &kPortuguese, &kRussian, &kSpanish, &kSwedish};
 
 const char* NameOr(const char* name, const char* english) {
   return name ? name : english;

@@ -62,6 +62,21 @@ struct Language {
 extern const Language kEnglish;
 extern const Language kAshkenaziEnglish;
 extern const Language kHebrew;
+extern const Language kCzech;
+extern const Language kDanish;
+extern const Language kDutch;
+extern const Language kFinnish;
+extern const Language kFrench;
+extern const Language kGerman;
+extern const Language kGreek;
+extern const Language kHungarian;
+extern const Language kItalian;
+extern const Language kNorwegian;
+extern const Language kPolish;
+extern const Language kPortuguese;
+extern const Language kRussian;
+extern const Language kSpanish;
+extern const Language kSwedish;
 
 // In the order in which the dialog lists them; the first is the default.
 std::span<const Language* const> Languages();

@@ -10,6 +10,7 @@
 #include "libraries/lections/day_readings.h"
 #include "libraries/lections/language.h"
 #include "libraries/lections/language_dialog.h"
+#include "libraries/lections/own_readings_dialog.h"
 #include "libraries/lections/own_readings_file.h"
 #include "libraries/lections/reading_texts.h"
 #include "libraries/lections/readings_font.h"
@@ -104,5 +105,9 @@ int32_t LectionsDoConfigureDialog(HWND owner) try { return lections::DoConfigure
 }
 
 int32_t LectionsDoLanguageDialog(HWND owner) try { return lections::DoLanguageDialog(owner); } catch (...) {
+  return 0;
+}
+
+int32_t LectionsDoCustomReadingsDialog(HWND owner) try { return lections::DoOwnReadingsDialog(owner); } catch (...) {
   return 0;
 }

@@ -9,16 +9,6 @@
 namespace lections {
 namespace {
 
-// Some days come but a few times in a century: 30 Kislev as Rosh Chodesh of Tevet on a certain weekday, three joined
-// portions that the other land never joins.
-constexpr int32_t kDaysAhead = 60 * 366;
-
-std::string& TextIn(Slot slot, ReadingTexts& texts) {
-  const auto index = static_cast<size_t>(slot);
-  if (slot == Slot::kExtra) return texts.additional;
-  return slot < Slot::kHaftarah1 ? texts.torah[index] : texts.haftarot[index - static_cast<size_t>(Slot::kHaftarah1)];
-}
-
 // A text that begins with a mark follows without a blank.
 std::string After(const std::string& before, const std::string& own) {
   constexpr std::string_view kMarks = ",;.:";
@@ -30,7 +20,7 @@ void PutOne(const OwnPlace& place, const OwnText& own, const Language& language,
   const CodePage page = place.slot == Slot::kExtra ? CodePage::kWestern : language.codePage;
   if (!IsEncodable(own.text, page)) return;
   const std::string encoded = Encoded(own.text, page);
-  std::string& text = TextIn(place.slot, texts);
+  std::string& text = SlotOf(place.slot, texts);
   text = (own.how == How::kInstead ? encoded : After(text, encoded)).substr(0, kLongestText);
 }
 
@@ -41,6 +31,12 @@ bool IsAnyText(const ReadingTexts& texts) {
 }
 
 }  // namespace
+
+std::string& SlotOf(Slot slot, ReadingTexts& texts) {
+  const auto index = static_cast<size_t>(slot);
+  if (slot == Slot::kExtra) return texts.additional;
+  return slot < Slot::kHaftarah1 ? texts.torah[index] : texts.haftarot[index - static_cast<size_t>(Slot::kHaftarah1)];
+}
 
 void OwnReadings::Put(const Whens& whens, const Settings& settings, ReadingTexts& texts) const {
   const Language& language = LanguageOf(settings.language);

@@ -14,6 +14,8 @@
 
 namespace lections {
 
+std::string& SlotOf(Slot slot, ReadingTexts& texts);
+
 class OwnReadings {
  public:
   OwnReadings() = default;
@@ -30,8 +32,11 @@ class OwnReadings {
   std::vector<std::pair<OwnPlace, OwnText>> entries_;  // in the order of places
 };
 
+// How far ahead days are looked for: some come but a few times in a century.
+constexpr int32_t kDaysAhead = 60 * 366;
+
 // The next dates on which a kind of days comes, from a day on (absolute, included), in a land: as many as are asked
-// for, fewer where the days do not come often enough within some generations, or not at all.
+// for, fewer where the days come less often within kDaysAhead, or not at all.
 std::vector<int32_t> NextDaysOf(const When& when, calendar::Land land, int32_t from, size_t count);
 
 }  // namespace lections

@@ -17,6 +17,8 @@ struct ReadingTexts {
   std::array<std::string, 3> torah;
   std::array<std::string, 3> haftarot;
   std::string additional;
+
+  friend bool operator==(const ReadingTexts&, const ReadingTexts&) = default;
 };
 constexpr size_t kLongestText = 255;
 

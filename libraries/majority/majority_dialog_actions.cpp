@@ -1,24 +1,22 @@
 // What the buttons of the dialog do with the result.
 #include "libraries/majority/majority_dialog.h"
 
-#include <commdlg.h>
-
 #include <cstring>
 
+#include "libraries/dialogs/chosen_file.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/utf8.h"
+#include "libraries/lections/own_readings_file.h"
 #include "libraries/lections/settings_store.h"
 #include "libraries/majority/majority_ids.h"
 #include "libraries/majority/majority_texts.h"
 #include "libraries/persons/date_fields.h"
 #include "libraries/persons/persons_file.h"
-#include "libraries/settings_folder/whole_file.h"
 #include "publishing/utc_now.h"
 
 namespace majority {
 namespace {
 
-constexpr size_t kLongestPath = 32768;  // of the system, terminator included
 constexpr wchar_t kCalendarFilter[] = L"iCalendar (*.ics)\0*.ics\0All files\0*.*\0";
 
 void ShowInformation(HWND dialog, const std::wstring& text) {
@@ -45,30 +43,14 @@ bool PutIntoClipboard(HWND dialog, const std::wstring& text) {
 
 // The file to write; empty when cancelled.
 std::wstring AskForCalendarFile(HWND dialog, const std::wstring& offered) {
-  std::wstring path = offered;
-  path.resize(kLongestPath);
-  OPENFILENAMEW question = {};
-  question.lStructSize = sizeof question;
-  question.hwndOwner = dialog;
-  question.lpstrTitle = L"Save as iCalendar";
-  question.lpstrFilter = kCalendarFilter;
-  question.lpstrFile = path.data();
-  question.nMaxFile = static_cast<DWORD>(path.size());
-  question.lpstrDefExt = L"ics";
-  question.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST | OFN_OVERWRITEPROMPT;
-  return GetSaveFileNameW(&question) ? path.c_str() : std::wstring();
+  return dialogs::AskForFileToWrite(dialog, {L"Save as iCalendar", kCalendarFilter, L"ics"}, offered);
 }
 
 }  // namespace
 
 std::wstring ResultText(const Child& child) {
-  std::wstring lines;
-  for (const wchar_t character :
-       dialogs::FromUtf8(FactsOf(child, lections::StoredSettings()) + TimeLeft(child, Today()))) {
-    if (character == L'\n') lines += L'\r';
-    lines += character;
-  }
-  return lines;
+  const std::string facts = FactsOf(child, lections::StoredSettings(), lections::StoredOwnReadings().get());
+  return dialogs::WithLineEnds(dialogs::FromUtf8(facts + TimeLeft(child, Today())));
 }
 
 void MajorityDialog::TakeOver() {
@@ -119,7 +101,8 @@ void MajorityDialog::Copy() const {
 void MajorityDialog::SaveAsCalendar() {
   const std::optional<Child> child = Entered();
   if (!child) return;
-  const std::vector<publishing::Event> events = EventsOf(*child, Name(), lections::StoredSettings());
+  const std::vector<publishing::Event> events =
+      EventsOf(*child, Name(), lections::StoredSettings(), lections::StoredOwnReadings().get());
   if (events.empty()) {
     dialogs::ShowError(dialog_, L"A calendar file can only hold days from 1583 to 3000.");
     return;
@@ -130,11 +113,7 @@ void MajorityDialog::SaveAsCalendar() {
   if (path.empty()) return;
   calendarFile_ = path;
   const std::string text = publishing::CalendarOf(title, events, publishing::UtcNow());
-  if (settings_folder::WriteChosenFile(path, text)) return;
-  dialogs::ShowError(dialog_, L"The file\n" + path +
-                                  L"\ncould not be written; an older one of that name is as it was.\n\nSee to it that "
-                                  L"no other program holds it, that it is not read-only and that the disk is not full, "
-                                  L"or choose another file, then save again.");
+  dialogs::WriteOrTell(dialog_, path, text, L"save again");
 }
 
 }  // namespace majority

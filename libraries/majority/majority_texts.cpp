@@ -54,8 +54,8 @@ std::string Shown(const std::string& encoded, lections::CodePage page) {
   return page == lections::CodePage::kHebrew ? kMark + text + kMark : text;
 }
 
-std::string ReadingsText(int32_t shabbat, const lections::Settings& settings) {
-  const lections::ReadingTexts texts = lections::TextsOn(calendar::JewishFromAbsolute(shabbat), settings);
+std::string ReadingsText(int32_t shabbat, const lections::Settings& settings, const lections::OwnReadings* own) {
+  const lections::ReadingTexts texts = lections::TextsOn(calendar::JewishFromAbsolute(shabbat), settings, own);
   const lections::CodePage page = lections::LanguageOf(settings.language).codePage;
   std::string lines;
   for (const std::string& torah : texts.torah) {
@@ -67,12 +67,12 @@ std::string ReadingsText(int32_t shabbat, const lections::Settings& settings) {
   return lines;
 }
 
-std::string ShabbatText(int32_t shabbat, const lections::Settings& settings) {
+std::string ShabbatText(int32_t shabbat, const lections::Settings& settings, const lections::OwnReadings* own) {
   std::string text = "Shabbat on or after it: " + DayText(shabbat) + "\n";
   if (!calendar::PortionOnShabbat(shabbat, settings.land)) {
     text += "This Shabbat is a day of a festival; in place of a weekly portion this is read:\n";
   }
-  return text + ReadingsText(shabbat, settings);
+  return text + ReadingsText(shabbat, settings, own);
 }
 
 std::string UidOf(const std::string& title, const Date& birth, const char* which) {
@@ -96,7 +96,7 @@ std::string TitleOf(const Child& child, std::string_view name) {
   return trimmed.empty() ? title : title + " of " + trimmed;
 }
 
-std::string FactsOf(const Child& child, const lections::Settings& settings) {
+std::string FactsOf(const Child& child, const lections::Settings& settings, const lections::OwnReadings* own) {
   const std::string birth = "Jewish birthday: " + persons::JewishDateText(persons::JewishDateOf(child.birth)) + "\n";
   const std::optional<ComingOfAge> age = ComingOfAgeOf(child);
   if (!age) {
@@ -105,7 +105,7 @@ std::string FactsOf(const Child& child, const lections::Settings& settings) {
   }
   return birth + TitleOf(child, {}) + " at " + std::to_string(child.isGirl ? kAgeOfGirls : kAgeOfBoys) + ": " +
          WeekdayText(age->day) + ", " + DayText(age->day) + ", from the evening before\n" + Reason(*age) +
-         ShabbatText(age->shabbat, settings);
+         ShabbatText(age->shabbat, settings, own);
 }
 
 std::string TimeLeft(const Child& child, int32_t today) {
@@ -118,15 +118,16 @@ std::string TimeLeft(const Child& child, int32_t today) {
          std::string(" left to learn until this Shabbat.\n");
 }
 
-std::vector<publishing::Event> EventsOf(const Child& child, std::string_view name, const lections::Settings& settings) {
+std::vector<publishing::Event> EventsOf(const Child& child, std::string_view name, const lections::Settings& settings,
+                                        const lections::OwnReadings* own) {
   const std::optional<ComingOfAge> age = ComingOfAgeOf(child);
   if (!age || !IsGregorianDay(age->day)) return {};
   const std::string title = TitleOf(child, name);
   std::vector<publishing::Event> events;
-  events.push_back({UidOf(title, age->birth, "day"), CivilDateOf(age->day), title, FactsOf(child, settings)});
+  events.push_back({UidOf(title, age->birth, "day"), CivilDateOf(age->day), title, FactsOf(child, settings, own)});
   if (age->shabbat == age->day) return events;
   events.push_back({UidOf(title, age->birth, "shabbat"), CivilDateOf(age->shabbat), title + ", Shabbat",
-                    ShabbatText(age->shabbat, settings)});
+                    ShabbatText(age->shabbat, settings, own)});
   return events;
 }
 

@@ -10,12 +10,13 @@
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/known_file.h"
 #include "libraries/dialogs/resizable_dialog.h"
+#include "libraries/dialogs/row_list.h"
+#include "libraries/dialogs/save_changes.h"
 #include "libraries/dialogs/windows_1252.h"
 #include "libraries/ownhours/own_times_editing.h"
 #include "libraries/ownhours/own_times_file.h"
 #include "libraries/ownhours/ownhours_ids.h"
 #include "libraries/ownhours/time_dialog.h"
-#include "libraries/ownhours/time_list.h"
 #include "libraries/ownhours/time_rows.h"
 #include "libraries/stamp/form_setting.h"
 
@@ -36,6 +37,12 @@ constexpr Anchor kAnchors[] = {
     {IDC_UNDO, Follow::kMove, Follow::kNo},    {IDOK, Follow::kMove, Follow::kMove},
     {IDCANCEL, Follow::kMove, Follow::kMove},
 };
+
+constexpr dialogs::ListColumn kListColumns[kColumns] = {{L"Place", L"Mmmmmmmmm", 2},
+                                                        {L"Date", L"88.88.8888", 0},
+                                                        {L"Zman", L"Mmmmmmmmmmmm", 3},
+                                                        {L"Set to", L"88:88 p.m.", 0},
+                                                        {L"Calculated", L"88:88 p.m.", 0}};
 
 std::wstring CountText(int shown, size_t all) {
   if (all == 0) return L"No times are set by hand";
@@ -86,7 +93,7 @@ class OwnTimesDialog {
   bool descending_ = false;
   bool isFilling_ = false;  // the buttons are seen to afterwards
   HWND dialog_ = nullptr;
-  TimeList list_;
+  dialogs::RowList list_;
   ResizableDialog size_;
 };
 
@@ -110,7 +117,7 @@ INT_PTR OwnTimesDialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 INT_PTR OwnTimesDialog::OnInitDialog() {
-  list_.Start(Control(IDC_TIMES));
+  list_.Start(Control(IDC_TIMES), kListColumns);
   size_.Start(dialog_, kAnchors, kSizeFile);
   OnSize();
   SendDlgItemMessageW(dialog_, IDC_TYPED, EM_LIMITTEXT, kMostTypedLetters, 0);
@@ -282,27 +289,13 @@ void OwnTimesDialog::Undo() {
 }
 
 void OwnTimesDialog::Accept() {
-  Changes changes = editing_.Unsaved();
-  if (changes.empty()) return void(EndDialog(dialog_, IDCANCEL));
-  bool replaceOthers = false;
-  for (;;) {
-    std::vector<Occasion> conflicts;
-    if (WriteChanges(changes, editing_.Stored(), replaceOthers, &conflicts)) return void(EndDialog(dialog_, IDOK));
-    if (conflicts.empty()) break;
-    const std::wstring question =
-        L"Meanwhile another program has changed times that you have changed too, such as\n\n" +
-        InWords(conflicts.front()) +
-        L"\n\nShall yours replace them? With No, those stay and your other changes are saved.";
-    const std::optional<bool> decision = dialogs::Decision(dialog_, question);
-    if (!decision) return;
-    replaceOthers = *decision;
-    if (!replaceOthers) {
-      for (const Occasion& occasion : conflicts) changes.erase(occasion);
-    }
+  if (editing_.Unsaved().empty()) return void(EndDialog(dialog_, IDCANCEL));
+  const auto write = [this](const Changes& changes, bool replaceOthers, std::vector<Occasion>* conflicts) {
+    return WriteChanges(changes, editing_.Stored(), replaceOthers, conflicts);
+  };
+  if (dialogs::SaveOrTell(dialog_, editing_.Unsaved(), write, InWords, {L"times", StorePath()})) {
+    EndDialog(dialog_, IDOK);
   }
-  dialogs::ShowError(dialog_, L"The times could not be saved in the file\n" + StorePath() +
-                                  L"\n\nSee to it that it can be written (no other program holds it, it is not "
-                                  L"read-only, the disk is not full), then choose OK again.");
 }
 
 void OwnTimesDialog::Cancel() {

@@ -194,6 +194,11 @@ int32_t LectionsDoLanguageDialog(HWND owner) {
   return Libraries().readingsChanged;
 }
 
+int32_t LectionsDoCustomReadingsDialog(HWND owner) {
+  LogCall("own readings, owner %s", owner ? "yes" : "none");
+  return Libraries().readingsChanged;
+}
+
 int32_t HoursGetDescription(uint32_t index, char* text) {
   return CopyName(Libraries().zmanNames, "Zman ", index, text);
 }

@@ -1,4 +1,4 @@
-// The two dialogs of the readings library, and what an accepted one does to the documents and to the candle rule.
+// The dialogs of the readings library, and what an accepted one does to the documents and to the candle rule.
 #include <cstring>
 
 #include "app/active_document.h"
@@ -9,7 +9,7 @@ using testing::SizeIs;
 
 namespace {
 
-constexpr unsigned kReadingsDialogs[] = {1011, 1015};
+constexpr unsigned kReadingsDialogs[] = {1011, 1012, 1015};
 
 // A rule that neither place below has.
 constexpr CandleOverrideRecord kStaleRule{false, 7};

@@ -359,12 +359,13 @@ TEST_F(ReadingsTest, GrowingLowersThePositionToTheNewEnd) {
 }
 
 TEST_F(ReadingsTest, AcceptedReadingsDialogsOpenADocumentCancelledOnesDoNot) {
-  for (const unsigned id : {1011u, 1015u}) {
+  for (const unsigned id : {1011u, 1012u, 1015u}) {
     Libraries().readingsChanged = false;
     SendMessageA(frame_, WM_COMMAND, MAKEWPARAM(id, 0), 0);
   }
   EXPECT_EQ(CountDocuments(), 1);
   EXPECT_THAT(CallsWith("readings"), ElementsAre("readings, owner yes"));
+  EXPECT_THAT(CallsWith("own readings"), ElementsAre("own readings, owner yes"));
   EXPECT_THAT(CallsWith("language"), ElementsAre("language of readings, owner yes"));
   Libraries().readingsChanged = true;
   SendMessageA(frame_, WM_COMMAND, MAKEWPARAM(1011, 0), 0);
