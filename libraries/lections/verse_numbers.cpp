@@ -6,7 +6,7 @@
 namespace lections {
 namespace {
 
-constexpr uint8_t kAll = kLuther | kKingJames | kFolkbibel | kSegond | kNorwegian | kSynodal;
+constexpr uint8_t kAll = kLuther | kKingJames | kFolkbibel | kSegond | kNorwegianBible | kSynodal;
 constexpr uint8_t kChristian = kAll & ~kLuther;
 constexpr uint8_t kEnglishLike = kKingJames | kFolkbibel;
 
@@ -29,7 +29,7 @@ struct Row {
 // - kKingJames: "eng.vrs" of the Paratext program, which maps it to the Biblia Hebraica verse by verse; SWORD's "KJV".
 // - kFolkbibel: Svenska Folkbibeln 2015, chapter by chapter where it was to be had; it leaves Numbers 30 as it is.
 // - kSegond: SWORD's "Segond" (Segond 1910).
-// - kNorwegian: Bibelen 2011 of the Norwegian Bible Society, chapter by chapter.
+// - kNorwegianBible: Bibelen 2011 of the Norwegian Bible Society, chapter by chapter.
 // - kSynodal: "rsc.vrs" of the Paratext program; SWORD's "SynodalProt".
 //
 // A row has as many verses on both sides, or one Hebrew verse that is several in the others.
@@ -65,7 +65,7 @@ constexpr Row kRows[] = {
     {"Joshua 6:1", "Joshua 5:16", kSynodal},
     {"Joshua 6:2-27", "Joshua 6:1-26", kSynodal},
     {"I Samuel 21:1", "I Samuel 20:42", kEnglishLike},
-    {"I Samuel 21:1", "I Samuel 20:43", kSegond | kNorwegian | kSynodal},
+    {"I Samuel 21:1", "I Samuel 20:43", kSegond | kNorwegianBible | kSynodal},
     {"I Samuel 21:2-16", "I Samuel 21:1-15", kChristian},
     {"I Samuel 24:1", "I Samuel 23:29", kEnglishLike},
     {"I Samuel 24:2-23", "I Samuel 24:1-22", kEnglishLike},
@@ -94,15 +94,15 @@ constexpr Row kRows[] = {
     {"Hosea 12:2-15", "Hosea 12:1-14", kEnglishLike | kSynodal},
     {"Hosea 14:1", "Hosea 13:16", kEnglishLike | kSegond},
     {"Hosea 14:2-10", "Hosea 14:1-9", kEnglishLike | kSegond},
-    {"Joel 3:1-5", "Joel 2:28-32", kChristian & ~kNorwegian},
-    {"Joel 4:1-21", "Joel 3:1-21", kChristian & ~kNorwegian},
-    {"Joel 4:1-21", "Joel 3:6-26", kNorwegian},
+    {"Joel 3:1-5", "Joel 2:28-32", kChristian & ~kNorwegianBible},
+    {"Joel 4:1-21", "Joel 3:1-21", kChristian & ~kNorwegianBible},
+    {"Joel 4:1-21", "Joel 3:6-26", kNorwegianBible},
     {"Jonah 2:1", "Jonah 1:17", kEnglishLike},
     {"Jonah 2:2-11", "Jonah 2:1-10", kEnglishLike},
     {"Micah 4:14", "Micah 5:1", kEnglishLike | kSynodal},
     {"Micah 5:1-14", "Micah 5:2-15", kEnglishLike | kSynodal},
-    {"Zechariah 2:1-4", "Zechariah 1:18-21", kChristian & ~kNorwegian},
-    {"Zechariah 2:5-17", "Zechariah 2:1-13", kChristian & ~kNorwegian},
+    {"Zechariah 2:1-4", "Zechariah 1:18-21", kChristian & ~kNorwegianBible},
+    {"Zechariah 2:5-17", "Zechariah 2:1-13", kChristian & ~kNorwegianBible},
     {"Malachi 3:19-24", "Malachi 4:1-6", kChristian},
     {"Song of Songs 1:2-17", "Song of Songs 1:1-16", kSynodal},
     {"Song of Songs 7:1", "Song of Songs 6:13", kEnglishLike},
@@ -132,7 +132,7 @@ constexpr OwnBible kOwnBibles[] = {
     {8, "Svenska Folkbibeln", kFolkbibel},       // where Bibel 2000 was seen, it agrees
     {9, "the Nieuwe Bijbelvertaling", kLuther},  // NBV21; the Statenvertaling numbers otherwise
     {10, "the Reina-Valera Bible", kKingJames},  // 1960
-    {11, "the Norwegian Bible (2011)", kNorwegian},
+    {11, "the Norwegian Bible (2011)", kNorwegianBible},
     {12, "the Almeida Bible", kKingJames},
     {14, "the Revised New Translation (RÚF)", kLuther},  // 2014; Károli's numbers otherwise
     {15, "the Czech Ecumenical Translation", kLuther},   // the Kralice Bible numbers otherwise

@@ -14,7 +14,7 @@ enum Versification : uint8_t {
   kKingJames = 2,  // the numbers that most translations of the last four centuries share
   kFolkbibel = 4,
   kSegond = 8,
-  kNorwegian = 16,
+  kNorwegianBible = 16,
   kSynodal = 32,
 };
 
