@@ -1,8 +1,10 @@
 #include "libraries/lections/language_dialog.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include "libraries/calendar/gregorian.h"
 #include "libraries/dialogs/dialog_parts.h"
@@ -61,6 +63,18 @@ struct FontDeleter {
   void operator()(HFONT font) const { DeleteObject(font); }
 };
 
+// Whether a window's font has all letters of a text.
+bool CanDraw(HWND window, const std::wstring& text) {
+  constexpr WORD kNoGlyph = 0xFFFF;
+  const HDC context = GetDC(window);
+  const HGDIOBJ before = SelectObject(context, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
+  std::vector<WORD> glyphs(text.size(), kNoGlyph);
+  GetGlyphIndicesW(context, text.c_str(), static_cast<int>(text.size()), glyphs.data(), GGI_MARK_NONEXISTING_GLYPHS);
+  SelectObject(context, before);
+  ReleaseDC(window, context);
+  return std::ranges::find(glyphs, kNoGlyph) == glyphs.end();
+}
+
 class LanguageDialog {
  public:
   explicit LanguageDialog(int32_t today) : today_(today) {}
@@ -78,6 +92,7 @@ class LanguageDialog {
   Settings Chosen() const;
   void Fill();
   void MakeReadingsFont();
+  void FitListFont() const;
   void Show() const;
   void ShowNumbers(const Settings& settings) const;
   void ShowSample(const Settings& settings) const;
@@ -107,6 +122,7 @@ INT_PTR LanguageDialog::OnOpen() {
   own_ = StoredOwnReadings();
   size_.Start(dialog_, kAnchors, kSettingsFile);
   MakeReadingsFont();
+  FitListFont();
   Fill();
   CheckDlgButton(dialog_, IDC_OWN_NUMBERS, stored_.ownNumbers ? BST_CHECKED : BST_UNCHECKED);
   Show();
@@ -121,6 +137,14 @@ void LanguageDialog::Fill() {
     const LRESULT index = SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(NameOf(*language).c_str()));
     if (language->code == stored_.language) SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
   }
+}
+
+// Where the system's font for dialogs lacks the letters of a language, its name is in the font of readings.
+void LanguageDialog::FitListFont() const {
+  const HWND list = Control(IDC_LANGUAGES);
+  const bool canDrawAll =
+      std::ranges::all_of(Languages(), [list](const Language* language) { return CanDraw(list, NameOf(*language)); });
+  if (!canDrawAll) SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(readingsFont_.get()), FALSE);
 }
 
 void LanguageDialog::MakeReadingsFont() {
@@ -164,6 +188,7 @@ void LanguageDialog::ShowSample(const Settings& settings) const {
   const HFONT font = CharSetOf(page) == 0 ? ownFont : readingsFont_.get();
   SendMessageW(shown, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
   SetWindowTextW(shown, EditText(SampleWeek(today_, settings, own_.get())).c_str());
+  InvalidateRect(shown, nullptr, TRUE);  // the lines of the font before were others
   ShowWindow(hidden, SW_HIDE);
   ShowWindow(shown, SW_SHOWNA);
 }
