@@ -69,6 +69,10 @@ uint32_t LectionsGetLanguage(void) try { return lections::StoredSettings().langu
   return lections::Languages()[0]->code;
 }
 
+int32_t LectionsHasOwnNumbers(void) try { return lections::StoredSettings().ownNumbers; } catch (...) {
+  return 0;
+}
+
 int32_t LectionsIsYizkor(uint32_t day, uint32_t month, uint32_t year) {
   return LectionsIsYizkorBy(kStoredChoice, day, month, year);
 }
