@@ -1,6 +1,7 @@
 #include "libraries/lections/verse_numbers.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace lections {
@@ -142,13 +143,27 @@ constexpr OwnBible kOwnBibles[] = {
     {21, "the Millennium Bible", kLuther},                    // Biblia Tysiąclecia
 };
 
+static_assert(std::ranges::is_sorted(kRows, {}, [](const Row& row) { return row.hebrew.book; }));
+
+// Where the rows of each book begin, and the end of the last one's.
+constexpr auto kFirstRows = [] {
+  std::array<const Row*, kBookCount + 1> first{};
+  for (size_t book = 0; book <= kBookCount; ++book) {
+    first[book] =
+        std::ranges::find_if(kRows, [book](const Row& row) { return static_cast<size_t>(row.hebrew.book) >= book; });
+  }
+  return first;
+}();
+
 // The row of a verse; null when it is numbered as in the table.
 const Row* RowOf(Versification versification, Book book, int chapter, int verse) {
-  const Row* found = std::ranges::find_if(kRows, [=](const Row& row) {
-    return (row.versifications & versification) != 0 && row.hebrew.book == book && row.hebrew.chapter == chapter &&
-           row.hebrew.verse <= verse && verse <= row.hebrew.lastVerse;
-  });
-  return found == std::end(kRows) ? nullptr : found;
+  const auto index = static_cast<size_t>(book);
+  for (const Row* row = kFirstRows[index]; row != kFirstRows[index + 1]; ++row) {
+    const Verses& hebrew = row->hebrew;
+    const bool isIn = hebrew.chapter == chapter && hebrew.verse <= verse && verse <= hebrew.lastVerse;
+    if (isIn && (row->versifications & versification) != 0) return row;
+  }
+  return nullptr;
 }
 
 }  // namespace
