@@ -34,7 +34,8 @@ void MeasureLanguages(const SettingsHome& home) {
   double slowest = 0;
   for (const lections::Language* language : lections::Languages()) {
     home.Put("lections.ini",
-             "[Readings]\r\nLand=Diaspora\r\nChabad=1\r\nWeekdays=1\r\nLanguage=" + std::to_string(language->code));
+             "[Readings]\r\nLand=Diaspora\r\nChabad=1\r\nMondayThursday=1\r\nShabbatAfternoon=1\r\nLanguage=" +
+                 std::to_string(language->code));
     WaitUntilSeen();
     if (LectionsGetLanguage() != language->code) std::fprintf(stderr, "language %s is not taken\n", language->name);
     const double milliseconds = BestMilliseconds(kRounds, [&days] { ReadAll(days); });
