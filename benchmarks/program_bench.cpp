@@ -8,6 +8,7 @@
 #include "app/compute_document.h"
 #include "benchmarks/exports_bench.h"
 #include "benchmarks/kinship_bench.h"
+#include "benchmarks/languages_bench.h"
 #include "benchmarks/measured.h"
 #include "benchmarks/start_up_bench.h"
 #include "benchmarks/zmanim_bench.h"
@@ -162,6 +163,7 @@ int main() {
     MeasureShabbatTimes("32,000 Shabbatot by degrees, ms");
     if (!MeasureZmanim(home)) return 1;
     MeasureExports(home);
+    MeasureLanguages(home);
     MeasureKinship(home);
   }
   return MeasureStartUp() ? 0 : 1;

@@ -82,17 +82,29 @@ constexpr Page kPages[] = {
 };
 // clang-format on
 
-// A page's characters in their order, each with its byte.
+// The letters of all pages lie below this character, the last of them the Hebrew ones; above are a few signs.
+constexpr size_t kCharacters = 0x600;
+
+// A page's bytes by character, 0 for none: of letters at once, of all in the order of the characters.
 struct Coded {
   char16_t character = 0;
   uint8_t byte = 0;
 };
-using CodedPage = std::array<Coded, kBytes>;
+struct CodedPage {
+  std::array<uint8_t, kCharacters> letters{};
+  std::array<Coded, kBytes> all{};
+};
 
 constexpr CodedPage InOrder(const Page& page) {
   CodedPage coded{};
-  for (size_t i = 0; i < kBytes; ++i) coded[i] = {page.characters[i], static_cast<uint8_t>(i + kBytes)};
-  std::ranges::sort(coded, {}, &Coded::character);
+  for (size_t i = 1; i < kBytes; ++i) coded.letters[i] = static_cast<uint8_t>(i);
+  for (size_t i = 0; i < kBytes; ++i) {
+    const char16_t character = page.characters[i];
+    const auto byte = static_cast<uint8_t>(i + kBytes);
+    if (character != 0 && character < kCharacters) coded.letters[character] = byte;
+    coded.all[i] = {character, byte};
+  }
+  std::ranges::sort(coded.all, {}, &Coded::character);
   return coded;
 }
 
@@ -131,10 +143,9 @@ uint32_t TakeCharacter(std::string_view& text) {
 
 // 0 for a character that the page does not have.
 char ByteOf(uint32_t character, const CodedPage& page) {
-  if (character > 0 && character < kBytes) return static_cast<char>(character);
-  const auto found = std::ranges::lower_bound(page, character, {}, &Coded::character);
-  const bool isIn = character != 0 && found != page.end() && found->character == character;
-  return isIn ? static_cast<char>(found->byte) : '\0';
+  if (character < kCharacters) return static_cast<char>(page.letters[character]);
+  const auto found = std::ranges::lower_bound(page.all, character, {}, &Coded::character);
+  return found != page.all.end() && found->character == character ? static_cast<char>(found->byte) : '\0';
 }
 
 void AppendUtf8(char16_t character, std::string& utf8) {
@@ -162,12 +173,12 @@ uint32_t CharSetOf(CodePage page) {
 
 std::string Encoded(std::string_view utf8, CodePage page) {
   const CodedPage& coded = kCodedPages[IndexOf(page)];
-  std::string text;
-  text.reserve(utf8.size());
-  while (!utf8.empty()) {
-    const char byte = ByteOf(TakeCharacter(utf8), coded);
-    text += byte != '\0' ? byte : kUnknown;
+  std::string text(utf8.size(), kUnknown);
+  size_t length = 0;
+  for (; !utf8.empty(); ++length) {
+    if (const char byte = ByteOf(TakeCharacter(utf8), coded)) text[length] = byte;
   }
+  text.resize(length);
   return text;
 }
 

@@ -15,7 +15,9 @@ namespace {
 
 constexpr uint32_t kTishri = 7;
 constexpr uint32_t kCheshvan = 8;
+constexpr uint32_t kTevet = 10;
 constexpr uint32_t kNisan = 1;
+constexpr size_t kTextSize = 256;  // the program's, with the ending zero
 
 LectionsReadings Read(uint32_t day, uint32_t month, uint32_t year) {
   LectionsReadings readings;
@@ -152,6 +154,67 @@ TEST_F(LectionsContract, HebrewIsInAFontWithHebrewLetters) {
   EXPECT_EQ(font.CharSet, static_cast<uint32_t>(HEBREW_CHARSET));
   // Noach, in windows-1255.
   EXPECT_EQ(std::string(Read(1, kCheshvan, 5785).torah1).substr(0, 3), "\xF0\xE7 ");
+}
+
+struct LanguageRow {
+  uint32_t code;
+  uint32_t charset;     // 0: the program's own font
+  const char* vayechi;  // the beginning of its text, in the language's code page
+};
+// The codes are those that settings files hold; charsets as Windows numbers them, names by Unicode's CP1250.TXT to
+// CP1255.TXT.
+constexpr LanguageRow kLanguageRows[] = {{1, 0, "Vayechi: Genesis 47:"},
+                                         {2, 0, "Vayechi: Genesis 47:"},
+                                         {3, 0, "Wajechi: 1. Mose 47,"},
+                                         {4, HEBREW_CHARSET, "\xe5\xe9\xe7\xe9: \xe1\xf8\xe0\xf9\xe9\xfa \xee\xe6:"},
+                                         {5, 0, "Vay\xe9'hi: Gen\xe8se 47,"},
+                                         {6, 0, "Vajechi: 1. Mosebog 47,"},
+                                         {7, 0, "Vajechi: 1. Moos. 47:"},
+                                         {8, 0, "Vajechi: 1 Mosebok 47:"},
+                                         {9, 0, "Wajechi: Genesis 47:"},
+                                         {10, 0, "Vayej\xed: G\xe9nesis 47:"},
+                                         {11, 0, "Vajechi: 1. Mosebok 47,"},
+                                         {12, 0, "Vayechi: G\xeanesis 47:"},
+                                         {14, EASTEUROPE_CHARSET, "V\xe1jchi: 1M\xf3zes 47:"},
+                                         {15, EASTEUROPE_CHARSET, "Vajechi: Genesis 47,"},
+                                         {16, GREEK_CHARSET, "\xc2\xe1\xe3\xe5\xf7\xdf: \xc3\xdd\xed\xe5\xf3\xe7 47:"},
+                                         {17, RUSSIAN_CHARSET, "\xc2\xe0\xe5\xf5\xe8: \xc1\xfb\xf2\xe8\xe5 47:"},
+                                         {20, 0, "Vaych\xec: Genesi 47,"},
+                                         {21, EASTEUROPE_CHARSET, "Wajechi: Rodzaju 47,"}};
+
+TEST_F(LectionsContract, EveryLanguageHasItsCodeItsFontAndItsLetters) {
+  for (const LanguageRow& row : kLanguageRows) {
+    Write("Language", std::to_string(row.code).c_str());
+    EXPECT_TRUE(Eventually([&row] { return LectionsGetLanguage() == row.code; })) << row.code;
+    LectionsFont font;
+    LectionsGetFont2(&font);
+    EXPECT_EQ(font.UseDefaultFont != 0, row.charset == 0) << row.code;
+    EXPECT_EQ(font.CharSet, row.charset) << row.code;
+    EXPECT_STREQ(font.FaceName, "Times New Roman") << row.code;
+    EXPECT_EQ(font.PointSize, 12u) << row.code;
+    EXPECT_TRUE(std::string(Read(16, kTevet, 5767).torah1).starts_with(row.vayechi))  // 6 January 2007
+        << row.code << ' ' << Read(16, kTevet, 5767).torah1;
+  }
+}
+
+// Whatever the language, no text fills its field to the end.
+TEST_F(LectionsContract, TextsEndWithinTheirFieldsInEveryLanguage) {
+  Write("Chabad", "1");
+  Write("MondayThursday", "1");
+  Write("ShabbatAfternoon", "1");
+  for (const LanguageRow& row : kLanguageRows) {
+    Write("Language", std::to_string(row.code).c_str());
+    ASSERT_TRUE(Eventually([&row] { return LectionsGetLanguage() == row.code; })) << row.code;
+    for (uint32_t month = 1; month <= 13; ++month) {
+      for (uint32_t day = 1; day <= 30; ++day) {
+        const LectionsReadings readings = Read(day, month, 5784);  // a leap year
+        for (const char* text : {readings.torah1, readings.torah2, readings.torah3, readings.haftarah1,
+                                 readings.haftarah2, readings.haftarah3, readings.extraText}) {
+          EXPECT_LT(strnlen(text, kTextSize), kTextSize) << row.code << ": " << day << '.' << month;
+        }
+      }
+    }
+  }
 }
 
 TEST_F(LectionsContract, UnknownLanguageIsEnglish) {

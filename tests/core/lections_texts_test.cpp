@@ -72,32 +72,47 @@ std::vector<int32_t> YearsOfAllTypes() {
   return years;
 }
 
-std::vector<Settings> AllSettings(uint32_t language) {
+std::vector<Settings> AllSettings() {
   std::vector<Settings> all;
   for (int bits = 0; bits < 2 * 3 * 4; ++bits) {
     Settings settings = Of(bits % 2 == 0 ? Land::kDiaspora : Land::kIsrael, static_cast<Customs>(bits / 2 % 3));
     settings.chabad = bits / 6 % 2 != 0;
     settings.verses = settings.chabad || bits % 5 != 0;
     settings.optional = {bits / 12 != 0, bits / 12 != 0, bits % 7 == 0};
-    settings.language = language;
     all.push_back(settings);
   }
   return all;
+}
+
+// The days of those years that read otherwise than every day before them. Names and passages of English are all
+// different (lections_languages_test.cpp), so that days with the same texts in English have the same in any language.
+std::vector<calendar::Date> DaysUnlikeEachOther(Settings settings) {
+  settings.language = kEnglish.code;
+  std::set<std::string> known;
+  std::vector<calendar::Date> days;
+  for (const int32_t year : YearsOfAllTypes()) {
+    for (int32_t day = calendar::JewishNewYear(year); day < calendar::JewishNewYear(year + 1); ++day) {
+      const calendar::Date date = calendar::JewishFromAbsolute(day);
+      const ReadingTexts texts = TextsOn(date, settings);
+      if (known.insert(lections_test::Line(texts) + "\n" + texts.additional).second) days.push_back(date);
+    }
+  }
+  return days;
 }
 
 // Every different text that the library gives in those years.
 const std::set<std::string>& EveryText() {
   static const std::set<std::string> every = [] {
     std::set<std::string> found;
-    for (const Language* language : Languages()) {
-      for (const Settings& settings : AllSettings(language->code)) {
-        for (const int32_t year : YearsOfAllTypes()) {
-          for (int32_t day = calendar::JewishNewYear(year); day < calendar::JewishNewYear(year + 1); ++day) {
-            const ReadingTexts texts = TextsOn(calendar::JewishFromAbsolute(day), settings);
-            found.insert(texts.torah.begin(), texts.torah.end());
-            found.insert(texts.haftarot.begin(), texts.haftarot.end());
-            found.insert(texts.additional);
-          }
+    for (Settings settings : AllSettings()) {
+      const std::vector<calendar::Date> days = DaysUnlikeEachOther(settings);
+      for (const Language* language : Languages()) {
+        settings.language = language->code;
+        for (const calendar::Date& day : days) {
+          const ReadingTexts texts = TextsOn(day, settings);
+          found.insert(texts.torah.begin(), texts.torah.end());
+          found.insert(texts.haftarot.begin(), texts.haftarot.end());
+          found.insert(texts.additional);
         }
       }
     }

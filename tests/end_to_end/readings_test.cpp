@@ -87,6 +87,33 @@ TEST_F(ReadingsEndToEndTest, ShabbatotShowTheirPortions) {
   ExpectLine("13.01.2007", {"Shemot: Exodus 1:1-6:1", "Isaiah 27:6-28:13, 29:22-23"});
 }
 
+// Vayechi in Greek, Russian and Polish, in windows-1253, 1251 and 1250; dates and numbers stay in the program's font.
+TEST_F(ReadingsEndToEndTest, EveryLanguageIsDrawnInAFontOfItsCharset) {
+  struct Row {
+    const char* language;
+    std::string vayechi;
+    int charset;
+  };
+  const Row rows[] = {{"16", "\xc2\xe1\xe3\xe5\xf7\xdf: \xc3\xdd\xed\xe5\xf3\xe7 47:28-50:26", GREEK_CHARSET},
+                      {"17", "\xc2\xe0\xe5\xf5\xe8: \xc1\xfb\xf2\xe8\xe5 47:28-50:26", RUSSIAN_CHARSET},
+                      {"21", "Wajechi: Rodzaju 47,28-50,26", EASTEUROPE_CHARSET}};
+  for (const Row& row : rows) {
+    Set(std::string("[Readings]\r\nLand=Diaspora\r\nCustom=Ashkenazi\r\nLanguage=") + row.language + "\r\n");
+    ASSERT_NE(Start("5.1.2007", "6.1.2007"), nullptr) << row.language;
+    const auto isDrawn = [this](const std::string& text, auto isCharset) {
+      const auto draws = Drawn();
+      return std::any_of(draws.begin(), draws.end(),
+                         [&](const RecordedDraw& draw) { return draw.text == text && isCharset(draw.charset); });
+    };
+    EXPECT_TRUE(run_->Eventually([&] {
+      return isDrawn(row.vayechi, [&row](int charset) { return charset == row.charset; });
+    })) << testing::PrintToString(Line("06.01.2007"));
+    EXPECT_TRUE(isDrawn("06.01.2007", [&row](int charset) { return charset != row.charset; })) << row.language;
+    run_.reset();
+    fs::remove(settings_.path() / "drawn.txt");
+  }
+}
+
 // Yizkor on the eighth day of Pesach in the diaspora: 10 April 2007 (Hebcal).
 TEST_F(ReadingsEndToEndTest, YizkorStandsUnderItsDate) {
   ASSERT_NE(Start("10.4.2007", "10.4.2007"), nullptr);

@@ -16,7 +16,8 @@ std::vector<RecordedDraw> ReadDraws(const fs::path& settingsFolder) {
   std::vector<RecordedDraw> draws;
   std::istringstream lines(ReadFileText(settingsFolder / "drawn.txt"));
   RecordedDraw draw;
-  while (lines >> draw.windowClass >> draw.x >> draw.y && lines.get() == ' ' && std::getline(lines, draw.text)) {
+  while (lines >> draw.windowClass >> draw.x >> draw.y >> draw.charset && lines.get() == ' ' &&
+         std::getline(lines, draw.text)) {
     draws.push_back(draw);
   }
   return draws;

@@ -9,6 +9,7 @@ struct RecordedDraw {
   std::string windowClass;
   int x;
   int y;
+  int charset;  // of the font
   std::string text;
 };
 

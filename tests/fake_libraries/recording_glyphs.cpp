@@ -1,5 +1,6 @@
-// The text library as the program sees it, writing down every text it draws: a line "window-class x y text" in
-// drawn.txt of the program's settings folder. Tests from outside the process read there what the program shows.
+// The text library as the program sees it, writing down every text it draws: a line "window-class x y charset text" in
+// drawn.txt of the program's settings folder, the charset that of the font. Tests from outside the process read there
+// what the program shows.
 #include <windows.h>
 
 #include <cstring>
@@ -16,7 +17,7 @@ void Record(HDC dc, int x, int y, const std::string& text) {
   char className[64] = "-";
   GetClassNameA(WindowFromDC(dc), className, sizeof className);
   std::ofstream drawn(std::string(folder) + "\\drawn.txt", std::ios::app | std::ios::binary);
-  drawn << className << ' ' << x << ' ' << y << ' ' << text << '\n';
+  drawn << className << ' ' << x << ' ' << y << ' ' << GetTextCharset(dc) << ' ' << text << '\n';
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // Writes one RTF file of every layout and form into a folder: make_samples FOLDER. The readings are those of a whole
-// year in both languages, the zmanim have both marks and a Hebrew legend as the zmanim library describes them. Those
+// year in English and Hebrew and of some weeks in a language of every code page, with a file of their texts in UTF-8
+// for each; the zmanim have both marks and a Hebrew legend as the zmanim library describes them. Those
 // for all word processors come in every number that makes tables of another kind.
 #include <cstdio>
 #include <filesystem>
@@ -10,6 +11,8 @@
 #include "libraries/calendar/gregorian.h"
 #include "libraries/calendar/jewish.h"
 #include "libraries/hours/description_text.h"
+#include "libraries/lections/encoded_text.h"
+#include "libraries/lections/language.h"
 #include "libraries/lections/reading_texts.h"
 #include "output/text_sink.h"
 #include "readings/core/readings_export.h"
@@ -21,9 +24,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr uint32_t kEnglish = 1;
-constexpr uint32_t kHebrew = 4;
 constexpr int kDays = 31;
+constexpr int kDaysOfAYear = 365;
+constexpr int kSomeWeeks = 10 * 7;
 
 void Format24(int32_t hour, int32_t minute, char* text) {
   std::snprintf(text, 32, "%02d:%02d", hour, minute);
@@ -163,10 +166,10 @@ void Put(const std::string& text, char (&slot)[kTextSize]) {
 }
 
 // From 5 January 2007 on, as the program's own list has them.
-std::vector<ReadingsEntry> ReadingsOfAYear(const lections::Settings& settings) {
+std::vector<ReadingsEntry> ReadingsOfDays(int32_t days, const lections::Settings& settings) {
   std::vector<ReadingsEntry> entries;
   const int32_t first = calendar::AbsoluteFromGregorian({5, 1, 2007});
-  for (int32_t day = first; day < first + 365; ++day) {
+  for (int32_t day = first; day < first + days; ++day) {
     const calendar::Date jewish = calendar::JewishFromAbsolute(day);
     const lections::ReadingTexts texts = lections::TextsOn(jewish, settings);
     if (texts.torah[0].empty()) continue;
@@ -187,15 +190,20 @@ std::vector<ReadingsEntry> ReadingsOfAYear(const lections::Settings& settings) {
   return entries;
 }
 
-void SaveReadings(const fs::path& folder, uint32_t language, const ExportFont& font, const std::string& suffix) {
-  lections::Settings settings;
-  settings.language = language;
-  const std::vector<ReadingsEntry> entries = ReadingsOfAYear(settings);
+// As the readings library describes it.
+ExportFont FontOf(const lections::Language& language) {
+  const uint32_t charset = lections::CharSetOf(language.codePage);
+  if (charset == 0) return {};
+  return {.ownFont = true, .face = "Times New Roman", .points = 12, .charset = charset};
+}
+
+void SaveReadings(const fs::path& folder, const std::string& suffix, const lections::Language& language,
+                  const std::vector<ReadingsEntry>& entries) {
   ReadingsExport data{.dateTitle = "Date",
                       .torahTitle = "Parashioth",
                       .haftarahTitle = "Haphtaroth",
                       .yizkor = "Yizkor",
-                      .font = font,
+                      .font = FontOf(language),
                       .entries = entries};
   for (const RtfForm form : {RtfForm::kUsual, RtfForm::kForAllWordProcessors}) {
     data.rtfForm = form;
@@ -209,6 +217,29 @@ void SaveReadings(const fs::path& folder, uint32_t language, const ExportFont& f
   }
 }
 
+void SaveReadingsOfAYear(const fs::path& folder, const std::string& suffix, const lections::Language& language) {
+  lections::Settings settings;
+  settings.language = language.code;
+  SaveReadings(folder, suffix, language, ReadingsOfDays(kDaysOfAYear, settings));
+}
+
+// All customs, whose names are among the letters; and what a word processor is to show of them, a line each.
+void SaveReadingsOfSomeWeeks(const fs::path& folder, const std::string& suffix, const lections::Language& language) {
+  lections::Settings settings;
+  settings.chabad = true;
+  settings.optional = {.mondayAndThursday = true, .shabbatAfternoon = true};
+  settings.language = language.code;
+  const std::vector<ReadingsEntry> entries = ReadingsOfDays(kSomeWeeks, settings);
+  SaveReadings(folder, suffix, language, entries);
+  std::ofstream shown(folder / ("readings" + suffix + ".txt"), std::ios::binary);
+  for (const ReadingsEntry& entry : entries) {
+    for (const char* text :
+         {entry.torah1, entry.torah2, entry.torah3, entry.haftarah1, entry.haftarah2, entry.haftarah3}) {
+      if (*text != '\0') shown << lections::Decoded(text, language.codePage) << '\n';
+    }
+  }
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -217,6 +248,11 @@ int main(int count, char** arguments) {
   SaveShabbatTimes(folder);
   SaveZmanim(folder);
   SaveZmanimForAll(folder);
-  SaveReadings(folder, kEnglish, {}, "");
-  SaveReadings(folder, kHebrew, {.ownFont = true, .face = "Times New Roman", .points = 12, .charset = 177}, "_hebrew");
+  SaveReadingsOfAYear(folder, "", lections::kEnglish);
+  SaveReadingsOfAYear(folder, "_hebrew", lections::kHebrew);
+  const std::pair<const char*, const lections::Language*> languages[] = {
+      {"_weeks_german", &lections::kGerman}, {"_weeks_hebrew", &lections::kHebrew},
+      {"_weeks_greek", &lections::kGreek},   {"_weeks_russian", &lections::kRussian},
+      {"_weeks_czech", &lections::kCzech},   {"_weeks_polish", &lections::kPolish}};
+  for (const auto& [suffix, language] : languages) SaveReadingsOfSomeWeeks(folder, suffix, *language);
 }
