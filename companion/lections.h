@@ -41,7 +41,9 @@ uint32_t LectionsGetChoice(void);
  * choice counts as the one stored now. The library may be older than the entries with choices: look them up by name. */
 void LectionsGetReadingsBy(uint32_t choice, uint32_t day, uint32_t month, uint32_t year, LectionsReadings* readings);
 
-/* The code of the language of the texts (1 English, 2 English in Ashkenazi spelling, 4 Hebrew). */
+/* The code of the language of the texts: 1 English, 2 English in Ashkenazi spelling, 3 German, 4 Hebrew, 5 French,
+ * 6 Danish, 7 Finnish, 8 Swedish, 9 Dutch, 10 Spanish, 11 Norwegian, 12 Portuguese, 14 Hungarian, 15 Czech, 16 Greek,
+ * 17 Russian, 20 Italian, 21 Polish. */
 uint32_t LectionsGetLanguage(void);
 
 /* Nonzero when chapters and verses are numbered as in the language's own Bibles, else 0. Like the language it is no

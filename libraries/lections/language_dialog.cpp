@@ -52,13 +52,6 @@ std::wstring NameOf(const Language& language) {
   return dialogs::FromUtf8(name);
 }
 
-// Lines as edit controls end them.
-std::wstring EditText(const std::string& utf8) {
-  std::wstring text;
-  for (const wchar_t c : dialogs::FromUtf8(utf8)) text += c == L'\n' ? std::wstring(L"\r\n") : std::wstring(1, c);
-  return text;
-}
-
 struct FontDeleter {
   void operator()(HFONT font) const { DeleteObject(font); }
 };
@@ -155,6 +148,9 @@ void LanguageDialog::MakeReadingsFont() {
   dialogs::FromUtf8(kReadingsFace).copy(font.lfFaceName, LF_FACESIZE - 1);
   ReleaseDC(dialog_, screen);
   readingsFont_.reset(CreateFontIndirectW(&font));
+  for (const int week : {IDC_WEEK, IDC_WEEK_FROM_RIGHT}) {
+    SendMessageW(Control(week), WM_SETFONT, reinterpret_cast<WPARAM>(readingsFont_.get()), FALSE);
+  }
 }
 
 Settings LanguageDialog::Chosen() const {
@@ -178,17 +174,12 @@ void LanguageDialog::ShowNumbers(const Settings& settings) const {
   EnableWindow(Control(IDC_OWN_NUMBERS), bible != nullptr);
 }
 
-// Letters of the West are in the dialog's own font, as the program draws them in its own.
 void LanguageDialog::ShowSample(const Settings& settings) const {
-  const CodePage page = LanguageOf(settings.language).codePage;
-  const bool isFromRight = page == CodePage::kHebrew;
+  const bool isFromRight = LanguageOf(settings.language).codePage == CodePage::kHebrew;
   const HWND shown = Control(isFromRight ? IDC_WEEK_FROM_RIGHT : IDC_WEEK);
   const HWND hidden = Control(isFromRight ? IDC_WEEK : IDC_WEEK_FROM_RIGHT);
-  const HFONT ownFont = reinterpret_cast<HFONT>(SendMessageW(dialog_, WM_GETFONT, 0, 0));
-  const HFONT font = CharSetOf(page) == 0 ? ownFont : readingsFont_.get();
-  SendMessageW(shown, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-  SetWindowTextW(shown, EditText(SampleWeek(today_, settings, own_.get())).c_str());
-  InvalidateRect(shown, nullptr, TRUE);  // the lines of the font before were others
+  const std::string week = SampleWeek(today_, settings, own_.get());
+  SetWindowTextW(shown, dialogs::WithLineEnds(dialogs::FromUtf8(week)).c_str());
   ShowWindow(hidden, SW_HIDE);
   ShowWindow(shown, SW_SHOWNA);
 }
