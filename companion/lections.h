@@ -44,6 +44,10 @@ void LectionsGetReadingsBy(uint32_t choice, uint32_t day, uint32_t month, uint32
 /* The code of the language of the texts (1 English, 2 English in Ashkenazi spelling, 4 Hebrew). */
 uint32_t LectionsGetLanguage(void);
 
+/* Nonzero when chapters and verses are numbered as in the language's own Bibles, else 0. Like the language it is no
+ * part of a choice. The library may be older than this entry: look it up by name. */
+int32_t LectionsHasOwnNumbers(void);
+
 /* Nonzero when Yizkor is said on the Jewish date in the user's land. */
 int32_t LectionsIsYizkor(uint32_t day, uint32_t month, uint32_t year);
 
@@ -57,8 +61,8 @@ void LectionsGetYizkor(char* text);
 void LectionsGetFont2(LectionsFont* font);
 
 /* Modal dialogs: land, customs and what is shown; the language of the texts; the user's own texts. owner may be null.
- * Nonzero when OK has stored the settings or texts; 0 on Cancel, which changes nothing, when no own text was changed, and
- * when the user gives up on files that cannot be read, which a box says in place of the dialog. */
+ * Nonzero when OK has stored the settings or texts; 0 on Cancel, which changes nothing, when no own text was changed,
+ * and when the user gives up on files that cannot be read, which a box says in place of the dialog. */
 int32_t LectionsDoConfigureDialog(HWND owner);
 int32_t LectionsDoLanguageDialog(HWND owner);
 int32_t LectionsDoCustomReadingsDialog(HWND owner);

@@ -17,6 +17,8 @@ struct OptionalEntryPoints {
   decltype(&::LectionsGetChoice) LectionsGetChoice;
   decltype(&::LectionsGetReadingsBy) LectionsGetReadingsBy;
   decltype(&::LectionsIsYizkorBy) LectionsIsYizkorBy;
+
+  decltype(&::LectionsHasOwnNumbers) LectionsHasOwnNumbers;
   decltype(&::OwnHoursDoDialog) OwnHoursDoDialog;
   decltype(&::ProfileCanRead) ProfileCanRead;
   decltype(&::SolarDescribeZone) SolarDescribeZone;

@@ -9,6 +9,7 @@
 ReadingsForm ReadingsFormNow(uint32_t choice) {
   ReadingsForm form{};
   form.language = LectionsGetLanguage();
+  form.ownNumbers = OptionalEntries.LectionsHasOwnNumbers && OptionalEntries.LectionsHasOwnNumbers() != 0;
   LectionsGetFont2(&form.font);
   LectionsGetYizkor(form.yizkor);
   form.choice = choice;
@@ -28,7 +29,7 @@ ReadingsForm ReadingsFormOf(HWND document) {
 }
 
 bool IsSameForm(const ReadingsForm& left, const ReadingsForm& right) {
-  if (left.language != right.language) return false;
+  if (left.language != right.language || left.ownNumbers != right.ownNumbers) return false;
   if (left.font.UseDefaultFont != 0 && right.font.UseDefaultFont != 0) return true;
   return left.font.UseDefaultFont == right.font.UseDefaultFont && left.font.PointSize == right.font.PointSize &&
          left.font.CharSet == right.font.CharSet && std::strcmp(left.font.FaceName, right.font.FaceName) == 0;

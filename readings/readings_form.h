@@ -11,6 +11,7 @@
 
 struct ReadingsForm {
   uint32_t language;  // the library's code
+  bool ownNumbers;    // chapters and verses as in the language's own Bibles
   LectionsFont font;
   char yizkor[kTextSize];  // the word for it in the language
   // Land, customs and what is listed, as the library numbers them; 0 where it does not tell. They stay with the
@@ -27,5 +28,5 @@ uint32_t ReadingsChoiceNow();
 // Of a document without readings, an empty one in the program's own font.
 ReadingsForm ReadingsFormOf(HWND document);
 
-// Whether texts of one form can stand for those of the other: the same language in the same font.
+// Whether texts of one form can stand for those of the other: the same language and numbers in the same font.
 bool IsSameForm(const ReadingsForm& left, const ReadingsForm& right);

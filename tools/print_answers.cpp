@@ -10,6 +10,9 @@
 //                                       standard offset: the zone found, "-" for none, and whether both clocks agree
 //                                       on every noon of 2000 to 2030
 //   print_answers daf-yomi              11 September 1923 to 3000: "absolute-day tractate leaf"
+//   print_answers verse-numbers         for each line "language book-index chapter verse" of the input, in the Hebrew
+//                                       Bible's numbers, "chapter:verse chapter:verse": where the verse begins and ends
+//                                       in the language's own Bible
 //   print_answers clocks                for each line "zone seconds" of the input the offset from UTC, "-" for none
 #include <cstdio>
 #include <cstdlib>
@@ -22,6 +25,7 @@
 #include "libraries/folio/folio_core.h"
 #include "libraries/lections/language.h"
 #include "libraries/lections/reading_texts.h"
+#include "libraries/lections/verse_numbers.h"
 #include "libraries/persons/personal_date.h"
 #include "libraries/sun/clock_rules.h"
 #include "libraries/sun/clock_rules_table.h"
@@ -142,6 +146,27 @@ void PrintClocks() {
   }
 }
 
+std::string PlaceText(int chapter, int verse) {
+  return std::to_string(chapter) + ":" + std::to_string(verse);
+}
+
+void PrintVerseNumbers() {
+  uint32_t language = 0;
+  int book = 0;
+  int chapter = 0;
+  int verse = 0;
+  while (std::cin >> language >> book >> chapter >> verse) {
+    const auto chapterByte = static_cast<uint8_t>(chapter);
+    const auto verseByte = static_cast<uint8_t>(verse);
+    lections::Verses verses{static_cast<lections::Book>(book), chapterByte, verseByte, chapterByte, verseByte};
+    if (const lections::OwnBible* bible = lections::OwnBibleOf(language)) {
+      verses = lections::InNumbersOf(bible->versification, verses);
+    }
+    std::cout << PlaceText(verses.chapter, verses.verse) << ' ' << PlaceText(verses.lastChapter, verses.lastVerse)
+              << '\n';
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -158,12 +183,14 @@ int main(int argc, char** argv) {
     PrintZones();
   } else if (what == "daf-yomi") {
     PrintDafYomi();
+  } else if (what == "verse-numbers") {
+    PrintVerseNumbers();
   } else if (what == "clocks") {
     PrintClocks();
   } else {
     std::cerr
         << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | offsets | zones | daf-yomi | "
-           "clocks\n";
+           "verse-numbers | clocks\n";
     return 1;
   }
   return 0;

@@ -13,13 +13,11 @@
 #include "libraries/lections/own_readings_dialog.h"
 #include "libraries/lections/own_readings_file.h"
 #include "libraries/lections/reading_texts.h"
+#include "libraries/lections/readings_font.h"
 #include "libraries/lections/settings_store.h"
 
 namespace {
 
-// A font that every Windows has, with Hebrew in it.
-constexpr char kFaceName[] = "Times New Roman";
-constexpr uint32_t kPointSize = 12;
 constexpr size_t kYizkorBuffer = 256;
 constexpr uint32_t kStoredChoice = 0;  // no choice is 0
 
@@ -71,6 +69,10 @@ uint32_t LectionsGetLanguage(void) try { return lections::StoredSettings().langu
   return lections::Languages()[0]->code;
 }
 
+int32_t LectionsHasOwnNumbers(void) try { return lections::StoredSettings().ownNumbers; } catch (...) {
+  return 0;
+}
+
 int32_t LectionsIsYizkor(uint32_t day, uint32_t month, uint32_t year) {
   return LectionsIsYizkorBy(kStoredChoice, day, month, year);
 }
@@ -94,8 +96,8 @@ void LectionsGetFont2(LectionsFont* font) try {
   if (!font) return;
   *font = {};
   font->UseDefaultFont = 1;
-  std::memcpy(font->FaceName, kFaceName, sizeof kFaceName);
-  font->PointSize = kPointSize;
+  std::memcpy(font->FaceName, lections::kReadingsFace, sizeof lections::kReadingsFace);
+  font->PointSize = lections::kReadingsPoints;
   const lections::Language& language = lections::LanguageOf(lections::StoredSettings().language);
   font->CharSet = lections::CharSetOf(language.codePage);
   font->UseDefaultFont = font->CharSet == 0 ? 1 : 0;

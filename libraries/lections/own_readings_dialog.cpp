@@ -72,7 +72,7 @@ std::wstring InWords(const OwnPlace& place) {
   return FromUtf8(NameOf(place.when, kEnglish) + ", " + NameOf(place.slot) + " (" + ScopeText(place) + ")");
 }
 
-OwnReadingsDialog::OwnReadingsDialog(OwnFile stored, const Settings& settings, int32_t today)
+OwnReadingsDialog::OwnReadingsDialog(OwnFile&& stored, const Settings& settings, int32_t today)
     : editing_(std::move(stored.texts)),
       damagedLines_(stored.damagedLines.size()),
       settings_(settings),

@@ -23,7 +23,7 @@ bool DoOwnReadingsDialog(HWND owner);
 
 class OwnReadingsDialog {
  public:
-  OwnReadingsDialog(OwnFile stored, const Settings& settings, int32_t today);
+  OwnReadingsDialog(OwnFile&& stored, const Settings& settings, int32_t today);
 
   bool Run(HWND owner);
 

@@ -45,10 +45,10 @@ class OwnTextDialog {
   OwnPlace OfferedPlace() const;
   void ShowPlace(const OwnPlace& place) const;
   void ShowTextOfPlace();
+  void FindDays();
   void ShowConsequences();
   OwnTexts TextsWith(const OwnEntry& entry) const;
   OwnEntry Entered() const;
-  std::wstring ProgramsText(const OwnPlace& place) const;
 
   size_t Choice(int control) const {
     return static_cast<size_t>(SendDlgItemMessageW(dialog_, control, CB_GETCURSEL, 0, 0));
@@ -62,6 +62,8 @@ class OwnTextDialog {
   HWND dialog_ = nullptr;
   bool isTyped_ = false;  // since the text of the place was shown
   bool isFilling_ = false;
+  std::optional<calendar::Land> landOfDays_;
+  std::vector<int32_t> days_;
   std::optional<OwnEntry> accepted_;
 };
 
@@ -145,20 +147,23 @@ OwnTexts OwnTextDialog::TextsWith(const OwnEntry& entry) const {
   return texts;
 }
 
-std::wstring OwnTextDialog::ProgramsText(const OwnPlace& place) const {
-  const Settings settings = SettingsFor(place, question_.settings);
-  const std::vector<int32_t> days = NextDaysOf(place.when, settings.land, question_.today, 1);
-  return days.empty() ? std::wstring() : FromUtf8(TextInSlot(place.slot, days.front(), settings));
+// The dates that the preview shows: looking for rare ones takes too long to be done at every key.
+void OwnTextDialog::FindDays() {
+  const Settings settings = SettingsFor(Entered().place, question_.settings);
+  if (landOfDays_ == settings.land) return;
+  landOfDays_ = settings.land;
+  days_ = NextDaysOf(question_.when, settings.land, question_.today, kDatesShown);
 }
 
 void OwnTextDialog::ShowConsequences() {
+  FindDays();
   const OwnEntry entry = Entered();
   const Settings settings = SettingsFor(entry.place, question_.settings);
-  const std::vector<int32_t> days = NextDaysOf(entry.place.when, settings.land, question_.today, kDatesShown);
-  SetDlgItemTextW(dialog_, IDC_OWN_PROGRAMS_TEXT, ProgramsText(entry.place).c_str());
-  SetDlgItemTextW(dialog_, IDC_OWN_REMARK, FromUtf8(RemarkOn(entry)).c_str());
+  const std::string programs = days_.empty() ? "" : TextInSlot(entry.place.slot, days_.front(), settings);
   const std::string preview =
-      days.empty() ? NoDaysText(settings.land) : PreviewOf(days, settings, OwnReadings(TextsWith(entry)));
+      days_.empty() ? NoDaysText(settings.land) : PreviewOf(days_, settings, OwnReadings(TextsWith(entry)));
+  SetDlgItemTextW(dialog_, IDC_OWN_PROGRAMS_TEXT, FromUtf8(programs).c_str());
+  SetDlgItemTextW(dialog_, IDC_OWN_REMARK, FromUtf8(RemarkOn(entry)).c_str());
   SetDlgItemTextW(dialog_, IDC_OWN_NEXT_DATES, dialogs::WithLineEnds(FromUtf8(preview)).c_str());
 }
 

@@ -8,6 +8,7 @@
 #include "libraries/lections/numerals.h"
 #include "libraries/lections/own_readings.h"
 #include "libraries/lections/reading_names.h"
+#include "libraries/lections/verse_numbers.h"
 #include "libraries/lections/when.h"
 
 namespace lections {
@@ -103,7 +104,8 @@ class DayWriter {
   // What is read; a Torah reading without verses is its name.
   std::string PassageOf(const Line& line, bool isHaftarah) const {
     const bool isNameEnough = !settings_.verses && line.part == Part::kMain && !isHaftarah;
-    return isNameEnough ? "" : PassageText(line.passage, language_, settings_.verses);
+    if (isNameEnough) return {};
+    return PassageText(line.passage, language_, settings_.verses, settings_.ownNumbers);
   }
 
   // The lines of one part: one when all customs read the same, else one for each reading, named after every custom that
@@ -177,7 +179,8 @@ void AppendVerses(std::string& text, const Verses& verses, const Notation& notat
 
 }  // namespace
 
-std::string PassageText(const Passage& passage, const Language& language, bool verses) {
+std::string PassageText(const Passage& passage, const Language& language, bool verses, bool ownNumbers) {
+  const OwnBible* const bible = ownNumbers && verses ? OwnBibleOf(language.code) : nullptr;
   std::string text;
   const Verses* before = nullptr;
   for (const Verses& part : passage) {
@@ -188,7 +191,7 @@ std::string PassageText(const Passage& passage, const Language& language, bool v
     if (isNewBook) AppendItem(text, BookName(language, part.book), next);
     if (part.chapter == 0 || !verses) continue;
     text += isNewBook ? " " : next;
-    AppendVerses(text, part, language.notation);
+    AppendVerses(text, bible ? InNumbersOf(bible->versification, part) : part, language.notation);
   }
   return text;
 }

@@ -27,7 +27,8 @@ class OwnReadings;
 // own: the user's own texts, which take their places; null for none.
 ReadingTexts TextsOn(const calendar::Date& date, const Settings& settings, const OwnReadings* own = nullptr);
 
-// A passage in a language, in UTF-8: with chapters and verses, or its books alone.
-std::string PassageText(const Passage& passage, const Language& language, bool verses);
+// A passage in a language, in UTF-8: with chapters and verses, or its books alone. ownNumbers: chapters and verses as
+// the language's own Bibles number them.
+std::string PassageText(const Passage& passage, const Language& language, bool verses, bool ownNumbers = false);
 
 }  // namespace lections

@@ -25,6 +25,7 @@ constexpr Named<bool> kSwitches[] = {{"0", false}, {"1", true}};
 constexpr char kLand[] = "Land";
 constexpr char kCustom[] = "Custom";
 constexpr char kLanguage[] = "Language";
+constexpr char kOwnNumbers[] = "OwnNumbers";
 
 // A number made of settings: a mark, which tells one kind of packing from others, then the switches in the order of
 // kSwitchKeys, the customs and the land in the lowest bit. Whoever adds a setting takes another mark.
@@ -77,6 +78,7 @@ Settings SettingsFrom(const ReadKey& read, Land landOfRegion) {
   Take(read(kCustom), kCustoms, settings.customs);
   for (const Switch& choice : kSwitchKeys) Take(read(choice.key), kSwitches, choice.of(settings));
   settings.language = LanguageFrom(read(kLanguage));
+  Take(read(kOwnNumbers), kSwitches, settings.ownNumbers);
   return settings;
 }
 
@@ -102,7 +104,8 @@ Settings SettingsBy(uint32_t choice, const Settings& stored) {
 std::vector<KeyValue> ValuesOf(const Settings& settings) {
   std::vector<KeyValue> values = {{kLand, NameOf(settings.land, kLands)},
                                   {kCustom, NameOf(settings.customs, kCustoms)},
-                                  {kLanguage, std::to_string(settings.language)}};
+                                  {kLanguage, std::to_string(settings.language)},
+                                  {kOwnNumbers, NameOf(settings.ownNumbers, kSwitches)}};
   Settings copy = settings;
   for (const Switch& choice : kSwitchKeys) values.push_back({choice.key, NameOf(choice.of(copy), kSwitches)});
   return values;

@@ -21,7 +21,8 @@ struct Settings {
   bool verses = true;    // chapters and verses, or the books alone
   bool newMonth = true;  // announced on the Shabbat before
   Optional optional;
-  uint32_t language = 1;  // a code of language.h
+  uint32_t language = 1;    // a code of language.h
+  bool ownNumbers = false;  // chapters and verses as the language's own Bibles number them
 
   friend bool operator==(const Settings&, const Settings&) = default;
 };
@@ -35,11 +36,12 @@ using ReadKey = std::function<std::string(const char* key)>;
 // A key that is missing, or whose value means nothing, leaves its default; that of the land is the region's.
 Settings SettingsFrom(const ReadKey& read, calendar::Land landOfRegion);
 
-// The settings without the language in one number, never 0: the same number for the same settings, another for others.
+// The settings without the language and its numbers in one number, never 0: the same number for the same settings,
+// another for others.
 uint32_t ChoiceOf(const Settings& settings);
 
-// The settings that ChoiceOf made the number of, with the stored ones' language. A number that it never makes stands
-// for the stored settings.
+// The settings that ChoiceOf made the number of, with the stored ones' language and numbers. A number that it never
+// makes stands for the stored settings.
 Settings SettingsBy(uint32_t choice, const Settings& stored);
 
 struct KeyValue {

@@ -252,6 +252,16 @@ TEST_F(LectionsContract, AChoiceIsKeptWhileLandAndCustomsChange) {
   EXPECT_NE(LectionsIsYizkorBy(choice, 22, kNisan, 5785), 0);
 }
 
+TEST_F(LectionsContract, TellsWhetherVersesAreNumberedAsInTheLanguagesBibles) {
+  EXPECT_EQ(LectionsHasOwnNumbers(), 0);
+  const uint32_t choice = LectionsGetChoice();
+  Write("OwnNumbers", "1");
+  EXPECT_TRUE(Eventually([] { return LectionsHasOwnNumbers() != 0; }));
+  EXPECT_EQ(LectionsGetChoice(), choice);
+  constexpr uint32_t kKislev = 9;
+  EXPECT_STREQ(ReadBy(choice, 13, kKislev, 5785).torah1, "Vayishlach: Genesis 32:3-36:43");
+}
+
 TEST_F(LectionsContract, ChoiceIsAnsweredInTheLanguageStoredNow) {
   Write("Custom", "Ashkenazi");
   ASSERT_TRUE(Eventually([] { return std::strcmp(Read(15, kCheshvan, 5785).haftarah2, "") == 0; }));

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -14,11 +15,16 @@ namespace {
 
 constexpr wchar_t kConfigure[] = L"Readings";
 constexpr wchar_t kLanguage[] = L"Language of Readings";
+
+// In the list.
+constexpr LRESULT kEnglish = 0;
+constexpr LRESULT kHebrew = 2;
 constexpr char kAllStored[] =
-    "[Readings]\r\nLand=Israel\r\nCustom=Sephardi\r\nLanguage=2\r\nChabad=1\r\nVerses=0\r\nNewMonth=0\r\n"
+    "[Readings]\r\nLand=Israel\r\nCustom=Sephardi\r\nLanguage=2\r\nOwnNumbers=1\r\nChabad=1\r\nVerses=0\r\nNewMonth="
+    "0\r\n"
     "MondayThursday=1\r\nShabbatAfternoon=1\r\nTriennial=1\r\n";
 constexpr char kFirstStored[] =
-    "[Readings]\r\nLand=Diaspora\r\nCustom=Both\r\nLanguage=1\r\nChabad=0\r\nVerses=1\r\nNewMonth=1\r\n"
+    "[Readings]\r\nLand=Diaspora\r\nCustom=Both\r\nLanguage=1\r\nOwnNumbers=0\r\nChabad=0\r\nVerses=1\r\nNewMonth=1\r\n"
     "MondayThursday=0\r\nShabbatAfternoon=0\r\nTriennial=0\r\n";
 
 class LectionsDialog : public testing::Test {
@@ -63,6 +69,24 @@ class LanguageDialog : public DialogDriver {
     return languages;
   }
   LRESULT Selected() const { return SendMessageW(List(), LB_GETCURSEL, 0, 0); }
+
+  // As the user does: LB_SETCURSEL alone tells the dialog nothing.
+  void Select(LRESULT index) const {
+    SendMessageW(List(), LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    SendMessageW(window_, WM_COMMAND, MAKEWPARAM(IDC_LANGUAGES, LBN_SELCHANGE), reinterpret_cast<LPARAM>(List()));
+  }
+
+  // The one edit control of the two that is to be seen.
+  HWND Sample() const {
+    const HWND left = GetDlgItem(window_, IDC_WEEK);
+    const HWND right = GetDlgItem(window_, IDC_WEEK_FROM_RIGHT);
+    EXPECT_NE(IsWindowVisible(left), IsWindowVisible(right));
+    return IsWindowVisible(left) ? left : right;
+  }
+  std::wstring SampleText() const { return WindowText(Sample()); }
+  HWND OwnNumbers() const { return GetDlgItem(window_, IDC_OWN_NUMBERS); }
+  bool IsOwnNumbers() const { return SendMessageW(OwnNumbers(), BM_GETCHECK, 0, 0) == BST_CHECKED; }
+  std::wstring WhoseNumbers() const { return ControlText(window_, IDC_WHOSE_NUMBERS); }
 
  private:
   HWND window_;
@@ -119,6 +143,7 @@ TEST_F(LectionsDialog, OkStoresEverythingAndItCountsAtOnce) {
   EXPECT_STREQ(readings.torah2, "Afternoon, Chayei Sarah: Genesis");
   std::string expected = kAllStored;
   expected.replace(expected.find("Language=2"), 10, "Language=1");
+  expected.replace(expected.find("OwnNumbers=1"), 12, "OwnNumbers=0");
   EXPECT_EQ(home_.Bytes("lections.ini"), expected);
 }
 
@@ -175,7 +200,11 @@ TEST_F(LectionsDialog, FailingWriteIsToldAndTheDialogStays) {
 TEST_F(LectionsDialog, LanguagesAreListedAndTheStoredOneIsSelected) {
   home_.Put("lections.ini", "[Readings]\r\nLanguage=4\r\n");
   LanguageDialog dialog;
-  EXPECT_EQ(dialog.Languages(), (std::vector<std::wstring>{L"English", L"English, Ashkenazi spelling", L"Hebrew"}));
+  const std::vector<std::wstring> languages = dialog.Languages();
+  ASSERT_GE(languages.size(), 3u);
+  EXPECT_EQ(languages[0], L"English");
+  EXPECT_EQ(languages[1], L"English, Ashkenazi spelling");
+  EXPECT_EQ(languages[2], L"Hebrew (\u05E2\u05D1\u05E8\u05D9\u05EA)");
   EXPECT_EQ(dialog.Selected(), 2);
   EXPECT_TRUE(dialog.WaitForFocus(dialog.List()));
   Press(dialog.Window(), IDCANCEL);
@@ -187,7 +216,7 @@ TEST_F(LectionsDialog, ChosenLanguageIsStoredAndCountsAtOnce) {
   home_.Put("lections.ini", kAllStored);
   LanguageDialog dialog;
   ASSERT_TRUE(dialog.WaitForFocus(dialog.List()));
-  PressKey(dialog.List(), VK_END);
+  PressKey(dialog.List(), VK_DOWN);
   EXPECT_TRUE(Eventually([&] { return dialog.Selected() == 2; }));
   PressKey(dialog.List(), VK_RETURN);
   EXPECT_NE(dialog.Result(), 0);
@@ -195,6 +224,100 @@ TEST_F(LectionsDialog, ChosenLanguageIsStoredAndCountsAtOnce) {
   std::string expected = kAllStored;
   expected.replace(expected.find("Language=2"), 10, "Language=4");
   EXPECT_EQ(home_.Bytes("lections.ini"), expected);
+}
+
+// Every week has a weekly portion or a festival, whatever today is.
+TEST_F(LectionsDialog, TheSampleIsInTheLanguageThatIsSelected) {
+  home_.Put("lections.ini", "[Readings]\r\nLanguage=1\r\nLand=Israel\r\n");
+  LanguageDialog dialog;
+  const std::wstring english = dialog.SampleText();
+  EXPECT_NE(english.find(L"\r\n"), std::wstring::npos);
+  EXPECT_EQ(english.find_first_not_of(L"0123456789."), english.find(L"\r\n")) << "a date first";
+  EXPECT_EQ(GetWindowLongPtrW(dialog.Sample(), GWL_STYLE) & ES_RIGHT, 0);
+  dialog.Select(kHebrew);
+  const std::wstring hebrew = dialog.SampleText();
+  EXPECT_EQ(hebrew.substr(0, 10), english.substr(0, 10));
+  EXPECT_NE(hebrew.find_first_of(L"\u05D0\u05D1\u05D2\u05D3\u05D4\u05D5"), std::wstring::npos);
+  EXPECT_EQ(hebrew.find_first_of(L"?\uFFFD"), std::wstring::npos);
+  EXPECT_EQ(hebrew.find_first_of(L"abcdefghijklmnopqrstuvwxyz"), std::wstring::npos);
+  EXPECT_NE(GetWindowLongPtrW(dialog.Sample(), GWL_STYLE) & ES_RIGHT, 0);
+  EXPECT_NE(GetWindowLongPtrW(dialog.Sample(), GWL_EXSTYLE) & WS_EX_RTLREADING, 0);
+  dialog.Select(kEnglish);
+  EXPECT_EQ(dialog.SampleText(), english);
+  Press(dialog.Window(), IDCANCEL);
+  EXPECT_EQ(dialog.Result(), 0);
+}
+
+TEST_F(LectionsDialog, NoSampleHasAnEmptyOrADamagedText) {
+  LanguageDialog dialog;
+  const std::vector<std::wstring> languages = dialog.Languages();
+  for (size_t i = 0; i < languages.size(); ++i) {
+    dialog.Select(static_cast<LRESULT>(i));
+    const std::wstring sample = dialog.SampleText();
+    EXPECT_GT(std::ranges::count(sample, L'\n'), 1) << languages[i].c_str();
+    EXPECT_EQ(sample.find_first_of(L"?\uFFFD"), std::wstring::npos) << languages[i].c_str();
+    const bool isGreek = languages[i].starts_with(L"Greek");
+    EXPECT_EQ(sample.find(L'\u03C2') != std::wstring::npos || sample.find(L'\u03B1') != std::wstring::npos, isGreek);
+  }
+  Press(dialog.Window(), IDCANCEL);
+  EXPECT_EQ(dialog.Result(), 0);
+}
+
+TEST_F(LectionsDialog, TheSampleIsReadByTabAndScrolledByKeys) {
+  LanguageDialog dialog;
+  ASSERT_TRUE(dialog.WaitForFocus(dialog.List()));
+  PressKey(dialog.List(), VK_TAB);
+  EXPECT_TRUE(dialog.WaitForFocus(dialog.Sample()));
+  PressKey(dialog.Sample(), VK_TAB);
+  EXPECT_TRUE(dialog.WaitForFocus(dialog.OwnNumbers()));
+  PressKey(dialog.OwnNumbers(), VK_ESCAPE);
+  EXPECT_EQ(dialog.Result(), 0);
+}
+
+TEST_F(LectionsDialog, TheNumbersOfTheLanguagesBiblesAreStored) {
+  home_.Put("lections.ini", kFirstStored);
+  LanguageDialog dialog;
+  EXPECT_FALSE(dialog.IsOwnNumbers());
+  EXPECT_EQ(dialog.WhoseNumbers(), L"As in the King James Version.");
+  SendMessageW(dialog.OwnNumbers(), BM_CLICK, 0, 0);
+  EXPECT_TRUE(dialog.IsOwnNumbers());
+  Press(dialog.Window(), IDOK);
+  EXPECT_NE(dialog.Result(), 0);
+  std::string expected = kFirstStored;
+  expected.replace(expected.find("OwnNumbers=0"), 12, "OwnNumbers=1");
+  EXPECT_EQ(home_.Bytes("lections.ini"), expected);
+  LectionsReadings readings;  // Vayishlach, 14 December 2024: 32:4 in Hebrew
+  LectionsGetReadings(13, 9, 5785, &readings);
+  EXPECT_STREQ(readings.torah1, "Vayishlach: Genesis 32:3-36:43");
+}
+
+TEST_F(LectionsDialog, WhereTheBiblesNumberAsTheHebrewOneTheChoiceIsGreyAndKept) {
+  home_.Put("lections.ini", kAllStored);
+  LanguageDialog dialog;
+  EXPECT_TRUE(IsWindowEnabled(dialog.OwnNumbers()));
+  dialog.Select(kHebrew);
+  EXPECT_FALSE(IsWindowEnabled(dialog.OwnNumbers()));
+  EXPECT_EQ(dialog.WhoseNumbers(), L"Its Bibles number as the Hebrew one.");
+  EXPECT_TRUE(dialog.IsOwnNumbers());
+  dialog.Select(kEnglish);
+  EXPECT_TRUE(IsWindowEnabled(dialog.OwnNumbers()));
+  EXPECT_TRUE(dialog.IsOwnNumbers());
+  dialog.Select(kHebrew);
+  Press(dialog.Window(), IDOK);
+  EXPECT_NE(dialog.Result(), 0);
+  std::string expected = kAllStored;
+  expected.replace(expected.find("Language=2"), 10, "Language=4");
+  EXPECT_EQ(home_.Bytes("lections.ini"), expected);
+}
+
+TEST_F(LectionsDialog, CancelLeavesLanguageAndNumbers) {
+  home_.Put("lections.ini", kFirstStored);
+  LanguageDialog dialog;
+  SendMessageW(dialog.OwnNumbers(), BM_CLICK, 0, 0);
+  dialog.Select(kHebrew);
+  Press(dialog.Window(), IDCANCEL);
+  EXPECT_EQ(dialog.Result(), 0);
+  EXPECT_EQ(home_.Bytes("lections.ini"), kFirstStored);
 }
 
 TEST_F(LectionsDialog, FailingWriteOfTheLanguageIsTold) {

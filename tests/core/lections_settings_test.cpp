@@ -69,6 +69,21 @@ TEST(LectionsSettings, TheLanguageIsNoPartOfAChoiceAndStaysTheStoredOne) {
   }
 }
 
+TEST(LectionsSettings, TheNumbersOfTheLanguagesBiblesBelongToTheLanguage) {
+  EXPECT_FALSE(Settings().ownNumbers);
+  Settings own = EverySetting(kEnglishCode).back();
+  const Settings hebrew = own;
+  own.ownNumbers = true;
+  EXPECT_EQ(ChoiceOf(own), ChoiceOf(hebrew));
+  EXPECT_EQ(SettingsBy(ChoiceOf(hebrew), own), own);
+  const std::vector<KeyValue> values = ValuesOf(own);
+  const auto stored = std::ranges::find(values, "OwnNumbers"sv, &KeyValue::key);
+  ASSERT_NE(stored, values.end());
+  EXPECT_EQ(stored->value, "1");
+  const auto read = [](std::string_view key) { return key == "OwnNumbers" ? "1" : ""; };
+  EXPECT_TRUE(SettingsFrom(read, Land::kDiaspora).ownNumbers);
+}
+
 TEST(LectionsSettings, ANumberThatIsNoChoiceStandsForTheStoredSettings) {
   const std::vector<Settings> all = EverySetting(kHebrewCode);
   const Settings& stored = all[all.size() / 3];

@@ -8,8 +8,9 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kFiles[] = {
-    "shabbat2.ini", "shabloc2.ini", "shab30.ini",           "almanac13.ini", "solar.ini",   "stamp.ini",  "hours.txt",
-    "lections.ini", "candles.txt",  "almanacelevation.ini", "ownhours.txt",  "persons.txt", "kinship.ini"};
+    "shabbat2.ini", "shabloc2.ini", "shab30.ini",   "almanac13.ini", "solar.ini",
+    "stamp.ini",    "hours.txt",    "lections.ini", "candles.txt",   "almanacelevation.ini",
+    "ownhours.txt", "persons.txt",  "kinship.ini",  "readings.txt"};
 
 // Sound settings that another copy, or the user in an editor, might have stored.
 struct Sound {
@@ -29,6 +30,9 @@ constexpr Sound kSound[] = {
     {"lections.ini", ""},
     {"persons.txt", "yahrzeit|5710-12-16 jewish|both|Moshe||\r\nbirthday|2020-02-29 evening||Sarah||two%0Alines\r\n"},
     {"persons.txt", ""},
+    {"readings.txt",
+     "portion Noach | haftarah 1 | all | all | all | after | ; Morning: A\r\nportion Noah | nonsense\r\n"},
+    {"readings.txt", ""},
 };
 
 std::string Read(const fs::path& file) {

@@ -110,6 +110,18 @@ TEST_F(ReadingsFormTest, AnotherLanguageIsPaintedInItsOwnFont) {
   EXPECT_THAT(draws, Not(Contains(Field(&Draw::text, kEnglish))));
 }
 
+TEST_F(ReadingsFormTest, OtherNumbersOfVersesAloneAreAskedForToo) {
+  static int32_t hasOwnNumbers;
+  hasOwnNumbers = 0;
+  OptionalEntries.LectionsHasOwnNumbers = [] { return hasOwnNumbers; };
+  Compute();
+  EXPECT_THAT(DrawsOf(list_), Drawn(kEnglish, "Times New Roman 0"));
+  Libraries().readings = {{"6.1.5767", {"Vayechi 2", "", "", "Haftarah"}}};
+  EXPECT_THAT(DrawsOf(list_), Drawn(kEnglish, "Times New Roman 0"));
+  hasOwnNumbers = 1;
+  EXPECT_THAT(DrawsOf(list_), Drawn("Vayechi 2", "Times New Roman 0"));
+}
+
 TEST_F(ReadingsFormTest, AnotherFontAloneIsAskedForToo) {
   Libraries().readingsFont = {"Courier New", 20, 0};
   EXPECT_THAT(DrawsOf(list_), Drawn(kEnglish, "Courier New 0"));
