@@ -33,10 +33,9 @@ void ReadAll(const Dates& days) {
 
 // All days, so many at a time that the machine seldom does something else meanwhile.
 std::vector<Dates> AllDays() {
-  std::vector<Dates> all;
+  std::vector<Dates> all(kDays / kDaysAtATime);
   for (int32_t day = 0; day < kDays; ++day) {
-    if (day % kDaysAtATime == 0) all.emplace_back();
-    all.back().push_back(calendar::JewishFromAbsolute(kFirstDay + day));
+    all[static_cast<size_t>(day / kDaysAtATime)].push_back(calendar::JewishFromAbsolute(kFirstDay + day));
   }
   return all;
 }
