@@ -8,6 +8,7 @@
 #include "libraries/lections/language.h"
 #include "libraries/lections/own_readings.h"
 #include "libraries/lections/reading_texts.h"
+#include "libraries/lections/verse_numbers.h"
 #include "libraries/lections/when.h"
 
 namespace {
@@ -61,6 +62,12 @@ const bool areLanguagesRegistered = [] {
     const std::string name = std::string("readings of a day in ") + language->name;
     const uint32_t code = language->code;
     benchmark::RegisterBenchmark(name.c_str(), [code](benchmark::State& state) { Readings(state, MostIn(code)); });
+    if (!lections::OwnBibleOf(code)) continue;
+    benchmark::RegisterBenchmark((name + " by its own Bibles").c_str(), [code](benchmark::State& state) {
+      lections::Settings settings = MostIn(code);
+      settings.ownNumbers = true;
+      Readings(state, settings);
+    });
   }
   return true;
 }();

@@ -18,6 +18,7 @@
 #include "libraries/lections/encoded_text.h"
 #include "libraries/lections/language.h"
 #include "libraries/lections/numerals.h"
+#include "libraries/lections/verse_numbers.h"
 #include "readings/core/split_rules.h"
 #include "tests/core/lections_days.h"
 
@@ -167,9 +168,10 @@ Settings Everything(Land land, uint32_t language) {
 using OfDay = std::function<void(const calendar::Date& date, const ReadingTexts& texts)>;
 
 // Every day of a common and of a leap year, in both lands.
-void ForEveryDay(const Language& language, const OfDay& ofDay) {
+void ForEveryDay(const Language& language, const OfDay& ofDay, bool ownNumbers = false) {
   for (const Land land : {Land::kDiaspora, Land::kIsrael}) {
-    const Settings settings = Everything(land, language.code);
+    Settings settings = Everything(land, language.code);
+    settings.ownNumbers = ownNumbers;
     for (const int32_t year : {kCommonYear, kLeapYear}) {
       for (int32_t day = calendar::JewishNewYear(year); day < calendar::JewishNewYear(year + 1); ++day) {
         const calendar::Date date = calendar::JewishFromAbsolute(day);
@@ -186,13 +188,23 @@ std::vector<std::string> SlotsOf(const ReadingTexts& texts) {
 }
 
 // By day and slot.
-std::vector<std::vector<Stretches>> EverythingReadIn(const Language& language) {
+std::vector<std::vector<Stretches>> EverythingReadIn(const Language& language, bool ownNumbers = false) {
   TextReader reader(language);
   std::vector<std::vector<Stretches>> read;
-  ForEveryDay(language, [&](const calendar::Date&, const ReadingTexts& texts) {
+  const auto readSlots = [&](const calendar::Date&, const ReadingTexts& texts) {
     for (const std::string& slot : SlotsOf(texts)) read.push_back(reader.PassagesOf(slot));
-  });
+  };
+  ForEveryDay(language, readSlots, ownNumbers);
   return read;
+}
+
+// The books of all stretches, without their verses.
+std::vector<size_t> BooksOf(const std::vector<Stretches>& lines) {
+  std::vector<size_t> books;
+  for (const Stretches& line : lines) {
+    for (const Stretch& stretch : line) books.push_back(stretch.book);
+  }
+  return books;
 }
 
 TEST(LectionsLanguages, TheYearsComparedAreACommonAndALeapYear) {
@@ -233,6 +245,17 @@ TEST(LectionsLanguages, VersesAreTheSameInAllLanguages) {
     ASSERT_EQ(read.size(), english.size());
     const auto different = std::ranges::mismatch(english, read);
     EXPECT_EQ(different.in1 - english.begin(), static_cast<std::ptrdiff_t>(english.size())) << language->name;
+  }
+}
+
+// The numbers of the language's own Bibles change the verses, and not what is a stretch of which book.
+TEST(LectionsLanguages, NumbersOfOwnBiblesAreReadInOneWayToo) {
+  const std::vector<std::vector<Stretches>> english = EverythingReadIn(kEnglish);
+  for (const Language* language : Languages()) {
+    const std::vector<std::vector<Stretches>> read = EverythingReadIn(*language, true);
+    const auto different = std::ranges::mismatch(english, read, {}, BooksOf, BooksOf);
+    EXPECT_EQ(different.in1 - english.begin(), static_cast<std::ptrdiff_t>(english.size())) << language->name;
+    EXPECT_EQ(read != EverythingReadIn(*language), OwnBibleOf(language->code) != nullptr) << language->name;
   }
 }
 
@@ -347,7 +370,7 @@ TEST(LectionsLanguages, TheProgramDividesNoText) {
   SplitReadings(joined, kEnglish.code);
   ASSERT_STREQ(joined.torah2, "Morning: B");
   for (const Language* language : Languages()) {
-    ForEveryDay(*language, [&](const calendar::Date& date, const ReadingTexts& texts) {
+    const auto expectUndivided = [language](const calendar::Date& date, const ReadingTexts& texts) {
       const ReadingsEntry given = EntryOf(texts);
       for (const uint32_t code : {language->code, kEnglish.code}) {
         ReadingsEntry divided = given;
@@ -355,7 +378,8 @@ TEST(LectionsLanguages, TheProgramDividesNoText) {
         EXPECT_EQ(std::memcmp(&divided, &given, sizeof given), 0)
             << language->name << ' ' << date.day << '.' << date.month << '.' << date.year << ' ' << divided.torah1;
       }
-    });
+    };
+    for (const bool ownNumbers : {false, true}) ForEveryDay(*language, expectUndivided, ownNumbers);
   }
 }
 

@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 constexpr int kDays = 31;
 constexpr int kDaysOfAYear = 365;
-constexpr int kSomeWeeks = 10 * 7;
+constexpr int kSomeWeeks = 20 * 7;
 
 void Format24(int32_t hour, int32_t minute, char* text) {
   std::snprintf(text, 32, "%02d:%02d", hour, minute);
