@@ -48,8 +48,7 @@ std::string FaultText(const OwnEntry& entry, Fault fault) {
     case Fault::kNone: return {};
     case Fault::kMark:
       return "Braces { }, backslashes and tabs cannot stand in a reading: they are marks of RTF files. Please leave "
-             "them "
-             "out.";
+             "them out.";
     case Fault::kTooLong:
       return "The text has " + std::to_string(LengthOf(entry.text.text)) + " characters; the program has room for " +
              std::to_string(kLongestOwnText) + ". Please shorten it.";
@@ -100,9 +99,12 @@ OwnPlace OfferedPlaceOf(const When& when, const Settings& settings, int32_t toda
   const std::vector<int32_t> days = NextDaysOf(when, settings.land, today, 1);
   if (days.empty()) return place;
   const calendar::Date date = calendar::JewishFromAbsolute(days.front());
-  const auto texts = [&](Customs customs) { return TextsOn(date, ListingAlone(settings, customs)); };
-  const ReadingTexts ashkenazi = texts(Customs::kAshkenazi);
-  if (ashkenazi != texts(Customs::kSephardi) || ashkenazi != texts(Customs::kBoth)) place.listing = ListingOf(settings);
+  const ReadingTexts ashkenazi = TextsOn(date, ListingAlone(settings, Customs::kAshkenazi));
+  // The user's own settings may list Chabad's too.
+  for (const Settings& other :
+       {ListingAlone(settings, Customs::kSephardi), ListingAlone(settings, Customs::kBoth), settings}) {
+    if (TextsOn(date, other) != ashkenazi) place.listing = ListingOf(settings);
+  }
   return place;
 }
 
