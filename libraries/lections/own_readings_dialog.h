@@ -42,6 +42,7 @@ class OwnReadingsDialog {
 
   // Takes texts or search anew; when stays selected, where the list has it.
   void Refill(std::optional<When> when);
+  void Reveal(const When& when);
   void ShowReading();
   void ShowPreview() const;
   void UpdateButtons() const;

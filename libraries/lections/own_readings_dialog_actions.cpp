@@ -81,16 +81,20 @@ void OwnReadingsDialog::RestoreAll() {
   Refill(SelectedWhen());
 }
 
-// What comes back is shown, though a search may have hidden it.
 void OwnReadingsDialog::Undo() {
   const std::vector<OwnPlace> changed = editing_.Undo();
   if (changed.empty()) return;
   rows_.Renew(editing_.Now());
-  Refill(changed.front().when);
-  if (SelectedWhen() == changed.front().when) return;
+  Reveal(changed.front().when);
+}
+
+// Selects a reading, though a search may have hidden it.
+void OwnReadingsDialog::Reveal(const When& when) {
+  Refill(when);
+  if (SelectedWhen() == when) return;
   SendDlgItemMessageW(dialog_, IDC_OWN_KINDS, CB_SETCURSEL, 0, 0);
   SetDlgItemTextW(dialog_, IDC_OWN_TYPED, L"");
-  Refill(changed.front().when);
+  Refill(when);
 }
 
 void OwnReadingsDialog::OfferSingleDate() {
@@ -130,7 +134,7 @@ void OwnReadingsDialog::Import() {
   if (!dialogs::IsConfirmed(dialog_, question)) return;
   editing_.Make(changes);
   rows_.Renew(editing_.Now());
-  Refill(file.texts.begin()->first.when);
+  Reveal(file.texts.begin()->first.when);
 }
 
 void OwnReadingsDialog::Export() const {

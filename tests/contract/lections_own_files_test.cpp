@@ -91,8 +91,10 @@ TEST_F(OwnReadingsFilesTest, DamagedLinesAreToldAndStayByteForByte) {
   Put(damaged + kVayera);
   OwnReadingsRun run;
   EXPECT_THAT(run.Text(IDC_OWN_DAMAGED), HasSubstr(L"2 lines of the file could not be understood"));
-  run.AddHaftarah(L"Vayera", L"Changed");
-  EXPECT_TRUE(run.IsEnabled(IDC_OWN_UNDO));
+  run.ShowPortion(L"Vayera");
+  const HWND dialog = run.OpenText(IDC_OWN_CHANGE, L"Vayera");
+  SetControlText(dialog, IDC_OWN_TEXT, L"Changed");
+  run.CloseText(dialog, IDOK);
   EXPECT_NE(run.End(IDOK), 0);
   EXPECT_EQ(Stored(), damaged + "portion Vayera | haftarah 1 | all | all | all | instead | Changed\r\n");
 }
@@ -186,7 +188,7 @@ TEST_F(OwnReadingsFilesTest, AFileToImportThatAnotherProgramHoldsIsNamed) {
   EXPECT_EQ(run.End(IDOK), 0);
 }
 
-// Of 18 languages and all their letters, with every column in use.
+// Every column in use, letters of several code pages, marks of the file's own form.
 constexpr char kOfEveryKind[] =
     "portion Matot-Masei | torah 1 | all | all | all | after | ; Morning: A|B\r\n"
     "portion Vayera | haftarah 2 | diaspora | Sephardi | German | instead | K\xC3\xB6nige %25\r\n"
