@@ -57,8 +57,8 @@ void LectionsGetYizkor(char* text);
 void LectionsGetFont2(LectionsFont* font);
 
 /* Modal dialogs: land, customs and what is shown; the language of the texts; the user's own texts. owner may be null.
- * Nonzero when OK has stored the settings or texts; 0 on Cancel, which changes nothing, when no own text was changed, and
- * when the user gives up on files that cannot be read, which a box says in place of the dialog. */
+ * Nonzero when OK has stored the settings or texts; 0 on Cancel, which changes nothing, when no own text was changed,
+ * and when the user gives up on files that cannot be read, which a box says in place of the dialog. */
 int32_t LectionsDoConfigureDialog(HWND owner);
 int32_t LectionsDoLanguageDialog(HWND owner);
 int32_t LectionsDoCustomReadingsDialog(HWND owner);

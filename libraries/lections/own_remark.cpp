@@ -14,6 +14,7 @@ namespace {
 
 constexpr size_t kColumnOfTextExport = 95;  // characters, beyond which the export of readings as text cuts
 constexpr size_t kLanguagesNamed = 4;
+constexpr size_t kLinesNamed = 5;
 
 size_t LengthOf(std::string_view utf8) {
   return static_cast<size_t>(std::ranges::count_if(utf8, [](char c) { return (c & 0xC0) != 0x80; }));
@@ -106,6 +107,12 @@ OwnPlace OfferedPlaceOf(const When& when, const Settings& settings, int32_t toda
     if (TextsOn(date, other) != ashkenazi) place.listing = ListingOf(settings);
   }
   return place;
+}
+
+std::string LinesText(const std::vector<int>& lines) {
+  std::string text = lines.size() == 1 ? "line " : "lines ";
+  for (size_t i = 0; i < lines.size() && i < kLinesNamed; ++i) text += (i == 0 ? "" : ", ") + std::to_string(lines[i]);
+  return lines.size() > kLinesNamed ? text + " and " + std::to_string(lines.size() - kLinesNamed) + " more" : text;
 }
 
 std::string NoDaysText(calendar::Land land) {

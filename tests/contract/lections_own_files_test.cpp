@@ -90,7 +90,8 @@ TEST_F(OwnReadingsFilesTest, DamagedLinesAreToldAndStayByteForByte) {
       "bytes\n";
   Put(damaged + kVayera);
   OwnReadingsRun run;
-  EXPECT_THAT(run.Text(IDC_OWN_DAMAGED), HasSubstr(L"2 lines of the file could not be understood"));
+  EXPECT_EQ(run.Text(IDC_OWN_DAMAGED),
+            L"Not understood in the file: lines 2, 3. They stay as they are, and count for nothing.");
   run.ShowPortion(L"Vayera");
   const HWND dialog = run.OpenText(IDC_OWN_CHANGE, L"Vayera");
   SetControlText(dialog, IDC_OWN_TEXT, L"Changed");

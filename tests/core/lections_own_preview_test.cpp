@@ -221,6 +221,13 @@ TEST(LectionsOwnRemark, ListsTheLanguagesThatLackLetters) {
             "text stays.");
 }
 
+TEST(LectionsOwnRemark, NamesTheFirstOfManyLines) {
+  EXPECT_EQ(LinesText({3}), "line 3");
+  EXPECT_EQ(LinesText({3, 7}), "lines 3, 7");
+  EXPECT_EQ(LinesText({1, 2, 3, 4, 5}), "lines 1, 2, 3, 4, 5");
+  EXPECT_EQ(LinesText({1, 2, 3, 4, 5, 6, 8}), "lines 1, 2, 3, 4, 5 and 2 more");
+}
+
 TEST(LectionsOwnRemark, BlanksAroundATextGo) {
   EXPECT_EQ(WithoutBlanksAround("  a b "), "a b");
   EXPECT_EQ(WithoutBlanksAround("a"), "a");
