@@ -100,6 +100,24 @@ TEST_F(OwnReadingsFilesTest, DamagedLinesAreToldAndStayByteForByte) {
   EXPECT_EQ(Stored(), damaged + "portion Vayera | haftarah 1 | all | all | all | instead | Changed\r\n");
 }
 
+// Days of years gone by never come again.
+TEST_F(OwnReadingsFilesTest, AThousandTextsOfPastDatesDoNotHoldUpTheDialog) {
+  std::string file;
+  for (int i = 0; i < 1000; ++i) {
+    file += "date " + std::to_string(1 + i % 29) + " Nisan " + std::to_string(5700 + i / 29) +
+            " | torah 1 | all | all | all | instead | Siyum\r\n";
+  }
+  Put(file);
+  const ULONGLONG start = GetTickCount64();
+  OwnReadingsRun run;
+  run.ShowKind(kWithOwnTextsKind);
+  EXPECT_EQ(OwnReadingsRun::Count(run.Readings()), 1000);
+  SendMessageW(run.OwnTexts(), WM_KEYDOWN, VK_DELETE, 1);
+  EXPECT_EQ(OwnReadingsRun::Count(run.Readings()), 999);
+  EXPECT_LT(GetTickCount64() - start, 5000u);
+  EXPECT_EQ(run.Discard(), 0);
+}
+
 TEST_F(OwnReadingsFilesTest, AFileThatCannotBeWrittenIsNamedAndTheDialogStays) {
   Put(kVayera);
   OwnReadingsRun run;
