@@ -54,7 +54,8 @@ void RowList::SetCount(int count) const {
 void RowList::SelectOnly(const std::vector<int>& rows) const {
   SelectNone();
   if (rows.empty()) return;
-  const bool areAll = static_cast<LRESULT>(rows.size()) == Send(LVM_GETITEMCOUNT, 0, 0);
+  // A list of which one row alone can be selected does not take all, though it be one.
+  const bool areAll = rows.size() > 1 && static_cast<LRESULT>(rows.size()) == Send(LVM_GETITEMCOUNT, 0, 0);
   const bool areMany = !areAll && rows.size() > 1;  // drawn once then
   if (areMany) Send(WM_SETREDRAW, FALSE, 0);
   for (const int row : areAll ? std::vector<int>{kAllRows} : rows) SetState(row, LVIS_SELECTED, LVIS_SELECTED);

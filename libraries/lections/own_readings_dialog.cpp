@@ -72,9 +72,9 @@ std::wstring InWords(const OwnPlace& place) {
   return FromUtf8(NameOf(place.when, kEnglish) + ", " + NameOf(place.slot) + " (" + ScopeText(place) + ")");
 }
 
-OwnReadingsDialog::OwnReadingsDialog(OwnFile&& stored, const Settings& settings, int32_t today)
-    : editing_(std::move(stored.texts)),
-      damagedLines_(stored.damagedLines.size()),
+OwnReadingsDialog::OwnReadingsDialog(const OwnFile& stored, const Settings& settings, int32_t today)
+    : editing_(stored.texts),
+      damagedLines_(stored.damagedLines),
       settings_(settings),
       today_(today),
       rows_(settings, today) {}
@@ -108,11 +108,11 @@ INT_PTR OwnReadingsDialog::OnInitDialog() {
     SendDlgItemMessageW(dialog_, IDC_OWN_KINDS, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(kind));
   }
   SendDlgItemMessageW(dialog_, IDC_OWN_KINDS, CB_SETCURSEL, 0, 0);
-  if (damagedLines_ != 0) {
-    const std::wstring lines = damagedLines_ == 1 ? L"1 line" : std::to_wstring(damagedLines_) + L" lines";
-    SetDlgItemTextW(
-        dialog_, IDC_OWN_DAMAGED,
-        (lines + L" of the file could not be understood. They stay as they are, and count for nothing.").c_str());
+  if (!damagedLines_.empty()) {
+    const wchar_t* fate = damagedLines_.size() == 1 ? L". It stays as it is, and counts for nothing."
+                                                    : L". They stay as they are, and count for nothing.";
+    const std::wstring told = L"Not understood in the file: " + FromUtf8(LinesText(damagedLines_));
+    SetDlgItemTextW(dialog_, IDC_OWN_DAMAGED, (told + fate).c_str());
   }
   rows_.Renew(editing_.Now());
   Refill(std::nullopt);
@@ -301,7 +301,7 @@ bool DoOwnReadingsDialog(HWND owner) {
   std::optional<OwnFile> stored;
   const auto read = [&stored] { return (stored = OwnFileNow()).has_value(); };
   if (!dialogs::IsKnownIni(owner, kSettingsFile) || !dialogs::IsKnown(owner, OwnReadingsPath(), read)) return false;
-  return OwnReadingsDialog(std::move(*stored), StoredSettingsNow(), Today()).Run(owner);
+  return OwnReadingsDialog(*stored, StoredSettingsNow(), Today()).Run(owner);
 }
 
 }  // namespace lections

@@ -23,7 +23,7 @@ bool DoOwnReadingsDialog(HWND owner);
 
 class OwnReadingsDialog {
  public:
-  OwnReadingsDialog(OwnFile&& stored, const Settings& settings, int32_t today);
+  OwnReadingsDialog(const OwnFile& stored, const Settings& settings, int32_t today);
 
   bool Run(HWND owner);
 
@@ -42,6 +42,7 @@ class OwnReadingsDialog {
 
   // Takes texts or search anew; when stays selected, where the list has it.
   void Refill(std::optional<When> when);
+  void Reveal(const When& when);
   void ShowReading();
   void ShowPreview() const;
   void UpdateButtons() const;
@@ -64,7 +65,7 @@ class OwnReadingsDialog {
   HWND Control(int id) const { return GetDlgItem(dialog_, id); }
 
   settings_folder::TableEditing<OwnPlace, OwnText> editing_;
-  const size_t damagedLines_;
+  const std::vector<int> damagedLines_;
   const Settings settings_;
   const int32_t today_;
   OwnRows rows_;

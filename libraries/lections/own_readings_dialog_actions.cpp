@@ -6,14 +6,16 @@
 #include "libraries/lections/lections_ids.h"
 #include "libraries/lections/own_readings_dialog.h"
 #include "libraries/lections/own_readings_file.h"
+#include "libraries/lections/own_remark.h"
 #include "libraries/lections/own_text_dialog.h"
 #include "libraries/lections/single_date_dialog.h"
 
 namespace lections {
 namespace {
 
+using dialogs::FromUtf8;
+
 constexpr wchar_t kFilter[] = L"Own texts of readings (*.txt)\0*.txt\0All files\0*.*\0";
-constexpr size_t kLinesNamed = 5;
 
 void ShowInformation(HWND dialog, const std::wstring& text) {
   MessageBoxW(dialog, text.c_str(), dialogs::TextOf(dialog).c_str(), MB_OK | MB_ICONINFORMATION);
@@ -21,15 +23,6 @@ void ShowInformation(HWND dialog, const std::wstring& text) {
 
 std::wstring Texts(size_t count) {
   return count == 1 ? L"1 text" : std::to_wstring(count) + L" texts";
-}
-
-// "line 3", "lines 3, 7 and 12"; the first of many.
-std::wstring Lines(const std::vector<int>& lines) {
-  std::wstring text = lines.size() == 1 ? L"line " : L"lines ";
-  for (size_t i = 0; i < lines.size() && i < kLinesNamed; ++i) {
-    text += (i == 0 ? L"" : L", ") + std::to_wstring(lines[i]);
-  }
-  return lines.size() > kLinesNamed ? text + L" and " + std::to_wstring(lines.size() - kLinesNamed) + L" more" : text;
 }
 
 }  // namespace
@@ -81,16 +74,20 @@ void OwnReadingsDialog::RestoreAll() {
   Refill(SelectedWhen());
 }
 
-// What comes back is shown, though a search may have hidden it.
 void OwnReadingsDialog::Undo() {
   const std::vector<OwnPlace> changed = editing_.Undo();
   if (changed.empty()) return;
   rows_.Renew(editing_.Now());
-  Refill(changed.front().when);
-  if (SelectedWhen() == changed.front().when) return;
+  Reveal(changed.front().when);
+}
+
+// Selects a reading, though a search may have hidden it.
+void OwnReadingsDialog::Reveal(const When& when) {
+  Refill(when);
+  if (SelectedWhen() == when) return;
   SendDlgItemMessageW(dialog_, IDC_OWN_KINDS, CB_SETCURSEL, 0, 0);
   SetDlgItemTextW(dialog_, IDC_OWN_TYPED, L"");
-  Refill(changed.front().when);
+  Refill(when);
 }
 
 void OwnReadingsDialog::OfferSingleDate() {
@@ -112,7 +109,8 @@ void OwnReadingsDialog::Import() {
   if (!text) return;
   const OwnFile file = OwnFileIn(*text);
   const std::wstring damaged =
-      file.damagedLines.empty() ? L"" : L"\n\nNot understood, and left out: " + Lines(file.damagedLines) + L".";
+      file.damagedLines.empty() ? L""
+                                : L"\n\nNot understood, and left out: " + FromUtf8(LinesText(file.damagedLines)) + L".";
   if (file.texts.empty()) {
     return dialogs::ShowError(
         dialog_, L"The file\n" + path + L"\nhas no texts of readings as this program exports them." + damaged);
@@ -130,7 +128,7 @@ void OwnReadingsDialog::Import() {
   if (!dialogs::IsConfirmed(dialog_, question)) return;
   editing_.Make(changes);
   rows_.Renew(editing_.Now());
-  Refill(file.texts.begin()->first.when);
+  Reveal(file.texts.begin()->first.when);
 }
 
 void OwnReadingsDialog::Export() const {

@@ -14,6 +14,7 @@ namespace {
 
 constexpr size_t kColumnOfTextExport = 95;  // characters, beyond which the export of readings as text cuts
 constexpr size_t kLanguagesNamed = 4;
+constexpr size_t kLinesNamed = 5;
 
 size_t LengthOf(std::string_view utf8) {
   return static_cast<size_t>(std::ranges::count_if(utf8, [](char c) { return (c & 0xC0) != 0x80; }));
@@ -48,8 +49,7 @@ std::string FaultText(const OwnEntry& entry, Fault fault) {
     case Fault::kNone: return {};
     case Fault::kMark:
       return "Braces { }, backslashes and tabs cannot stand in a reading: they are marks of RTF files. Please leave "
-             "them "
-             "out.";
+             "them out.";
     case Fault::kTooLong:
       return "The text has " + std::to_string(LengthOf(entry.text.text)) + " characters; the program has room for " +
              std::to_string(kLongestOwnText) + ". Please shorten it.";
@@ -100,10 +100,19 @@ OwnPlace OfferedPlaceOf(const When& when, const Settings& settings, int32_t toda
   const std::vector<int32_t> days = NextDaysOf(when, settings.land, today, 1);
   if (days.empty()) return place;
   const calendar::Date date = calendar::JewishFromAbsolute(days.front());
-  const auto texts = [&](Customs customs) { return TextsOn(date, ListingAlone(settings, customs)); };
-  const ReadingTexts ashkenazi = texts(Customs::kAshkenazi);
-  if (ashkenazi != texts(Customs::kSephardi) || ashkenazi != texts(Customs::kBoth)) place.listing = ListingOf(settings);
+  const ReadingTexts ashkenazi = TextsOn(date, ListingAlone(settings, Customs::kAshkenazi));
+  // The user's own settings may list Chabad's too.
+  for (const Settings& other :
+       {ListingAlone(settings, Customs::kSephardi), ListingAlone(settings, Customs::kBoth), settings}) {
+    if (TextsOn(date, other) != ashkenazi) place.listing = ListingOf(settings);
+  }
   return place;
+}
+
+std::string LinesText(const std::vector<int>& lines) {
+  std::string text = lines.size() == 1 ? "line " : "lines ";
+  for (size_t i = 0; i < lines.size() && i < kLinesNamed; ++i) text += (i == 0 ? "" : ", ") + std::to_string(lines[i]);
+  return lines.size() > kLinesNamed ? text + " and " + std::to_string(lines.size() - kLinesNamed) + " more" : text;
 }
 
 std::string NoDaysText(calendar::Land land) {

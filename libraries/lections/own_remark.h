@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "libraries/calendar/portion_schedule.h"
 #include "libraries/lections/own_text.h"
@@ -23,6 +24,9 @@ std::string TextInSlot(Slot slot, int32_t day, const Settings& settings);
 // Where a new text is offered to hold: the first text of the day, for all lands, customs and languages; for the customs
 // that are listed now only where the texts of the next such day depend on which are.
 OwnPlace OfferedPlaceOf(const When& when, const Settings& settings, int32_t today);
+
+// "line 3", "lines 3, 7", "lines 1, 2, 3, 4, 5 and 8 more".
+std::string LinesText(const std::vector<int>& lines);
 
 // In place of a preview.
 std::string NoDaysText(calendar::Land land);

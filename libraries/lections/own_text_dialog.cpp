@@ -49,6 +49,7 @@ class OwnTextDialog {
   void ShowConsequences();
   OwnTexts TextsWith(const OwnEntry& entry) const;
   OwnEntry Entered() const;
+  bool IsWritten() const { return Entered().text != shown_; }
 
   size_t Choice(int control) const {
     return static_cast<size_t>(SendDlgItemMessageW(dialog_, control, CB_GETCURSEL, 0, 0));
@@ -60,7 +61,7 @@ class OwnTextDialog {
 
   const OwnTextQuestion& question_;
   HWND dialog_ = nullptr;
-  bool isTyped_ = false;  // since the text of the place was shown
+  OwnText shown_;  // before the user wrote anything
   bool isFilling_ = false;
   std::optional<calendar::Land> landOfDays_;
   std::vector<int32_t> days_;
@@ -113,15 +114,14 @@ void OwnTextDialog::ShowPlace(const OwnPlace& place) const {
   Choose(IDC_OWN_LANGUAGE, row);
 }
 
-// What the place says already; what was typed is never replaced.
+// What the place says already.
 void OwnTextDialog::ShowTextOfPlace() {
-  if (isTyped_) return;
   const auto found = question_.texts.find(Entered().place);
-  const OwnText text = found == question_.texts.end() ? OwnText() : found->second;
+  shown_ = found == question_.texts.end() ? OwnText() : found->second;
   isFilling_ = true;
   CheckRadioButton(dialog_, IDC_OWN_INSTEAD, IDC_OWN_AFTER,
-                   text.how == How::kInstead ? IDC_OWN_INSTEAD : IDC_OWN_AFTER);
-  SetDlgItemTextW(dialog_, IDC_OWN_TEXT, FromUtf8(text.text).c_str());
+                   shown_.how == How::kInstead ? IDC_OWN_INSTEAD : IDC_OWN_AFTER);
+  SetDlgItemTextW(dialog_, IDC_OWN_TEXT, FromUtf8(shown_.text).c_str());
   isFilling_ = false;
 }
 
@@ -176,12 +176,12 @@ INT_PTR OwnTextDialog::OnCommand(int control, int notification) {
     case IDC_OWN_LISTING:
     case IDC_OWN_LANGUAGE:
       if (notification != CBN_SELCHANGE) return FALSE;
-      ShowTextOfPlace();
+      // What was written is never replaced, and a text that is being changed goes to its new place.
+      if (!question_.old && !IsWritten()) ShowTextOfPlace();
       ShowConsequences();
       return TRUE;
     case IDC_OWN_TEXT:
       if (notification != EN_CHANGE || isFilling_) return FALSE;
-      isTyped_ = true;
       ShowConsequences();
       return TRUE;
     case IDC_OWN_INSTEAD:
@@ -197,7 +197,7 @@ void OwnTextDialog::OnAccept() {
   }
   const bool isMoved = !question_.old || *question_.old != entry.place;
   const bool isTaken = isMoved && question_.texts.contains(entry.place);
-  if (isTaken && isTyped_ &&
+  if (isTaken && (question_.old || IsWritten()) &&
       !dialogs::IsConfirmed(dialog_, L"There is a text of yours at this place already:\n\n" +
                                          FromUtf8(question_.texts.at(entry.place).text) +
                                          L"\n\nShall this one replace it?")) {

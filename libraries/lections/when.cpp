@@ -37,11 +37,11 @@ bool CanHave(int32_t month, int32_t day) {
   return day >= 1 && day <= kLongestMonth - (std::ranges::count(kShortMonths, month) != 0 ? 1 : 0);
 }
 
-bool IsInYear(const When& date) {
-  const bool isLeap = IsJewishLeapYear(date.more);
-  const int32_t adar = isLeap ? kAdarII : kAdar;
-  if (date.what == kAdarIOfLeapYears) return isLeap && date.number <= DaysInJewishMonth(kAdar, date.more);
-  return date.number <= DaysInJewishMonth(date.what == kAdar ? adar : date.what, date.more);
+bool IsInYear(const When& when) {
+  const bool isLeap = IsJewishLeapYear(when.more);
+  if (when.what == kAdarIOfLeapYears && !isLeap) return false;
+  const Date date = DateOfOneYear(when);
+  return date.day <= DaysInJewishMonth(date.month, date.year);
 }
 
 // A day of a festival on a Shabbat is told from the same on a weekday; that a Shabbat it is, is no occasion beside it.
@@ -106,6 +106,11 @@ When WhenOfDate(int32_t day, int32_t month, int32_t year) {
 
 bool IsOfOneYear(const When& when) {
   return when.kind == WhenKind::kDate && when.more != 0;
+}
+
+Date DateOfOneYear(const When& when) {
+  if (when.what == kAdarIOfLeapYears) return {when.number, kAdar, when.more};
+  return {when.number, when.what == kAdar && IsJewishLeapYear(when.more) ? kAdarII : when.what, when.more};
 }
 
 Whens WhensOn(const Date& date, const DayReadings& readings) {

@@ -35,6 +35,7 @@ When WhenOfDate(int32_t day, int32_t month, int32_t year = 0);
 
 // Whether it is a date in a year that has it: such dates are not among EveryWhen().
 bool IsOfOneYear(const When& when);
+calendar::Date DateOfOneYear(const When& when);
 
 // The kinds of days that a day is, from the most general to the most particular: its portion, its occasions, the last
 // first, the date of every year, the date of its year. readings: that of the date.

@@ -117,4 +117,18 @@ TEST(LectionsWhen, TheNextDaysAreThoseOfTheLand) {
   EXPECT_EQ(next("occasion Purim", Land::kDiaspora, 3), (Dates{{23, 3, 2027}, {12, 3, 2028}, {1, 3, 2029}}));
 }
 
+// Every date of two years, a leap year and a plain one, is the day that its own name says.
+TEST(LectionsWhen, ADateOfOneYearComesOnItsDayAlone) {
+  for (const int32_t year : {5787, 5788}) {
+    for (int32_t day = calendar::JewishNewYear(year); day < calendar::JewishNewYear(year + 1); ++day) {
+      const Whens whens = WhensOn(calendar::JewishFromAbsolute(day), {});
+      const When& once = whens[whens.size() - 1];
+      ASSERT_TRUE(IsOfOneYear(once));
+      EXPECT_EQ(NextDaysOf(once, Land::kDiaspora, day, 3), std::vector<int32_t>{day}) << KeyOf(once);
+      EXPECT_TRUE(NextDaysOf(once, Land::kDiaspora, day + 1, 3).empty()) << KeyOf(once);
+      EXPECT_EQ(WhenIn(KeyOf(once)), once);
+    }
+  }
+}
+
 }  // namespace
