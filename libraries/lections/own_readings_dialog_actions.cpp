@@ -103,7 +103,7 @@ void OwnReadingsDialog::OfferSingleDate() {
 
 // The file's texts replace those for the same places; one step for Undo.
 void OwnReadingsDialog::Import() {
-  const std::wstring path = dialogs::AskForFileToRead(dialog_, {L"Import Own Readings", kFilter, nullptr});
+  const std::wstring path = dialogs::AskForFileToRead(dialog_, {L"Import Custom Readings", kFilter, nullptr});
   if (path.empty()) return;
   const auto text = dialogs::TextOfFileOrTell(dialog_, path, L"a file of readings");
   if (!text) return;
@@ -133,7 +133,7 @@ void OwnReadingsDialog::Import() {
 
 void OwnReadingsDialog::Export() const {
   const std::wstring path =
-      dialogs::AskForFileToWrite(dialog_, {L"Export Own Readings", kFilter, L"txt"}, L"Own readings.txt");
+      dialogs::AskForFileToWrite(dialog_, {L"Export Custom Readings", kFilter, L"txt"}, L"Custom readings.txt");
   if (path.empty()) return;
   if (dialogs::IsSamePath(path, OwnReadingsPath())) {
     return dialogs::ShowError(dialog_, L"The file\n" + path +

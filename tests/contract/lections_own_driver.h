@@ -16,7 +16,7 @@
 #include "tests/contract/region.h"
 #include "tests/contract/settings_home.h"
 
-inline constexpr wchar_t kOwnTitle[] = L"Own Readings";
+inline constexpr wchar_t kOwnTitle[] = L"Custom Readings";
 inline constexpr char kOwnFile[] = "readings.txt";
 
 // Rows of the drop-down lists.

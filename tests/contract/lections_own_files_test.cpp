@@ -27,7 +27,7 @@ class OwnReadingsFilesTest : public OwnReadingsDialogTest {
   }
   void Import(const OwnReadingsRun& run, const std::string& text) const {
     home_.Put("taken.txt", text);
-    ChooseFile(run, IDC_OWN_IMPORT, L"Import Own Readings", home_.Path("taken.txt"));
+    ChooseFile(run, IDC_OWN_IMPORT, L"Import Custom Readings", home_.Path("taken.txt"));
   }
   // What is asked before a file's texts are taken over.
   std::wstring Imported(const OwnReadingsRun& run, const std::string& text, int answer) const {
@@ -35,7 +35,7 @@ class OwnReadingsFilesTest : public OwnReadingsDialogTest {
     return run.Answer(kOwnTitle, run.Window(), IDI_QUESTION, answer);
   }
   std::string Exported(const OwnReadingsRun& run, const wchar_t* name) const {
-    ChooseFile(run, IDC_OWN_EXPORT, L"Export Own Readings", home_.Folder() / name);
+    ChooseFile(run, IDC_OWN_EXPORT, L"Export Custom Readings", home_.Folder() / name);
     EXPECT_THAT(run.Answer(kOwnTitle, run.Window(), IDI_ASTERISK, IDOK), HasSubstr(name));
     return home_.Bytes(std::filesystem::path(name).string().c_str());
   }
@@ -202,7 +202,7 @@ TEST_F(OwnReadingsFilesTest, AFileToImportThatAnotherProgramHoldsIsNamed) {
   OwnReadingsRun run;
   home_.Put("taken.txt", kVayera);
   const HeldFile held(home_.Path("taken.txt"));
-  ChooseFile(run, IDC_OWN_IMPORT, L"Import Own Readings", home_.Path("taken.txt"));
+  ChooseFile(run, IDC_OWN_IMPORT, L"Import Custom Readings", home_.Path("taken.txt"));
   EXPECT_THAT(run.Answer(L"Error", run.Window(), IDI_HAND, IDOK), HasSubstr(L"taken.txt"));
   EXPECT_EQ(run.End(IDOK), 0);
 }
@@ -237,12 +237,12 @@ TEST_F(OwnReadingsFilesTest, TheProgramsOwnFileIsNotExportedTo) {
   Put(kOurs);
   OwnReadingsRun run;
   Press(run.Window(), IDC_OWN_EXPORT);
-  const HWND dialog = run.WaitFor(L"Export Own Readings");
+  const HWND dialog = run.WaitFor(L"Export Custom Readings");
   SetControlText(dialog, kFileName, home_.Path(kOwnFile).wstring());
   Press(dialog, IDOK);
-  const HWND question = WaitForDialog(L"Export Own Readings");  // whether to replace what is there
+  const HWND question = WaitForDialog(L"Export Custom Readings");  // whether to replace what is there
   EXPECT_TRUE(Eventually([&] {
-    PostMessageW(FindWindowW(L"#32770", L"Export Own Readings"), WM_COMMAND, IDYES, 0);
+    PostMessageW(FindWindowW(L"#32770", L"Export Custom Readings"), WM_COMMAND, IDYES, 0);
     return DialogWithCaption(L"Error") != nullptr;
   }));
   EXPECT_NE(question, nullptr);

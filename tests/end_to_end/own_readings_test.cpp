@@ -58,7 +58,7 @@ class OwnReadingsEndToEndTest : public testing::Test {
   // Writes a text for Vayechi in place of the program's first.
   void WriteOwnText(const std::string& text) const {
     run_->PostCommand(kOwnReadings);
-    const HWND dialog = run_->WaitForDialog("Own Readings");
+    const HWND dialog = run_->WaitForDialog("Custom Readings");
     SendDlgItemMessageA(dialog, kKinds, CB_SETCURSEL, kPortions, 0);
     SetText(dialog, kTyped, "Vayechi");
     Answer(dialog, kAdd);
@@ -106,7 +106,7 @@ TEST_F(OwnReadingsEndToEndTest, CancelOpensNoDocument) {
   Set("1");
   Start();
   run_->PostCommand(kOwnReadings);
-  const HWND dialog = run_->WaitForDialog("Own Readings");
+  const HWND dialog = run_->WaitForDialog("Custom Readings");
   Answer(dialog, IDCANCEL);
   EXPECT_TRUE(run_->Eventually([&] { return !IsWindow(dialog); }));
   EXPECT_EQ(run_->WaitForDocuments(2).size(), 2u);
