@@ -20,9 +20,11 @@ struct SavedFile {
 // Writes changes, which map keys to what they are to say. Where another program has changed the same entries meanwhile,
 // the user decides; where the file cannot be written, the user is told. Whether they are written: if not, the dialog
 // stays.
-// write: bool(changes, replaceOthers, std::vector<Key>* conflicts). inWords: a key in words.
-template <typename Changes, typename Write, typename InWords>
-bool SaveOrTell(HWND dialog, Changes changes, const Write& write, const InWords& inWords, const SavedFile& file) {
+// write: bool(changes, replaceOthers, std::vector<Key>* conflicts). inWords: a key in words. drop: void(changes,
+// conflicts) takes the changes out that are not to be made, with those that mean nothing without them.
+template <typename Changes, typename Write, typename InWords, typename Drop>
+bool SaveOrTell(HWND dialog, Changes changes, const Write& write, const InWords& inWords, const SavedFile& file,
+                const Drop& drop) {
   const std::wstring what = file.what;
   bool replaceOthers = false;
   for (;;) {
@@ -35,8 +37,7 @@ bool SaveOrTell(HWND dialog, Changes changes, const Write& write, const InWords&
                              L"\n\nShall yours replace them? With No, those stay and your other changes are saved.");
     if (!decision) return false;
     replaceOthers = *decision;
-    if (replaceOthers) continue;
-    for (const auto& key : conflicts) changes.erase(key);
+    if (!replaceOthers) drop(changes, conflicts);
   }
   ShowError(dialog, L"The " + what + L" could not be saved in the file\n" + file.path +
                         L"\n\nSee to it that it can be written (no other program holds it, it is not read-only, the "

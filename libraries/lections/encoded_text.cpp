@@ -138,7 +138,8 @@ uint32_t TakeCharacter(std::string_view& text) {
     length = 3;
   }
   text.remove_prefix(length);
-  return character;
+  constexpr uint32_t kLeast[] = {0, 0, 0x80, 0x800};  // by length: what is written longer than it need be is damaged
+  return character < kLeast[length] ? kNone : character;
 }
 
 // 0 for a character that the page does not have.

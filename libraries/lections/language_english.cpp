@@ -42,7 +42,7 @@ constexpr Language kEnglish = {
 };
 
 constexpr Language kAshkenaziEnglish = {
-    2, "English, Ashkenazi spelling", "", CodePage::kWestern, {},
+    2, "English (Ashkenazi spelling)", "", CodePage::kWestern, {},
     {"Bereishis", "Noach", "Lech Lecha", "Vayeira", "Chayei Sarah", "Toldos", "Vayeitzei", "Vayishlach", "Vayeishev",
      "Mikeitz", "Vayigash", "Vayechi",
      "Shemos", "Va'eira", "Bo", "Beshalach", "Yisro", "Mishpatim", "Terumah", "Tetzaveh", "Ki Sisa", "Vayakhel",

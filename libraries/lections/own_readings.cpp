@@ -55,11 +55,7 @@ void OwnReadings::Put(const Whens& whens, const Settings& settings, ReadingTexts
 
 std::vector<int32_t> NextDaysOf(const When& when, calendar::Land land, int32_t from, size_t count) {
   std::vector<int32_t> days;
-  if (IsOfOneYear(when)) {
-    const int32_t day = calendar::AbsoluteFromJewish(DateOfOneYear(when));
-    if (day >= from && day < from + kDaysAhead && count > 0) days.push_back(day);
-    return days;
-  }
+  if (IsOfOneYear(when)) return {calendar::AbsoluteFromJewish(DateOfOneYear(when))};
   for (int32_t day = from; day < from + kDaysAhead && days.size() < count; ++day) {
     const calendar::Date date = calendar::JewishFromAbsolute(day);
     if (date.year > calendar::kLastYear) break;

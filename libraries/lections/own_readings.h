@@ -36,7 +36,8 @@ class OwnReadings {
 constexpr int32_t kDaysAhead = 60 * 366;
 
 // The next dates on which a kind of days comes, from a day on (absolute, included), in a land: as many as are asked
-// for, fewer where the days come less often within kDaysAhead, or not at all.
+// for, fewer where the days come less often within kDaysAhead, or not at all. A date of one
+// year is its day, though it may have passed.
 std::vector<int32_t> NextDaysOf(const When& when, calendar::Land land, int32_t from, size_t count);
 
 }  // namespace lections

@@ -5,6 +5,7 @@
 
 #include <commctrl.h>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -69,8 +70,9 @@ class OwnReadingsDialog {
   const Settings settings_;
   const int32_t today_;
   OwnRows rows_;
-  std::vector<OwnPlace> places_;  // of the own texts that are listed
-  bool isFilling_ = false;        // what follows the selection is seen to afterwards
+  std::vector<OwnPlace> places_;            // of the own texts that are listed
+  std::map<OwnPlace, OwnPlace> movedFrom_;  // where texts that were given another place stood when the dialog opened
+  bool isFilling_ = false;                  // what follows the selection is seen to afterwards
   HWND dialog_ = nullptr;
   dialogs::RowList readings_;
   dialogs::RowList ownTexts_;

@@ -43,7 +43,11 @@ void OwnReadingsDialog::Write(const OwnPlace* old) {
   const std::optional<OwnEntry> entry = AskForOwnText(dialog_, {*when, editing_.Now(), settings_, old, today_});
   if (!entry) return;
   OwnChanges changes;
-  if (old && *old != entry->place) changes.emplace(*old, std::nullopt);
+  if (old && *old != entry->place) {
+    changes.emplace(*old, std::nullopt);
+    const auto earlier = movedFrom_.find(*old);
+    movedFrom_.insert_or_assign(entry->place, earlier == movedFrom_.end() ? *old : earlier->second);
+  }
   changes.insert_or_assign(entry->place, entry->text);
   editing_.Make(changes);
   rows_.Renew(editing_.Now());
@@ -152,7 +156,14 @@ void OwnReadingsDialog::Accept() {
   const auto write = [this](const OwnChanges& changes, bool replaceOthers, std::vector<OwnPlace>* conflicts) {
     return WriteOwnChanges(changes, editing_.Stored(), replaceOthers, conflicts);
   };
-  if (dialogs::SaveOrTell(dialog_, editing_.Unsaved(), write, InWords, {L"texts", OwnReadingsPath()})) {
+  // A text that may not go to its new place stays at its old one.
+  const auto drop = [this](OwnChanges& changes, const std::vector<OwnPlace>& conflicts) {
+    for (const OwnPlace& place : conflicts) {
+      changes.erase(place);
+      if (const auto old = movedFrom_.find(place); old != movedFrom_.end()) changes.erase(old->second);
+    }
+  };
+  if (dialogs::SaveOrTell(dialog_, editing_.Unsaved(), write, InWords, {L"texts", OwnReadingsPath()}, drop)) {
     EndDialog(dialog_, IDOK);
   }
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "libraries/calendar/jewish.h"
+#include "libraries/lections/divided_text.h"
 #include "libraries/lections/encoded_text.h"
 #include "libraries/lections/own_preview.h"
 #include "libraries/lections/own_readings.h"
@@ -15,10 +16,6 @@ namespace {
 constexpr size_t kColumnOfTextExport = 95;  // characters, beyond which the export of readings as text cuts
 constexpr size_t kLanguagesNamed = 4;
 constexpr size_t kLinesNamed = 5;
-
-size_t LengthOf(std::string_view utf8) {
-  return static_cast<size_t>(std::ranges::count_if(utf8, [](char c) { return (c & 0xC0) != 0x80; }));
-}
 
 // "English, German and 3 more"
 std::string Listed(const std::vector<const Language*>& languages) {
@@ -74,12 +71,19 @@ std::string WithoutBlanksAround(std::string_view text) {
   return std::string(text.substr(first, text.find_last_not_of(' ') + 1 - first));
 }
 
-std::string RemarkOn(const OwnEntry& entry) {
+size_t LengthOf(std::string_view utf8) {
+  return static_cast<size_t>(std::ranges::count_if(utf8, [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+std::string RemarkOn(const OwnEntry& entry, size_t before) {
   if (const Fault fault = FaultOf(entry.place, entry.text); fault != Fault::kNone) return FaultText(entry, fault);
   const std::string& text = entry.text.text;
   if (text.empty()) return entry.text.how == How::kInstead ? "Nothing will stand there." : "";
-  const size_t length = LengthOf(text);
-  std::string remark = std::to_string(length) + " of " + std::to_string(kLongestOwnText) + " characters.";
+  const size_t length = before + LengthOf(text);
+  std::string remark = std::to_string(length) + " of " + std::to_string(kLongestOwnText) + " characters" +
+                       (before == 0 ? "." : " with the program's.");
+  if (length > kLongestOwnText) remark += " The end will be cut.";
+  if (const std::string division = DivisionRemark(entry.place, text); !division.empty()) remark += " " + division;
   if (length > kColumnOfTextExport) {
     remark += " The export as text shows the first " + std::to_string(kColumnOfTextExport) + ".";
   }

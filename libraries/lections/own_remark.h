@@ -1,6 +1,7 @@
 // What the dialog says of a text as it is written. Texts are UTF-8.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -14,9 +15,12 @@ namespace lections {
 
 std::string WithoutBlanksAround(std::string_view text);
 
-// What is wrong with the text and how to go on; where nothing is, how long it is and where it does not hold or will be
-// cut.
-std::string RemarkOn(const OwnEntry& entry);
+// What is wrong with the text and how to go on; where nothing is, how long it is and where it does not hold, will be
+// divided or cut. before: how many characters of the program's it follows.
+std::string RemarkOn(const OwnEntry& entry, size_t before = 0);
+
+// How many characters a text has.
+size_t LengthOf(std::string_view utf8);
 
 // What the program itself puts into a slot on a day.
 std::string TextInSlot(Slot slot, int32_t day, const Settings& settings);

@@ -1,5 +1,6 @@
 #include "libraries/lections/own_text_dialog.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,7 @@ class OwnTextDialog {
   void ShowPlace(const OwnPlace& place) const;
   void ShowTextOfPlace();
   void FindDays();
+  size_t LengthBefore(const OwnEntry& entry, const Settings& settings) const;
   void ShowConsequences();
   OwnTexts TextsWith(const OwnEntry& entry) const;
   OwnEntry Entered() const;
@@ -155,6 +157,16 @@ void OwnTextDialog::FindDays() {
   days_ = NextDaysOf(question_.when, settings.land, question_.today, kDatesShown);
 }
 
+// How much of the program's the text follows, on the date on which that is the longest, with the blank between.
+size_t OwnTextDialog::LengthBefore(const OwnEntry& entry, const Settings& settings) const {
+  if (entry.text.how != How::kAfter) return 0;
+  size_t longest = 0;
+  for (const int32_t day : days_) {
+    longest = std::max(longest, LengthOf(TextInSlot(entry.place.slot, day, settings)));
+  }
+  return longest == 0 ? 0 : longest + 1;
+}
+
 void OwnTextDialog::ShowConsequences() {
   FindDays();
   const OwnEntry entry = Entered();
@@ -163,7 +175,7 @@ void OwnTextDialog::ShowConsequences() {
   const std::string preview =
       days_.empty() ? NoDaysText(settings.land) : PreviewOf(days_, settings, OwnReadings(TextsWith(entry)));
   SetDlgItemTextW(dialog_, IDC_OWN_PROGRAMS_TEXT, FromUtf8(programs).c_str());
-  SetDlgItemTextW(dialog_, IDC_OWN_REMARK, FromUtf8(RemarkOn(entry)).c_str());
+  SetDlgItemTextW(dialog_, IDC_OWN_REMARK, FromUtf8(RemarkOn(entry, LengthBefore(entry, settings))).c_str());
   SetDlgItemTextW(dialog_, IDC_OWN_NEXT_DATES, dialogs::WithLineEnds(FromUtf8(preview)).c_str());
 }
 

@@ -134,7 +134,8 @@ constexpr OwnBible kOwnBibles[] = {
     {9, "the Nieuwe Bijbelvertaling", kLuther},  // NBV21; the Statenvertaling numbers otherwise
     {10, "the Reina-Valera Bible", kKingJames},  // 1960
     {11, "the Norwegian Bible (2011)", kNorwegianBible},
-    {12, "the Almeida Bible", kKingJames},
+    // But for I Samuel 20:43, where no reading begins or ends; the older Revista e Corrigida divides Judges 5:31 too.
+    {12, "the Almeida Bible (Revista e Atualizada)", kKingJames},
     {14, "the Revised New Translation (RÚF)", kLuther},  // 2014; Károli's numbers otherwise
     {15, "the Czech Ecumenical Translation", kLuther},   // the Kralice Bible numbers otherwise
     {16, "the Greek Bible Society's Bible", kLuther},    // 1997, from the Hebrew, not the Septuagint

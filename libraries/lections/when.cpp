@@ -44,11 +44,18 @@ bool IsInYear(const When& when) {
   return date.day <= DaysInJewishMonth(date.month, date.year);
 }
 
+// What never falls on a weekday.
+constexpr Occasion kOfShabbat[] = {Occasion::kShabbatShuva,   Occasion::kShabbatShira,     Occasion::kShabbatShekalim,
+                                   Occasion::kShabbatZachor,  Occasion::kShabbatParah,     Occasion::kShabbatHaChodesh,
+                                   Occasion::kShabbatHaGadol, Occasion::kShabbatChazon,    Occasion::kShabbatNachamu,
+                                   Occasion::kMacharChodesh,  Occasion::kShabbatCholHaMoed};
+
 // A day of a festival on a Shabbat is told from the same on a weekday; that a Shabbat it is, is no occasion beside it.
 When WhenOf(const NumberedOccasion& occasion, bool isLeapYear, bool isShabbat) {
   const bool isMonth = occasion.occasion == Occasion::kRoshChodesh;
+  const bool isTold = isShabbat && std::ranges::find(kOfShabbat, occasion.occasion) == std::end(kOfShabbat);
   return {WhenKind::kOccasion, static_cast<int32_t>(occasion.occasion),
-          isMonth ? MonthForTexts(occasion.number, isLeapYear) : occasion.number, isShabbat ? 1 : 0};
+          isMonth ? MonthForTexts(occasion.number, isLeapYear) : occasion.number, isTold ? 1 : 0};
 }
 
 bool IsShabbat(const Date& date) {

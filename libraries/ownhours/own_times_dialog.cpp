@@ -293,7 +293,10 @@ void OwnTimesDialog::Accept() {
   const auto write = [this](const Changes& changes, bool replaceOthers, std::vector<Occasion>* conflicts) {
     return WriteChanges(changes, editing_.Stored(), replaceOthers, conflicts);
   };
-  if (dialogs::SaveOrTell(dialog_, editing_.Unsaved(), write, InWords, {L"times", StorePath()})) {
+  const auto drop = [](Changes& changes, const std::vector<Occasion>& conflicts) {
+    for (const Occasion& occasion : conflicts) changes.erase(occasion);
+  };
+  if (dialogs::SaveOrTell(dialog_, editing_.Unsaved(), write, InWords, {L"times", StorePath()}, drop)) {
     EndDialog(dialog_, IDOK);
   }
 }

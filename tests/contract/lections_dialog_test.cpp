@@ -203,7 +203,7 @@ TEST_F(LectionsDialog, LanguagesAreListedAndTheStoredOneIsSelected) {
   const std::vector<std::wstring> languages = dialog.Languages();
   ASSERT_GE(languages.size(), 3u);
   EXPECT_EQ(languages[0], L"English");
-  EXPECT_EQ(languages[1], L"English, Ashkenazi spelling");
+  EXPECT_EQ(languages[1], L"English (Ashkenazi spelling)");
   EXPECT_EQ(languages[2], L"Hebrew (\u05E2\u05D1\u05E8\u05D9\u05EA)");
   EXPECT_EQ(dialog.Selected(), 2);
   EXPECT_TRUE(dialog.WaitForFocus(dialog.List()));

@@ -71,6 +71,21 @@ TEST_F(OwnReadingsFilesTest, WhatBothChangedIsAskedAboutAndTheOthersMayStay) {
   EXPECT_EQ(LechLecha(), "Theirs");
 }
 
+TEST_F(OwnReadingsFilesTest, ATextThatMovedStaysWhereItWasWhenAnothersStaysAtItsNewPlace) {
+  const std::string mine = "portion Lech Lecha | haftarah 2 | all | all | all | instead | Mine\r\n";
+  Put(mine);
+  OwnReadingsRun run;
+  run.ShowPortion(L"Lech Lecha");
+  const HWND dialog = run.OpenText(IDC_OWN_CHANGE, L"Lech Lecha");
+  ChooseRow(dialog, IDC_OWN_SLOT, kHaftarah1Row);
+  run.CloseText(dialog, IDOK);
+  Put(mine + kTheirs);
+  Press(run.Window(), IDOK);
+  run.Answer(kOwnTitle, run.Window(), IDI_QUESTION, IDNO);
+  EXPECT_NE(run.Result(), 0);
+  EXPECT_EQ(Stored(), mine + kTheirs);
+}
+
 TEST_F(OwnReadingsFilesTest, WhatBothChangedIsReplacedWhenTheUserWantsIt) {
   OwnReadingsRun run;
   run.AddHaftarah(L"Lech Lecha", L"Ours");
@@ -213,7 +228,7 @@ constexpr char kOfEveryKind[] =
     "portion Vayera | haftarah 2 | diaspora | Sephardi | German | instead | K\xC3\xB6nige %25\r\n"
     "occasion Sukkot, day 1, Shabbat | extra | Israel | several | all | instead | %20x%20\r\n"
     "date 7 Adar | torah 3 | all | Ashkenazi | Hebrew | after | \xD7\xA0\xD7\x97\r\n"
-    "date 15 Av 5787 | haftarah 3 | all | all | English, Ashkenazi spelling | instead |\r\n";
+    "date 15 Av 5787 | haftarah 3 | all | all | English (Ashkenazi spelling) | instead |\r\n";
 
 TEST_F(OwnReadingsFilesTest, WhatIsExportedIsImportedElsewhereAlike) {
   std::string exported;
@@ -240,12 +255,11 @@ TEST_F(OwnReadingsFilesTest, TheProgramsOwnFileIsNotExportedTo) {
   const HWND dialog = run.WaitFor(L"Export Custom Readings");
   SetControlText(dialog, kFileName, home_.Path(kOwnFile).wstring());
   Press(dialog, IDOK);
-  const HWND question = WaitForDialog(L"Export Custom Readings");  // whether to replace what is there
+  // The system asks under the same title whether to replace what is there.
   EXPECT_TRUE(Eventually([&] {
     PostMessageW(FindWindowW(L"#32770", L"Export Custom Readings"), WM_COMMAND, IDYES, 0);
     return DialogWithCaption(L"Error") != nullptr;
   }));
-  EXPECT_NE(question, nullptr);
   EXPECT_THAT(run.Answer(L"Error", run.Window(), IDI_HAND, IDOK), HasSubstr(L"Choose another one"));
   EXPECT_EQ(run.End(IDOK), 0);
   EXPECT_EQ(Stored(), kOurs);

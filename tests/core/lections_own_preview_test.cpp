@@ -207,13 +207,22 @@ TEST(LectionsOwnRemark, TellsTheLengthAndFrom96CharactersOnThatTheTextExportCuts
   EXPECT_EQ(RemarkOn(std::string(255, 'a')), "255 of 255 characters. The export as text shows the first 95.");
   EXPECT_EQ(RemarkOn("נח", How::kInstead, 4), "2 of 255 characters.");
   EXPECT_EQ(RemarkOn("", How::kInstead, kAnyLanguage, Slot::kHaftarah1), "Nothing will stand there.");
+  const OwnEntry after = {PlaceOf("portion Noach", Slot::kTorah1), {How::kAfter, "abc"}};
+  EXPECT_EQ(RemarkOn(after, 40), "43 of 255 characters with the program's.");
+  EXPECT_EQ(RemarkOn(after, 93), "96 of 255 characters with the program's. The export as text shows the first 95.");
+  EXPECT_EQ(RemarkOn(after, 253),
+            "256 of 255 characters with the program's. The end will be cut. The export as text shows the first 95.");
+  EXPECT_EQ(
+      RemarkOn("A; Morning: B"),
+      "13 of 255 characters. The program divides it at \"; Morning: \": the rest takes the next line, in place of "
+      "what stands there.");
   EXPECT_EQ(RemarkOn("", How::kAfter), "");
 }
 
 TEST(LectionsOwnRemark, ListsTheLanguagesThatLackLetters) {
   // Of 18 languages Hebrew alone has them.
   EXPECT_EQ(RemarkOn("נח"),
-            "2 of 255 characters. English, English, Ashkenazi spelling, Czech, Danish and 13 more cannot show all of "
+            "2 of 255 characters. English, English (Ashkenazi spelling), Czech, Danish and 13 more cannot show all of "
             "its letters: there the program's own text stays.");
   // The windows code pages 1250 and 1252 have an e with an acute accent, 1251, 1253 and 1255 have not.
   EXPECT_EQ(RemarkOn("Noé"),
@@ -255,7 +264,7 @@ TEST(LectionsOwnRemark, ATextIsOfferedForTheCustomsListedWhereTheyDiffer) {
 
 // On 20 April 2024, two days before Pesach, Chabad alone does not read the Shabbat's haftarah.
 TEST(LectionsOwnRemark, ATextIsOfferedForSeveralCustomsWhereChabadsAloneDiffersAndIsListed) {
-  const When hagadol = *WhenIn("occasion Shabbat HaGadol, Shabbat");
+  const When hagadol = *WhenIn("occasion Shabbat HaGadol");
   const int32_t today = Civil(1, 4, 2024);
   EXPECT_EQ(OfferedPlaceOf(hagadol, Of(Land::kDiaspora, Customs::kAshkenazi, true), today).listing, Listing::kSeveral);
   EXPECT_EQ(OfferedPlaceOf(hagadol, Of(Land::kDiaspora, Customs::kAshkenazi), today).listing, Listing::kAny);

@@ -42,7 +42,7 @@ TEST(LectionsOwnText, ALineIsReadAndWrittenAlike) {
   EXPECT_EQ(LineOf(*entry), kNoachLine);
   for (const char* line :
        {"date 15 Av 5787 | torah 1 | all | all | Hebrew | after | (ט״ו באב)",
-        "occasion Sukkot, day 1, Shabbat | extra | Israel | several | English, Ashkenazi spelling | instead | a|b",
+        "occasion Sukkot, day 1, Shabbat | extra | Israel | several | English (Ashkenazi spelling) | instead | a|b",
         "date 7 Adar | torah 3 | all | Ashkenazi | all | after | %20100%25%20"}) {
     const auto read = OwnEntryIn(line);
     ASSERT_TRUE(read) << line;

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "libraries/lections/divided_text.h"
 #include "libraries/lections/encoded_text.h"
 #include "libraries/lections/numerals.h"
 #include "tests/core/lections_days.h"
@@ -20,44 +21,6 @@ using namespace std::string_view_literals;
 
 constexpr uint32_t kAshkenaziSpelling = 2;
 constexpr uint32_t kHebrewCode = 4;
-
-// What the program's list of readings splits a text at, in its order.
-constexpr std::string_view kSeparators[] = {
-    "; Afternoon: "sv,
-    "; Morning: "sv,
-    "; ve\xe8"
-    "er: "sv,
-    "; \xe2\xf1\xdc\xe4\xf5: "sv,
-    "; \xf0\xf1\xf9\xdf: "sv,
-    "; Abends: "sv,
-    "; Morgends: "sv,
-    "+ Enhjv% "sv,
-    "+ Dtxthjv% "sv,
-    " (Sephardi"sv,
-    " (sefardi"sv,
-    " (Sefardisch"sv,
-    " (Seph\xe2radim"sv,
-    " (sefardisk"sv,
-    " (\xd3\xe5\xf6\xe1\xf1\xe4\xe9:"sv,
-    " (Ctafhlbv%"sv,
-    "; middag: "sv,
-    "; Morgens: "sv,
-    "\xcc\xf0\xe5\xf4\xe1\xec\xef\xfd\xe6, \xf0\xf1\xf9\xdf: "sv,
-    "Ivbyb Fwthtn"sv,
-    "; eftermiddag: "sv,
-    " (Jgnfwbz%"sv,
-    " \xe1\xed\xf4\xe9\xea\xe1\xf4\xdc\xf3\xf4\xe1\xf3\xe7 \xde \xf3\xf5\xec\xf0\xeb\xde\xf1\xf9\xec\xe1 "sv,
-    " n\xe1hrada nebo "sv,
-    "+ Qj'km "sv,
-    "; Joel "sv,
-    "; \xc9\xe7\xe5\xeb "sv,
-    "2 ltym Ifdejn- "sv,
-};
-
-bool IsSplit(std::string_view text, std::string_view separator) {
-  const size_t at = text.find(separator);
-  return at != std::string_view::npos && at + separator.size() < text.size();
-}
 
 // The first year from 5700 on of each of the fourteen types.
 std::vector<int32_t> YearsOfAllTypes() {
@@ -143,10 +106,10 @@ TEST(LectionsTexts, FitTheirColumnWhateverTheYearAndTheSettings) {
 }
 
 TEST(LectionsTexts, AreNeverSplit) {
-  EXPECT_TRUE(IsSplit("A; Morning: B", kSeparators[1]));
-  EXPECT_FALSE(IsSplit("A; Morning: ", kSeparators[1]));
+  EXPECT_TRUE(IsDividedAt("A; Morning: B", Dividers()[1]));
+  EXPECT_FALSE(IsDividedAt("A; Morning: ", Dividers()[1]));
   for (const std::string& text : EveryText()) {
-    for (const std::string_view separator : kSeparators) EXPECT_FALSE(IsSplit(text, separator)) << text;
+    for (const Divider& divider : Dividers()) EXPECT_FALSE(IsDividedAt(text, divider)) << text;
   }
 }
 
@@ -259,6 +222,11 @@ TEST(LectionsEncodedText, KnowsTheLettersOfItsCodePage) {
   EXPECT_EQ(Encoded("\xD7", CodePage::kHebrew), "?");
   EXPECT_EQ(Encoded("\xE2\x82z\xFF", CodePage::kWestern), "??z?");
   EXPECT_EQ(Encoded("", CodePage::kHebrew), "");
+  // A brace, a backslash and a line feed in more bytes than they need.
+  for (const char* overlong : {"\xC1\xBB", "\xC1\x9C", "\xC0\x8A", "\xE0\x81\xBB"}) {
+    EXPECT_EQ(Encoded(overlong, CodePage::kWestern), "?") << overlong;
+    EXPECT_FALSE(IsEncodable(overlong, CodePage::kWestern)) << overlong;
+  }
 }
 
 TEST(LectionsPassage, IsReadAsTheTablesWriteIt) {

@@ -109,6 +109,7 @@ TEST_F(OwnReadingsEndToEndTest, CancelOpensNoDocument) {
   const HWND dialog = run_->WaitForDialog("Custom Readings");
   Answer(dialog, IDCANCEL);
   EXPECT_TRUE(run_->Eventually([&] { return !IsWindow(dialog); }));
+  SendMessageA(run_->WaitForTopLevel("ShabbatMain"), WM_NULL, 0, 0);  // the command has returned by then
   EXPECT_EQ(run_->WaitForDocuments(2).size(), 2u);
   EXPECT_FALSE(fs::exists(settings_.path() / "readings.txt"));
 }
