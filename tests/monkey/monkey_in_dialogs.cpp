@@ -9,11 +9,23 @@ namespace {
 constexpr std::size_t kStepsToLeave = 60;  // then it wants out, so that it gets to everything
 constexpr std::size_t kMostSteps = 400;
 
+// The name in the system's dialogs for files. Wine's copies a path of any length into one of MAX_PATH characters.
+constexpr int kFileName = 1148;
+constexpr std::size_t kLongestFileName = 60;
+
 bool HasButtonThatLeadsOut(const std::vector<HWND>& controls) {
   for (const HWND control : controls) {
     if (LeadsOut(control)) return true;
   }
   return false;
+}
+
+// No user gets at what a disabled window contains.
+bool IsWithinReach(HWND control, HWND dialog) {
+  for (HWND window = control; window && window != dialog; window = GetParent(window)) {
+    if (!IsWindowEnabled(window)) return false;
+  }
+  return true;
 }
 
 }  // namespace
@@ -32,7 +44,8 @@ std::string Monkey::ActInMessageBox(HWND box) {
 std::string Monkey::FillField(HWND field) {
   const std::string old = TextOf(field);
   const bool isDate = std::count(old.begin(), old.end(), '.') == 2;
-  const std::wstring text = isDate && dice_.Chance(70) ? input_.AnyDate() : input_.AnyText();
+  std::wstring text = isDate && dice_.Chance(70) ? input_.AnyDate() : input_.AnyText();
+  if (GetDlgCtrlID(field) == kFileName) text = text.substr(0, kLongestFileName);
   if (dice_.Chance(90)) PostMessageA(field, EM_SETSEL, 0, -1);
   if (text.empty()) return input_.Key(field, VK_DELETE);
   return input_.Characters(field, text);
@@ -45,7 +58,7 @@ std::string Monkey::ActInDialog(HWND dialog) {
   std::vector<HWND> others;
   const std::vector<HWND> controls = VisibleDescendants(dialog);
   for (const HWND control : controls) {
-    if (!IsWindowEnabled(control) || LeadsOut(control)) continue;
+    if (!IsWithinReach(control, dialog) || LeadsOut(control)) continue;
     const std::string className = ClassOf(control);
     if (className == "Edit") {
       fields.push_back(control);
