@@ -45,7 +45,7 @@ std::string Monkey::FillField(HWND field) {
   const std::string old = TextOf(field);
   const bool isDate = std::count(old.begin(), old.end(), '.') == 2;
   std::wstring text = isDate && dice_.Chance(70) ? input_.AnyDate() : input_.AnyText();
-  if (GetDlgCtrlID(field) == kFileName) text = text.substr(0, kLongestFileName);
+  if (GetDlgCtrlID(field) == kFileName) text.resize(std::min(text.size(), kLongestFileName));
   if (dice_.Chance(90)) PostMessageA(field, EM_SETSEL, 0, -1);
   if (text.empty()) return input_.Key(field, VK_DELETE);
   return input_.Characters(field, text);
