@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <optional>
 
-#include "libraries/calendar/gregorian.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/known_file.h"
+#include "libraries/dialogs/today.h"
 #include "libraries/dialogs/utf8.h"
 #include "libraries/kinship/kinship_ids.h"
 #include "libraries/kinship/pasted_line.h"
@@ -32,18 +32,12 @@ constexpr Anchor kAnchors[] = {
     {IDC_APPLY, Follow::kMove, Follow::kMove},
 };
 
-int32_t Today() {
-  SYSTEMTIME now;
-  GetLocalTime(&now);
-  return calendar::AbsoluteFromGregorian({now.wDay, now.wMonth, now.wYear});
-}
-
 }  // namespace
 
 KinshipWindow::KinshipWindow(const persons::Persons& stored, int32_t year)
     : editing_(stored.persons),
       damagedLines_(stored.damagedLines),
-      shown_{year, Today(), StoredCustom()},
+      shown_{year, dialogs::Today(), StoredCustom()},
       storedCustom_(shown_.ofYahrzeit),
       lastEntry_(StoredLastEntry()),
       rows_(kSystemLetters) {}

@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <optional>
 
-#include "libraries/calendar/gregorian.h"
 #include "libraries/dialogs/dialog_parts.h"
+#include "libraries/dialogs/today.h"
 #include "libraries/dialogs/utf8.h"
 #include "libraries/kinship/kinship_ids.h"
 #include "libraries/kinship/kinship_window.h"
@@ -55,9 +55,7 @@ void KinshipWindow::OnCustomChosen() {
 // The window may have been open over midnight.
 void KinshipWindow::OnActivate() {
   if (isFilling_) return;
-  SYSTEMTIME now;
-  GetLocalTime(&now);
-  const int32_t today = calendar::AbsoluteFromGregorian({now.wDay, now.wMonth, now.wYear});
+  const int32_t today = dialogs::Today();
   if (today == shown_.today) return;
   shown_.today = today;
   Renew();

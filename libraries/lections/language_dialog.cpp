@@ -6,10 +6,10 @@
 #include <type_traits>
 #include <vector>
 
-#include "libraries/calendar/gregorian.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/known_file.h"
 #include "libraries/dialogs/resizable_dialog.h"
+#include "libraries/dialogs/today.h"
 #include "libraries/dialogs/utf8.h"
 #include "libraries/lections/accept_settings.h"
 #include "libraries/lections/language.h"
@@ -37,12 +37,6 @@ constexpr Anchor kAnchors[] = {
     {IDOK, Follow::kMove, Follow::kMove},
     {IDCANCEL, Follow::kMove, Follow::kMove},
 };
-
-int32_t Today() {
-  SYSTEMTIME now;
-  GetLocalTime(&now);
-  return calendar::AbsoluteFromGregorian({now.wDay, now.wMonth, now.wYear});
-}
 
 // "German (Deutsch)"
 std::wstring NameOf(const Language& language) {
@@ -209,7 +203,7 @@ INT_PTR LanguageDialog::OnCommand(int commandId, int notification) {
 
 bool DoLanguageDialog(HWND owner) {
   if (!dialogs::IsKnownIni(owner, kSettingsFile)) return false;
-  LanguageDialog dialog(Today());
+  LanguageDialog dialog(dialogs::Today());
   return dialogs::RunDialog(owner, IDD_LANGUAGE, dialogs::ClassDialogProc<LanguageDialog>, &dialog) == IDOK;
 }
 

@@ -1,13 +1,12 @@
 #include "libraries/lections/own_preview.h"
 
 #include <array>
-#include <cstdio>
 #include <utility>
 
-#include "libraries/calendar/gregorian.h"
 #include "libraries/calendar/jewish.h"
 #include "libraries/calendar/month_names.h"
 #include "libraries/lections/encoded_text.h"
+#include "libraries/lections/reading_names.h"
 #include "libraries/lections/reading_texts.h"
 
 namespace lections {
@@ -53,12 +52,9 @@ std::string LinesOf(const ReadingTexts& texts, const Language& language) {
 }
 
 std::string DateText(int32_t day) {
-  const Date civil = calendar::GregorianFromAbsolute(day);
   const Date jewish = calendar::JewishFromAbsolute(day);
-  char text[64];
-  std::snprintf(text, sizeof text, "%02d.%02d.%04d, %d %s %d", civil.day, civil.month, civil.year, jewish.day,
-                calendar::JewishMonthName(jewish.month, jewish.year, calendar::kEnglish), jewish.year);
-  return text;
+  return CivilDateText(day) + ", " + std::to_string(jewish.day) + " " +
+         calendar::JewishMonthName(jewish.month, jewish.year, calendar::kEnglish) + " " + std::to_string(jewish.year);
 }
 
 std::string PreviewOf(const std::vector<int32_t>& days, const Settings& settings, const OwnReadings& own) {

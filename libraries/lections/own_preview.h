@@ -19,7 +19,7 @@ Settings SettingsFor(const OwnPlace& place, const Settings& settings);
 // A day's texts, a line each, "Torah: ..." before "Haftarah: ..." and "Note: ...", what is empty left out.
 std::string LinesOf(const ReadingTexts& texts, const Language& language);
 
-// "28.11.2026, 18 Kislev 5787" of an absolute day.
+// "28.11.2026, 18 Kislev 5787" of an absolute day; "28.11.2026" is CivilDateText of reading_names.h.
 std::string DateText(int32_t day);
 
 // The days, each with its texts: "28.11.2026, 18 Kislev 5787" and LinesOf, with an empty line between two.

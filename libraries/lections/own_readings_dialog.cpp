@@ -1,8 +1,8 @@
 #include "libraries/lections/own_readings_dialog.h"
 
-#include "libraries/calendar/gregorian.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/known_file.h"
+#include "libraries/dialogs/today.h"
 #include "libraries/dialogs/utf8.h"
 #include "libraries/lections/lections_ids.h"
 #include "libraries/lections/own_readings_file.h"
@@ -55,12 +55,6 @@ constexpr dialogs::ListColumn kOwnTextLooks[kOwnTextColumns] = {{L"Place", L"Haf
 
 // In the order of ShownKinds.
 constexpr const wchar_t* kKinds[] = {L"All", L"Portions", L"Occasions", L"Dates", L"With own texts"};
-
-int32_t Today() {
-  SYSTEMTIME now;
-  GetLocalTime(&now);
-  return calendar::AbsoluteFromGregorian({now.wDay, now.wMonth, now.wYear});
-}
 
 void TellText(NMLVDISPINFOW& info, const std::wstring& text) {
   if (info.item.mask & LVIF_TEXT) lstrcpynW(info.item.pszText, text.c_str(), info.item.cchTextMax);
@@ -301,7 +295,7 @@ bool DoOwnReadingsDialog(HWND owner) {
   std::optional<OwnFile> stored;
   const auto read = [&stored] { return (stored = OwnFileNow()).has_value(); };
   if (!dialogs::IsKnownIni(owner, kSettingsFile) || !dialogs::IsKnown(owner, OwnReadingsPath(), read)) return false;
-  return OwnReadingsDialog(*stored, StoredSettingsNow(), Today()).Run(owner);
+  return OwnReadingsDialog(*stored, StoredSettingsNow(), dialogs::Today()).Run(owner);
 }
 
 }  // namespace lections

@@ -9,6 +9,7 @@
 
 #include "libraries/dialogs/utf8.h"
 #include "libraries/lections/own_readings.h"
+#include "libraries/lections/reading_names.h"
 
 namespace lections {
 namespace {
@@ -99,8 +100,7 @@ std::wstring OwnRows::Text(int row, int column) const {
   const Searched& searched = rows_[shown_[static_cast<size_t>(row)]];
   switch (column) {
     case kNameColumn: return FromUtf8(searched.row.name);
-    case kNextColumn:
-      return searched.row.next == 0 ? std::wstring() : FromUtf8(DateText(searched.row.next)).substr(0, 10);
+    case kNextColumn: return searched.row.next == 0 ? std::wstring() : FromUtf8(CivilDateText(searched.row.next));
     case kTorahColumn: return FromUtf8(searched.row.torah);
     case kHaftarahColumn: return FromUtf8(searched.row.haftarot);
     case kOwnColumn: return searched.ownTexts == 0 ? std::wstring() : std::to_wstring(searched.ownTexts);

@@ -1,7 +1,9 @@
 #include "libraries/lections/reading_names.h"
 
+#include <cstdio>
 #include <string_view>
 
+#include "libraries/calendar/gregorian.h"
 #include "libraries/lections/numerals.h"
 
 namespace lections {
@@ -35,6 +37,13 @@ std::string NameOf(const NumberedOccasion& occasion, bool isLeapYear, const Lang
     return Filled(language.words.monthly, name, MonthName(language.months, occasion.number, isLeapYear));
   }
   return Filled(language.words.numbered, name, Number(occasion.number, language.notation.numerals));
+}
+
+std::string CivilDateText(int32_t day) {
+  const calendar::Date civil = calendar::GregorianFromAbsolute(day);
+  char text[40];
+  std::snprintf(text, sizeof text, "%02d.%02d.%04d", civil.day, civil.month, civil.year);
+  return text;
 }
 
 }  // namespace lections

@@ -16,4 +16,7 @@ std::string NameOf(const calendar::WeeklyPortion& read, const Language& language
 // "Sukkot, day 3", "Rosh Chodesh Adar I"; in a leap year the month Adar is Adar I.
 std::string NameOf(const NumberedOccasion& occasion, bool isLeapYear, const Language& language);
 
+// "28.11.2026" of an absolute day, as the program's lists have it.
+std::string CivilDateText(int32_t day);
+
 }  // namespace lections

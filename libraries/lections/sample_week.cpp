@@ -1,12 +1,11 @@
 #include "libraries/lections/sample_week.h"
 
-#include <cstdio>
 #include <vector>
 
-#include "libraries/calendar/gregorian.h"
 #include "libraries/calendar/jewish.h"
 #include "libraries/lections/encoded_text.h"
 #include "libraries/lections/language.h"
+#include "libraries/lections/reading_names.h"
 #include "libraries/lections/reading_texts.h"
 
 namespace lections {
@@ -15,16 +14,8 @@ namespace {
 constexpr int32_t kDaysOfWeek = 7;
 constexpr size_t kDaysThatShowALanguage = 2;
 
-// In the form of the program's lists.
-std::string DateText(int32_t day) {
-  const calendar::Date civil = calendar::GregorianFromAbsolute(day);
-  char text[40];
-  std::snprintf(text, sizeof text, "%02d.%02d.%04d", civil.day, civil.month, civil.year);
-  return text;
-}
-
 std::string DayText(int32_t day, const ReadingTexts& texts, CodePage page) {
-  std::string lines = DateText(day) + "\n";
+  std::string lines = CivilDateText(day) + "\n";
   for (const auto& slots : {texts.torah, texts.haftarot}) {
     for (const std::string& slot : slots) {
       if (!slot.empty()) lines += Decoded(slot, page) + "\n";

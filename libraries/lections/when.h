@@ -25,8 +25,8 @@ struct When {
   WhenKind kind = WhenKind::kPortion;
   int32_t what = 0;    // a portion, an Occasion, or a month
   int32_t number = 0;  // 1 for a portion joined with the next; of an occasion as in NumberedOccasion; the day of a date
-  int32_t more =
-      0;  // 1 for an occasion on a Shabbat that can be on a weekday too; the year of a date, 0 for every year
+  // 1 for an occasion on a Shabbat that can be on a weekday too; the year of a date, 0 for every year.
+  int32_t more = 0;
 
   auto operator<=>(const When&) const = default;
 };

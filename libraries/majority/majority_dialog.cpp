@@ -1,6 +1,5 @@
 #include "libraries/majority/majority_dialog.h"
 
-#include "libraries/calendar/gregorian.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/utf8.h"
 #include "libraries/lections/settings_store.h"
@@ -16,12 +15,6 @@ constexpr persons::DateControls kDateControls = {{IDC_GREGORIAN_DAY, IDC_GREGORI
                                                  IDC_DATE_FAULT};
 
 }  // namespace
-
-int32_t Today() {
-  SYSTEMTIME now;
-  GetLocalTime(&now);
-  return calendar::AbsoluteFromGregorian({now.wDay, now.wMonth, now.wYear});
-}
 
 Child MajorityDialog::Run(HWND owner) {
   dialogs::RunDialog(owner, IDD_MAJORITY, dialogs::ClassDialogProc<MajorityDialog>, this);

@@ -46,9 +46,6 @@ class MajorityDialog {
   std::wstring calendarFile_;             // chosen last
 };
 
-// Today's absolute day by the computer's date.
-int32_t Today();
-
 // All that is said of the child, in the user's readings, by lines.
 std::wstring ResultText(const Child& child);
 

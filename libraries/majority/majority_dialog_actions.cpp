@@ -5,6 +5,7 @@
 
 #include "libraries/dialogs/chosen_file.h"
 #include "libraries/dialogs/dialog_parts.h"
+#include "libraries/dialogs/today.h"
 #include "libraries/dialogs/utf8.h"
 #include "libraries/lections/own_readings_file.h"
 #include "libraries/lections/settings_store.h"
@@ -50,7 +51,7 @@ std::wstring AskForCalendarFile(HWND dialog, const std::wstring& offered) {
 
 std::wstring ResultText(const Child& child) {
   const std::string facts = FactsOf(child, lections::StoredSettings(), lections::StoredOwnReadings().get());
-  return dialogs::WithLineEnds(dialogs::FromUtf8(facts + TimeLeft(child, Today())));
+  return dialogs::WithLineEnds(dialogs::FromUtf8(facts + TimeLeft(child, dialogs::Today())));
 }
 
 void MajorityDialog::TakeOver() {

@@ -4,6 +4,7 @@
 
 #include "companion/majority.h"
 #include "libraries/calendar/gregorian.h"
+#include "libraries/dialogs/today.h"
 #include "libraries/majority/majority_dialog.h"
 
 namespace {
@@ -14,7 +15,7 @@ std::mutex mutex;
 std::optional<MajorityDialogData> lastClosed;
 
 MajorityDialogData BoyOfTwelveToday() {
-  const calendar::Date today = calendar::GregorianFromAbsolute(majority::Today());
+  const calendar::Date today = calendar::GregorianFromAbsolute(dialogs::Today());
   const int32_t year = today.year - kAgeAtFirst;
   const int32_t day = std::min(today.day, calendar::DaysInGregorianMonth(today.month, year));
   return {static_cast<uint32_t>(day), static_cast<uint32_t>(today.month), static_cast<uint32_t>(year), 0, 0};

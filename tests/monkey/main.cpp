@@ -28,6 +28,7 @@ fs::path ProgramFolder() {
 fs::path MakeFolders() {
   const fs::path folder =
       fs::temp_directory_path() / ("times_readings_monkey_" + std::to_string(GetCurrentProcessId()));
+  fs::remove_all(folder);  // numbers of processes come again
   fs::create_directories(folder / "settings");
   fs::create_directories(folder / "exports");
   SetEnvironmentVariableA("PATH", "C:\\windows\\system32;C:\\windows");
