@@ -10,6 +10,7 @@
 #include "app/frame_window.h"
 #include "app/program.h"
 #include "app/unread_at_start.h"
+#include "app/version.h"
 #include "app/window_classes.h"
 #include "companion/kinship.h"
 #include "companion/stamp.h"
@@ -18,6 +19,7 @@
 #include "engine/optional_entries.h"
 #include "engine/string_table.h"
 #include "resources/ids.h"
+#include "win/crash_report.h"
 #include "win/message_box.h"
 
 ProgramState Program;
@@ -28,6 +30,16 @@ namespace {
 void RegisterSystemTooltips() {
   const INITCOMMONCONTROLSEX tooltips{sizeof tooltips, ICC_TAB_CLASSES};
   InitCommonControlsEx(&tooltips);
+}
+
+// Reports of crashes go where the settings are; without a folder there are none.
+void WatchForCrashesInSettingsFolder() {
+  constexpr uint32_t kMostBytes = 4096;
+  char folder[kMostBytes];
+  wchar_t wide[kMostBytes];
+  if (!OptionalEntries.ProfileGetFolder || OptionalEntries.ProfileGetFolder(folder, sizeof folder) == 0) return;
+  if (MultiByteToWideChar(CP_UTF8, 0, folder, -1, wide, kMostBytes) == 0) return;
+  WatchForCrashes(wide, "Times / Readings " FILE_VERSION_TEXT);
 }
 
 constexpr COLORREF kTooltipYellow = RGB(255, 255, 0);
@@ -80,6 +92,7 @@ void ShutDown() {
 int RunProgram(HINSTANCE instance, HINSTANCE previousInstance, LPSTR commandLine, int showState) {
   StampCheck(instance, previousInstance, commandLine, showState);
   LookUpOptionalEntries();
+  WatchForCrashesInSettingsFolder();
   Program.instance = instance;
   KinshipInit();
   Program.tooltipBrush = CreateSolidBrush(kTooltipYellow);

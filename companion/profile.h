@@ -41,6 +41,12 @@ int32_t ProfileWriteString(const char* section, const char* key, const char* val
  * file need not be an INI file. The library may be older than this entry: look it up by name. */
 int32_t ProfileCanRead(const char* file);
 
+/* The folder of files given by bare name, as things stand at this moment: a full path without a separator at its end,
+ * in UTF-8, since a user's name may be of any script, into buffer (size bytes, terminator included). Answers its bytes
+ * without the terminator; 0, and an empty text, when it does not fit or cannot be known. The folder need not exist, and
+ * is not made. The library may be older than this entry: look it up by name. */
+uint32_t ProfileGetFolder(char* buffer, uint32_t size);
+
 #ifdef __cplusplus
 }
 #endif

@@ -7,11 +7,13 @@
 #include "resources/ids.h"
 #include "win/local_date.h"
 #include "win/message_box.h"
+#include "win/own_folder.h"
 
 namespace {
 
 constexpr char kAlmanacClass[] = "AlmanacApp";
 constexpr char kAlmanacProgram[] = "ALMANAC.EXE";
+constexpr wchar_t kAlmanacFile[] = L"ALMANAC.EXE";
 
 struct DocumentCommand {
   unsigned id;
@@ -56,10 +58,16 @@ bool BringUpAlmanac() {
   return almanac != nullptr;
 }
 
+// Started by name, it is looked for in the program's own folder first, but then in others too: a program of that name
+// elsewhere is not ours.
+bool StartAlmanac() {
+  constexpr UINT kFirstSuccess = 33;  // smaller answers of WinExec are error codes
+  return IsInOwnFolder(kAlmanacFile) && WinExec(kAlmanacProgram, SW_SHOWNORMAL) >= kFirstSuccess;
+}
+
 void GoToAlmanac(HWND document) {
   if (BringUpAlmanac()) return;
-  constexpr UINT kFirstSuccess = 33;  // smaller answers of WinExec are error codes
-  if (WinExec(kAlmanacProgram, SW_SHOWNORMAL) < kFirstSuccess) {
+  if (!StartAlmanac()) {
     ShowStop(document, "Could not launch ALMANAC.EXE", TableString(IDS_TITLE));
     return;
   }

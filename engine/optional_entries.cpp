@@ -29,6 +29,7 @@ void LookUpOptionalEntries() {
   LookUp("lections.dll", "LectionsIsYizkorBy", entries.LectionsIsYizkorBy);
   LookUp("ownhours.dll", "OwnHoursDoDialog", entries.OwnHoursDoDialog);
   LookUp("profile.dll", "ProfileCanRead", entries.ProfileCanRead);
+  LookUp("profile.dll", "ProfileGetFolder", entries.ProfileGetFolder);
   if (!entries.LectionsGetReadingsBy || !entries.LectionsIsYizkorBy) entries.LectionsGetChoice = nullptr;
 }
 

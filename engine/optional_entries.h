@@ -21,6 +21,7 @@ struct OptionalEntryPoints {
   decltype(&::LectionsHasOwnNumbers) LectionsHasOwnNumbers;
   decltype(&::OwnHoursDoDialog) OwnHoursDoDialog;
   decltype(&::ProfileCanRead) ProfileCanRead;
+  decltype(&::ProfileGetFolder) ProfileGetFolder;
   decltype(&::SolarDescribeZone) SolarDescribeZone;
   decltype(&::SolarDoSummerTimeDialog) SolarDoSummerTimeDialog;
 };

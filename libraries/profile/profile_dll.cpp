@@ -1,3 +1,5 @@
+#include <windows.h>
+
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -6,6 +8,7 @@
 #include "companion/profile.h"
 #include "libraries/profile/profile_answers.h"
 #include "libraries/profile/profile_store.h"
+#include "libraries/settings_folder/settings_folder_win.h"
 
 namespace {
 
@@ -61,5 +64,18 @@ int32_t ProfileWriteString(const char* section, const char* key, const char* val
 }
 
 int32_t ProfileCanRead(const char* file) try { return !IsName(file) || store.CanRead(file); } catch (...) {
+  return 0;
+}
+
+uint32_t ProfileGetFolder(char* buffer, uint32_t size) try {
+  if (!buffer || size == 0) return 0;
+  buffer[0] = '\0';
+  const std::wstring folder = settings_folder::FullPath(settings_folder::FolderNow());
+  const int copied =
+      WideCharToMultiByte(CP_UTF8, 0, folder.c_str(), -1, buffer, static_cast<int>(size), nullptr, nullptr);
+  if (copied > 0) return static_cast<uint32_t>(copied) - 1;
+  buffer[0] = '\0';
+  return 0;
+} catch (...) {
   return 0;
 }

@@ -319,4 +319,19 @@ TEST_F(ProfileContract, WhatCouldNotBeReadBackIsRefused) {
   EXPECT_EQ(home_.Bytes("a.ini"), "[A]\r\na=1\r\n");
 }
 
+// UTF-8, so that a user's name of any script has its folder.
+TEST_F(ProfileContract, NamesTheFolderOfItsFilesInFull) {
+  char folder[1024] = "";
+  const uint32_t length = ProfileGetFolder(folder, sizeof folder);
+  EXPECT_EQ(std::string(folder, length), home_.Folder().string());
+  SetEnvironmentVariableW(L"TIMES_READINGS_HOME", L"C:\\\u05D0\u05D1 \u017E");
+  EXPECT_EQ(ProfileGetFolder(folder, sizeof folder), 10u);
+  EXPECT_STREQ(folder, "C:\\\xD7\x90\xD7\x91 \xC5\xBE");
+  EXPECT_EQ(ProfileGetFolder(folder, 11), 10u);
+  EXPECT_EQ(ProfileGetFolder(folder, 10), 0u);
+  EXPECT_STREQ(folder, "");
+  EXPECT_EQ(ProfileGetFolder(folder, 0), 0u);
+  EXPECT_EQ(ProfileGetFolder(nullptr, sizeof folder), 0u);
+}
+
 }  // namespace

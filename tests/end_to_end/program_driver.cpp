@@ -65,15 +65,16 @@ std::string ReadFileText(const fs::path& file) {
   return text.str();
 }
 
-ProgramRun::ProgramRun(const fs::path& programFolder, const fs::path& settingsFolder) {
+ProgramRun::ProgramRun(const fs::path& programFolder, const fs::path& settingsFolder, const fs::path& currentFolder) {
   // No library may be found anywhere but in the program's folder.
   SetEnvironmentVariableA("PATH", "C:\\windows\\system32;C:\\windows");
   SetEnvironmentVariableA("TIMES_READINGS_HOME", settingsFolder.string().c_str());
   std::string commandLine = "\"" + (programFolder / "shabbat.exe").string() + "\"";
   STARTUPINFOA startup{};
   startup.cb = sizeof startup;
-  const BOOL started = CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                                      programFolder.string().c_str(), &startup, &process_);
+  const BOOL started =
+      CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                     (currentFolder.empty() ? programFolder : currentFolder).string().c_str(), &startup, &process_);
   EXPECT_TRUE(started) << commandLine << ": error " << GetLastError();
 }
 

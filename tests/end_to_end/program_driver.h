@@ -36,7 +36,9 @@ std::string ReadFileText(const std::filesystem::path& file);
 // One run of the program. Its settings folder is given, so that a second run can find what a first one left.
 class ProgramRun {
  public:
-  ProgramRun(const std::filesystem::path& programFolder, const std::filesystem::path& settingsFolder);
+  // currentFolder: where the program is started; empty: in its own folder.
+  ProgramRun(const std::filesystem::path& programFolder, const std::filesystem::path& settingsFolder,
+             const std::filesystem::path& currentFolder = {});
   ~ProgramRun();  // ends a program that still runs
   ProgramRun(const ProgramRun&) = delete;
   ProgramRun& operator=(const ProgramRun&) = delete;
@@ -61,6 +63,8 @@ class ProgramRun {
 
   // The frame's document windows, the uppermost first, once there are count of them.
   std::vector<HWND> WaitForDocuments(std::size_t count) const;
+
+  HANDLE Process() const { return process_.hProcess; }
 
   // The exit code; waits for the end. Fails the test and ends the program when it goes on.
   DWORD WaitForExit();

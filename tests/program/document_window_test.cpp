@@ -1,5 +1,8 @@
 #include "document/document_window.h"
 
+#include <filesystem>
+#include <fstream>
+
 #include "app/active_document.h"
 #include "app/open_document.h"
 #include "app/program.h"
@@ -194,7 +197,29 @@ TEST_F(DocumentWindowTest, AlmanacThatRunsIsBroughtToTheForeground) {
   EXPECT_THAT(CallLog(), ElementsAre("find window 'AlmanacApp' 'any'"));
 }
 
+std::filesystem::path OwnFolder() {
+  char path[MAX_PATH];
+  GetModuleFileNameA(nullptr, path, sizeof path);
+  return std::filesystem::path(path).parent_path();
+}
+
+// A file of the Almanac's name beside the tests' executable, while it lives.
+class AlmanacFile {
+ public:
+  AlmanacFile() { std::ofstream(path_) << "no program"; }
+  ~AlmanacFile() { std::filesystem::remove(path_); }
+  AlmanacFile(const AlmanacFile&) = delete;
+  AlmanacFile& operator=(const AlmanacFile&) = delete;
+
+ private:
+  const std::filesystem::path path_ = OwnFolder() / "ALMANAC.EXE";
+};
+
+constexpr char kNoAlmanacBox[] =
+    "message box 'Could not launch ALMANAC.EXE' caption 'Times / Readings' type 0x10 owner yes";
+
 TEST_F(DocumentWindowTest, AlmanacThatDoesNotRunIsStarted) {
+  const AlmanacFile file;
   Command(4);
   EXPECT_THAT(CallLog(), ElementsAre("find window 'AlmanacApp' 'any'", "start 'ALMANAC.EXE' show 1",
                                      "find window 'AlmanacApp' 'any'"));
@@ -202,12 +227,21 @@ TEST_F(DocumentWindowTest, AlmanacThatDoesNotRunIsStarted) {
 }
 
 TEST_F(DocumentWindowTest, WithoutAlmanacAndItsProgramTheMessageIsShownAndNothingElseChanges) {
+  const AlmanacFile file;
   System().winExecAnswer = 32;
   Command(4);
-  EXPECT_THAT(CallLog(), ElementsAre("find window 'AlmanacApp' 'any'", "start 'ALMANAC.EXE' show 1",
-                                     "message box 'Could not launch ALMANAC.EXE' caption 'Times / Readings' type 0x10 "
-                                     "owner yes"));
+  EXPECT_THAT(CallLog(), ElementsAre("find window 'AlmanacApp' 'any'", "start 'ALMANAC.EXE' show 1", kNoAlmanacBox));
   EXPECT_TRUE(IsWindowVisible(Pane(1)));
+}
+
+TEST_F(DocumentWindowTest, NothingIsStartedWhenTheAlmanacIsNotInTheProgramsFolder) {
+  Command(4);
+  EXPECT_THAT(CallLog(), ElementsAre("find window 'AlmanacApp' 'any'", kNoAlmanacBox));
+  std::filesystem::create_directory(OwnFolder() / "ALMANAC.EXE");
+  Command(4);
+  std::filesystem::remove(OwnFolder() / "ALMANAC.EXE");
+  EXPECT_THAT(CallLog(), ElementsAre("find window 'AlmanacApp' 'any'", kNoAlmanacBox, "find window 'AlmanacApp' 'any'",
+                                     kNoAlmanacBox));
 }
 
 TEST_F(DocumentWindowTest, ExitButtonReachesTheFrame) {
