@@ -6,10 +6,11 @@ namespace guide {
 namespace {
 
 constexpr Topic kTopics[] = {
-    {"Start", "index.html"},     {"Shabbat times", "shabbat_times.html"},
-    {"Places", "places.html"},   {"Accuracy", "accuracy.html"},
-    {"Zmanim", "zmanim.html"},   {"Readings", "readings.html"},
-    {"Persons", "persons.html"}, {"Exports and printing", "exports.html"},
+    {"Start", "index.html"},       {"Shabbat times", "shabbat_times.html"},
+    {"Places", "places.html"},     {"Accuracy", "accuracy.html"},
+    {"Zmanim", "zmanim.html"},     {"Readings", "readings.html"},
+    {"Persons", "persons.html"},   {"Exports and printing", "exports.html"},
+    {"Settings", "settings.html"},
 };
 
 char LowerCase(char c) {

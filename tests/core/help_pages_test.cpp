@@ -51,6 +51,7 @@ TEST(HelpTopics, AreFoundWhateverTheirCase) {
   EXPECT_EQ(guide::TopicNamed("accuracy").page, "accuracy.html");
   EXPECT_EQ(guide::TopicNamed("Places").page, "places.html");
   EXPECT_EQ(guide::TopicNamed("start").page, "index.html");
+  EXPECT_EQ(guide::TopicNamed("settings").page, "settings.html");
 }
 
 TEST(HelpTopics, UnknownAndEmptyOnesAreTheGeneralPage) {
