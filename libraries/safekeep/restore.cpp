@@ -44,7 +44,7 @@ void TellWhatWasRestored(HWND owner, const Backup& backup, const std::wstring& k
 }  // namespace
 
 bool Restore(HWND owner) {
-  const std::wstring path = dialogs::AskForFileToRead(owner, {kTitle, kFileFilter, L"zip"});
+  const std::wstring path = dialogs::AskForFileToRead(owner, {L"Choose Backup to Restore", kFileFilter, L"zip"});
   if (path.empty()) return false;
   const std::optional<Backup> backup = BackupOrTell(owner, path);
   if (!backup) return false;

@@ -28,7 +28,7 @@ struct ZipEntry {
 // What an archive may hold, so that a small file cannot fill the memory.
 inline constexpr size_t kMostEntries = 100;
 inline constexpr size_t kMostEntryBytes = 16 << 20;
-inline constexpr size_t kMostBytes = 64 << 20;                       // of all entries together
+inline constexpr size_t kMostBytes = 32 << 20;                       // of all entries together
 inline constexpr size_t kMostArchiveBytes = kMostBytes + (1 << 20);  // with room for names
 
 // The archive of entries within these limits, in their order. Names are ASCII and shorter than 65536 bytes. The same
