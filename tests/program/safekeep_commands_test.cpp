@@ -66,7 +66,8 @@ TEST_F(SafekeepCommandsTest, RestoredSettingsOpenADocumentByTheCandleRuleOfThePl
 
 TEST_F(SafekeepCommandsTest, OpenDocumentsTakeOverRestoredTimesSetByHand) {
   EXPECT_EQ(TimeInBlock({1, 3}), (ClockTime{6, 30}));
-  Libraries().restoreSettings = [] { Libraries().ownTimes["Aachen|Zman 3|6.1.2007"] = {12, 0}; };
+  // The document's own range begins on the doubled today, 20 November 2026.
+  Libraries().restoreSettings = [] { Libraries().ownTimes["Aachen|Zman 3|21.11.2026"] = {12, 0}; };
   Run(IDM_RESTORE_SETTINGS);
   EXPECT_TRUE(RenewZmanim(document_));  // as before it paints, when it is seen again
   EXPECT_EQ(TimeInBlock({1, 3}), (ClockTime{12, 0}));
