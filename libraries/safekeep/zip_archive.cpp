@@ -189,39 +189,40 @@ class Reader {
     const Description& description = listed.description;
     if (description.flags & kEncryptedFlag) return ZipFault::kEncrypted;
     if (description.method != kStored && description.method != kDeflated) return ZipFault::kPackedOtherwise;
-    const std::optional<std::string_view> packed = PackedBytes(listed);
-    if (!packed) return ZipFault::kDamaged;
+    std::string_view packed;
+    if (const ZipFault fault = FindBytes(listed, &packed); fault != ZipFault::kNone) return fault;
     std::optional<std::string> bytes;
     if (description.method == kDeflated) {
-      bytes = Inflated(*packed, description.size);
-    } else if (packed->size() == description.size) {
-      bytes = std::string(*packed);
+      bytes = Inflated(packed, description.size);
+    } else if (packed.size() == description.size) {
+      bytes = std::string(packed);
     }
     if (!bytes || SumOf(*bytes) != description.sum) return ZipFault::kDamaged;
     entries_.push_back({listed.name, description.changed, std::move(*bytes)});
     return ZipFault::kNone;
   }
 
-  // None unless the local record says what the directory says.
-  std::optional<std::string_view> PackedBytes(const Listed& listed) const {
-    if (listed.local > directoryStart_) return std::nullopt;
+  // packed: where the local record says what the directory says.
+  ZipFault FindBytes(const Listed& listed, std::string_view* packed) const {
+    if (listed.local > directoryStart_) return ZipFault::kDamaged;
     std::string_view rest = archive_.substr(listed.local, directoryStart_ - listed.local);
-    if (!StartsWith(rest, kLocalSignature, kLocalLength)) return std::nullopt;
+    if (!StartsWith(rest, kLocalSignature, kLocalLength)) return ZipFault::kDamaged;
     Numbers numbers(rest.substr(4));
     const Description local = TakeDescription(numbers);
     const size_t nameLength = numbers.Take16();
     const size_t extraLength = numbers.Take16();
+    if (local.packedSize == kElsewhere32 && local.size == kElsewhere32) return ZipFault::kZip64;
     Description expected = listed.description;
     if ((expected.flags & kSizesFollowFlag) && local.sum == 0 && local.size == 0 && local.packedSize == 0) {
       expected.sum = expected.size = expected.packedSize = 0;
     }
     rest.remove_prefix(kLocalLength);
     if (local != expected || rest.size() < nameLength + extraLength || rest.substr(0, nameLength) != listed.name) {
-      return std::nullopt;
+      return ZipFault::kDamaged;
     }
     rest.remove_prefix(nameLength + extraLength);
-    if (rest.size() < listed.description.packedSize) return std::nullopt;
-    return rest.substr(0, listed.description.packedSize);
+    *packed = rest.substr(0, listed.description.packedSize);
+    return packed->size() == listed.description.packedSize ? ZipFault::kNone : ZipFault::kDamaged;
   }
 
   std::string_view archive_;
