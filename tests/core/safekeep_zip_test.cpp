@@ -152,6 +152,9 @@ TEST(ZipArchive, Zip64IsRefused) {
     EXPECT_EQ(FaultIn(archive), ZipFault::kZip64) << field;
   }
   std::string archive = Archive();
+  Poke(archive, Local(archive) + 18, 0xFFFFFFFFFFFFFFFF, 8);  // both sizes, of the local record alone
+  EXPECT_EQ(FaultIn(archive), ZipFault::kZip64);
+  archive = Archive();
   Poke(archive, End(archive) + 16, 0xFFFFFFFF, 4);
   EXPECT_EQ(FaultIn(archive), ZipFault::kZip64);
   archive = Archive();
