@@ -6,15 +6,15 @@ namespace safekeep {
 namespace {
 
 constexpr KeptFile kKeptFiles[] = {
-    {"shabbat2.ini", "Your own places, and the Shabbat time preferences"},
-    {"shabloc2.ini", "Your own places: coordinates and zones"},
-    {"almanachlp2.ini", "Your own places, for the sibling calendar"},
-    {"almanachlpl2.ini", "Your own places: coordinates and zones, for the sibling calendar"},
+    {"shabbat2.ini", "Your places and Shabbat time preferences"},
+    {"shabloc2.ini", "Your places: coordinates and zones"},
+    {"almanachlp2.ini", "Your places, for the sibling calendar"},
+    {"almanachlpl2.ini", "Coordinates, for the sibling calendar"},
     {"almanacelevation.ini", "Elevations of places"},
     {"almanac13.ini", "The place at the start"},
     {"placepick.ini", "Places used last"},
     {"solar.ini", "Summer time"},
-    {"shab30.ini", "Names of zmanim, built-in zmanim, forms of exports"},
+    {"shab30.ini", "Zmanim names and forms of exports"},
     {"stamp.ini", "Form of times"},
     {"candles.txt", "Custom candle-lighting times"},
     {"hours.txt", "Zmanim selection"},
@@ -25,10 +25,10 @@ constexpr KeptFile kKeptFiles[] = {
     {"readings.txt", "Custom readings"},
     {"readings.ini", "Custom readings: their window"},
     {"persons.txt", "Birthdays and yahrzeit"},
-    {"persons.txt.1", "Birthdays and yahrzeit, as they were before the last change"},
-    {"persons.txt.2", "Birthdays and yahrzeit, as they were before that"},
-    {"persons.txt.3", "Birthdays and yahrzeit, as they were earlier still"},
-    {"kinship.ini", "Birthdays and yahrzeit: their window and font"},
+    {"persons.txt.1", "Birthdays and yahrzeit, one change ago"},
+    {"persons.txt.2", "Birthdays and yahrzeit, two changes ago"},
+    {"persons.txt.3", "Birthdays and yahrzeit, three changes ago"},
+    {"kinship.ini", "Birthdays and yahrzeit: window and font"},
     {"safekeep.ini", "Restoring settings: its window"},
 };
 
