@@ -17,6 +17,7 @@
 #include "companion/kinship.h"
 #include "companion/lections.h"
 #include "companion/placepick.h"
+#include "companion/safekeep.h"
 #include "companion/stamp.h"
 #include "engine/current.h"
 #include "engine/optional_entries.h"
@@ -28,6 +29,7 @@
 #include "resources/ids.h"
 #include "shabbat/preferences_dialog.h"
 #include "win/message_box.h"
+#include "zmanim/custom_zmanim.h"
 #include "zmanim/print_zmanim.h"
 
 namespace {
@@ -134,6 +136,17 @@ void ChangeFormOfTimes(HWND frame) {
   if (StampConfigure(frame)) RedrawEverything(frame);
 }
 
+void BackUpSettings(HWND frame) {
+  SafekeepBackUp(frame);
+}
+
+// Any of the settings may be another.
+void RestoreSettings(HWND frame) {
+  if (!SafekeepRestore(frame)) return;
+  CustomZmanimHaveChanged();
+  OpenBesideRenewed(frame);
+}
+
 void ShowDafYomi(HWND frame) {
   const HWND document = ActiveDocument();
   if (!document) return;
@@ -207,6 +220,8 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_LOCATION_MANAGER, ManageLocations},
     {IDM_SUMMER_TIME, ChooseSummerTime},
     {IDM_BUILT_IN_ZMANIM, ToggleBuiltInZmanim},
+    {IDM_BACK_UP_SETTINGS, BackUpSettings},
+    {IDM_RESTORE_SETTINGS, RestoreSettings},
     {IDM_VIEW_SHABBAT_TIMES, PressButton<IDB_SHABBAT_TIMES>},
     {IDM_VIEW_ZMANIM, PressButton<IDB_ZMANIM>},
     {IDM_VIEW_READINGS, PressButton<IDB_READINGS>},

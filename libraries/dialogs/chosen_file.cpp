@@ -2,6 +2,8 @@
 
 #include <commdlg.h>
 
+#include <utility>
+
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/settings_folder/eight_bit_text.h"
 #include "libraries/settings_folder/settings_folder.h"
@@ -56,7 +58,8 @@ bool WriteOrTell(HWND owner, const std::wstring& path, const std::string& text, 
   return false;
 }
 
-std::optional<std::string> TextOfFileOrTell(HWND owner, const std::wstring& path, const std::wstring& what) {
+std::optional<std::string> BytesOfFileOrTell(HWND owner, const std::wstring& path, const std::wstring& what,
+                                             const std::wstring& again) {
   const std::wstring file = settings_folder::WithoutLengthLimit(settings_folder::FullPath(path));
   if (settings_folder::StampOf(file).sizeBytes > kMostBytes) {
     ShowError(owner, L"The file\n" + path + L"\nis far too large to be " + what + L".");
@@ -64,12 +67,19 @@ std::optional<std::string> TextOfFileOrTell(HWND owner, const std::wstring& path
   }
   std::string bytes;
   if (settings_folder::ReadWholeFile(file, settings_folder::Patience::kShort, &bytes) == ReadResult::kRead) {
-    return settings_folder::Utf8Text(std::move(bytes));
+    return bytes;
   }
   ShowError(owner, L"The file\n" + path +
                        L"\ncannot be read. See to it that no other program holds it and that you may open "
-                       L"it, then import again.");
+                       L"it, then " +
+                       again + L".");
   return std::nullopt;
+}
+
+std::optional<std::string> TextOfFileOrTell(HWND owner, const std::wstring& path, const std::wstring& what) {
+  std::optional<std::string> bytes = BytesOfFileOrTell(owner, path, what, L"import again");
+  if (bytes) bytes = settings_folder::Utf8Text(std::move(*bytes));
+  return bytes;
 }
 
 bool IsSamePath(const std::wstring& left, const std::wstring& right) {

@@ -24,8 +24,13 @@ std::wstring AskForFileToRead(HWND owner, const FileQuestion& question);
 // the user does to have it tried again, "export again".
 bool WriteOrTell(HWND owner, const std::wstring& path, const std::string& text, const std::wstring& again);
 
-// The text of a file, which is UTF-8 or has the mark of UTF-16; nothing, and the user is told why, when it cannot be
-// read. what: what such a file is, "a table of dates".
+// The bytes of a file; nothing, and the user is told why, when it cannot be read. what: what such a file is, "a table
+// of dates". again: what the user does to have it tried again, "import again".
+std::optional<std::string> BytesOfFileOrTell(HWND owner, const std::wstring& path, const std::wstring& what,
+                                             const std::wstring& again);
+
+// The text of a file to import, which is UTF-8 or has the mark of UTF-16; nothing, and the user is told why,
+// when it cannot be read. what: as above.
 std::optional<std::string> TextOfFileOrTell(HWND owner, const std::wstring& path, const std::wstring& what);
 
 // Whether two paths name one file, as far as their full paths tell.

@@ -8,7 +8,7 @@
 namespace settings_folder {
 namespace {
 
-constexpr std::chrono::milliseconds kAskInterval(50);
+constexpr std::chrono::milliseconds kAskInterval(kAskIntervalMilliseconds);
 // Some editors delete the old file before they put the new one in its place.
 constexpr DWORD kGoneWaitMilliseconds = 10;
 // How often a change is made anew because another program changed the file meanwhile.

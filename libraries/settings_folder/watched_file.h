@@ -11,6 +11,11 @@
 
 namespace settings_folder {
 
+// How often the file itself is asked at most, and how long after a change whoever calls Refresh surely sees it: that
+// and a tick of the system's clock.
+inline constexpr uint32_t kAskIntervalMilliseconds = 50;
+inline constexpr uint32_t kSeenWithinMilliseconds = kAskIntervalMilliseconds + 16;
+
 // Knows which version of the file its owner has seen. The bytes it hands over are 8-bit text, whatever encoding an
 // editor left. Not for use by several threads at once.
 class WatchedFile {

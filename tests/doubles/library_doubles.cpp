@@ -17,6 +17,7 @@
 #include "companion/majority.h"
 #include "companion/ownhours.h"
 #include "companion/placepick.h"
+#include "companion/safekeep.h"
 #include "companion/stamp.h"
 #include "companion/twilight.h"
 #include "engine/bound_entries.h"
@@ -310,6 +311,17 @@ void MajorityInitDialogData(MajorityDialogData* data) {
 void MajorityDoDialog(HWND owner, MajorityDialogData* data) {
   Libraries().dialogOwner = owner;
   LogCall("coming of age of %u.%u.%u %u %u", data->day, data->month, data->year, data->afterSunset, data->isGirl);
+}
+
+int32_t SafekeepBackUp(HWND owner) {
+  LogCall("back settings up, owner %s", owner ? "yes" : "none");
+  return 1;
+}
+int32_t SafekeepRestore(HWND owner) {
+  LogCall("restore settings, owner %s", owner ? "yes" : "none");
+  if (!Libraries().restoreSettings) return 0;
+  Libraries().restoreSettings();
+  return 1;
 }
 
 void FolioGetWithCycle(uint32_t day, uint32_t month, uint32_t year, char* text) {

@@ -110,6 +110,9 @@ struct LibraryScript {
   // placepick: the name that the user picks; empty: cancelled
   std::string pickedLocation;
 
+  // safekeep: what a backup brings back; empty: cancelled
+  std::function<void()> restoreSettings;
+
   HWND dialogOwner = nullptr;  // kinship and majority: of the last dialog
   HWND helpOwner = nullptr;    // guide: the window that the last help was for
 

@@ -70,8 +70,9 @@ const std::set<std::string> kSystemLibraries = {"kernel32.dll", "msvcrt.dll",   
 TEST(ImportTable, TheProgramImportsItsLibrariesButNotTheThreeThatItBindsByName) {
   const auto imports = ImageFile(ProgramFolder() / "shabbat.exe").ImportedLibraries();
   for (const char* bound : {"solar.dll", "civilcal.dll", "lunarcal.dll"}) EXPECT_EQ(imports.count(bound), 0u) << bound;
-  for (const char* linked : {"profile.dll", "twilight.dll", "stamp.dll", "glyphs.dll", "candles.dll", "hours.dll",
-                             "kinship.dll", "folio.dll", "majority.dll", "user32.dll", "gdi32.dll", "comctl32.dll"}) {
+  for (const char* linked :
+       {"profile.dll", "twilight.dll", "stamp.dll", "glyphs.dll", "candles.dll", "hours.dll", "kinship.dll",
+        "folio.dll", "majority.dll", "safekeep.dll", "user32.dll", "gdi32.dll", "comctl32.dll"}) {
     EXPECT_EQ(imports.count(linked), 1u) << linked;
   }
 }

@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::size_t kMostDocuments = 12;
 
-// Left out are the commands that lead to the system's dialogs for files (exports as text and RTF) and printers, where
-// Wine crashes by itself, to the browser (help), and to the end, which has an action of its own.
+// Left out are the commands that lead to the system's dialogs for files (exports as text and RTF, backups of settings)
+// and printers, where Wine crashes by itself, to the browser (help), and to the end, which has an action of its own.
 constexpr unsigned kCommands[] = {IDM_SELECT_LOCATION,    IDM_SELECT_RANGE,
                                   IDM_SELECT_RANGE,       IDM_SUNSET_OF_A_DAY,
                                   IDM_EXPORT_ZMANIM,      IDM_EXPORT_DATES,

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "libraries/safekeep/kept_files.h"
 #include "tests/contract/held_file.h"
 #include "tests/contract/settings_home.h"
 #include "tests/profile_store/failing_calls.h"
@@ -53,6 +54,17 @@ TEST_F(PersonsFile, KeepsTheThreeVersionsBefore) {
   EXPECT_EQ(Version(2), Line("A") + Line("B") + Line("C"));
   EXPECT_EQ(Version(3), Line("A") + Line("B"));
   EXPECT_FALSE(HasVersion(4));
+}
+
+TEST_F(PersonsFile, EveryFileOfItIsKeptInBackups) {
+  home_.Put("persons.txt", Line("A"));
+  for (const char* name : {"B", "C", "D", "E", "F"}) ASSERT_TRUE(Add(name));
+  int files = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(home_.Folder())) {
+    ++files;
+    EXPECT_TRUE(safekeep::FindKeptFile(entry.path().filename().string())) << entry.path();
+  }
+  EXPECT_EQ(files, 4);
 }
 
 TEST_F(PersonsFile, WhatChangesNothingMakesNoVersion) {
