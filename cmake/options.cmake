@@ -16,8 +16,9 @@ if(WIN32)
   # form of the top is what a compiler cache makes of the first.
   target_compile_options(project_options INTERFACE
     $<$<COMPILE_LANGUAGE:C,CXX>:-g1>
-    $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>
-    $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=../..=.>)
+    $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>
+    $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=../../=>
+    $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${CMAKE_BINARY_DIR}=.>)
   # No time of linking in the files: the same sources make the same bytes (tools/check_reproducible). Loaded at any
   # address, also far above 4 GB, with data that are never code.
   add_link_options(-static -fstack-protector-strong
