@@ -44,9 +44,9 @@ class Image:
 
     def section(self, index):
         place = self.optional + self.number("<H", self.start + 20) + 40 * index
-        name, _, address, size, offset = struct.unpack_from("<8sIIII", self.content, place)
-        return {"name": name.rstrip(b"\0").decode(), "address": address, "size": size, "offset": offset,
-                "flags": self.number("<I", place + 36)}
+        name, memory, address, size, offset = struct.unpack_from("<8sIIII", self.content, place)
+        return {"name": name.rstrip(b"\0").decode(), "memory": memory, "address": address, "size": size,
+                "offset": offset, "flags": self.number("<I", place + 36)}
 
     def bytes_of(self, name):
         section = next(section for section in self.sections if section["name"] == name)
