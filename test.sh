@@ -28,7 +28,8 @@ if $monkey; then
 fi
 
 # shellcheck disable=SC2086
-tools/install_packages $check_packages $build_packages $test_packages $printing_packages $wine_packages
+tools/install_packages $check_packages $build_packages $test_packages $printing_packages $packaging_packages \
+  $wine_packages
 
 tools/check_sources
 

@@ -7,8 +7,23 @@ target_compile_options(project_options INTERFACE -Wall -Wextra -Wpedantic -Wshad
 if(WIN32)
   # The oldest Windows that GDI scaling (the manifest) knows is 10; the calls themselves go back to 7.
   target_compile_definitions(project_options INTERFACE WINVER=0x0601 _WIN32_WINNT=0x0601 WIN32_LEAN_AND_MEAN NOMINMAX)
-  # No time of linking in the files: the same sources make the same bytes (tools/check_reproducible).
-  add_link_options(-static -s -Wl,--no-insert-timestamp)
+  # Functions with arrays check that nothing was written past them; copies of the C headers, that they fit. These need an
+  # optimising build. libraries/terminate has what both call, where a target does not link it, GCC's libssp.
+  target_compile_options(project_options INTERFACE
+    $<$<COMPILE_LANGUAGE:C,CXX>:-fstack-protector-strong>
+    $<$<AND:$<COMPILE_LANGUAGE:C,CXX>,$<NOT:$<CONFIG:Debug>>>:-D_FORTIFY_SOURCE=2>)
+  # Functions and lines for the symbols; folders are named from the top of the sources, wherever these are. The second
+  # form of the top is what a compiler cache makes of the first.
+  target_compile_options(project_options INTERFACE
+    $<$<COMPILE_LANGUAGE:C,CXX>:-g1>
+    $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>
+    $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=../../=>
+    $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${CMAKE_BINARY_DIR}=.>)
+  # No time of linking in the files: the same sources make the same bytes (tools/check_reproducible). Loaded at any
+  # address, also far above 4 GB, with data that are never code.
+  add_link_options(-static -fstack-protector-strong
+    -Wl,--no-insert-timestamp,--dynamicbase,--high-entropy-va,--nxcompat
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:SYMBOLS_APART>>>:-s>)
 endif()
 if(TIMES_READINGS_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
