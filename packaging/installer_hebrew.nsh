@@ -1,0 +1,55 @@
+﻿; The installer's own texts in Hebrew, in the plural that addresses everybody. Paths stand between marks that keep
+; them from left to right (U+202A, U+202C).
+
+; Buttons
+LangString Back ${LANG_HEBREW} "< ה&קודם"
+LangString Next ${LANG_HEBREW} "ה&בא >"
+LangString Cancel ${LANG_HEBREW} "ביטול"
+LangString Close ${LANG_HEBREW} "&סגירה"
+LangString Install ${LANG_HEBREW} "הת&קנה"
+LangString Uninstall ${LANG_HEBREW} "ה&סרה"
+LangString Browse ${LANG_HEBREW} "&עיון..."
+LangString Finish ${LANG_HEBREW} "&סיום"
+
+; Installing
+LangString WelcomeTitle ${LANG_HEBREW} "ברוכים הבאים להתקנת $(^NameDA)"
+LangString WelcomeText ${LANG_HEBREW} "ההתקנה תתקין את $(^NameDA) ${VERSION} במחשב, עבורכם בלבד; אין צורך בהרשאות מנהל.$\r$\n$\r$\nאם מותקנת גרסה קודמת, היא תוחלף, וההגדרות שלכם יישמרו.$\r$\n$\r$\nאם $(^NameDA) פועלת כעת, סגרו אותה ולחצו על 'הבא'."
+LangString FolderTitle ${LANG_HEBREW} "בחירת תיקייה"
+LangString FolderSubtitle ${LANG_HEBREW} "היכן להתקין את $(^NameDA)."
+LangString FolderText ${LANG_HEBREW} "$(^NameDA) תותקן בתיקייה שלהלן. כדי להתקין בתיקייה אחרת, לחצו על 'עיון'. ההגדרות נשמרות בתיקייה נפרדת, לא כאן."
+LangString FolderLabel ${LANG_HEBREW} "תיקייה"
+LangString FolderBrowse ${LANG_HEBREW} "תיקייה עבור $(^NameDA):"
+LangString SpaceRequired ${LANG_HEBREW} "נפח דרוש: "
+LangString SpaceAvailable ${LANG_HEBREW} "נפח פנוי: "
+LangString InstallingTitle ${LANG_HEBREW} "מתקין"
+LangString InstallingSubtitle ${LANG_HEBREW} "נא להמתין בזמן התקנת $(^NameDA)."
+LangString InstalledTitle ${LANG_HEBREW} "ההתקנה הושלמה"
+LangString InstalledSubtitle ${LANG_HEBREW} "$(^NameDA) הותקנה בהצלחה."
+LangString NotInstalledTitle ${LANG_HEBREW} "ההתקנה לא הושלמה"
+LangString NotInstalledSubtitle ${LANG_HEBREW} "ההתקנה הופסקה לפני שהושלמה."
+LangString FinishTitle ${LANG_HEBREW} "$(^NameDA) הותקנה"
+LangString FinishText ${LANG_HEBREW} "$(^NameDA) ${VERSION} הותקנה במחשב. תמצאו אותה בתפריט 'התחל'."
+LangString FinishRun ${LANG_HEBREW} "ה&פעלת $(^NameDA) כעת"
+
+; Uninstalling
+LangString RemoveTitle ${LANG_HEBREW} "הסרת $(^NameDA)"
+LangString RemoveSubtitle ${LANG_HEBREW} "הסרת $(^NameDA) מהמחשב."
+LangString RemoveText ${LANG_HEBREW} "$(^NameDA) תוסר מתיקייה זו. קבצים משלכם שנמצאים בה יישארו."
+LangString RemoveSettings ${LANG_HEBREW} "למחוק &גם את ההגדרות, המקומות והאנשים שלי:"
+LangString RemovingTitle ${LANG_HEBREW} "מסיר"
+LangString RemovingSubtitle ${LANG_HEBREW} "נא להמתין בזמן הסרת $(^NameDA)."
+LangString RemovedTitle ${LANG_HEBREW} "ההסרה הושלמה"
+LangString RemovedSubtitle ${LANG_HEBREW} "$(^NameDA) הוסרה מהמחשב."
+LangString NotRemovedTitle ${LANG_HEBREW} "ההסרה לא הושלמה"
+LangString NotRemovedSubtitle ${LANG_HEBREW} "$(^NameDA) לא הוסרה."
+
+; Boxes
+LangString AlreadyRunning ${LANG_HEBREW} "ההתקנה או ההסרה של $(^NameDA) כבר פועלת. יש לסיים אותה תחילה."
+LangString InUse ${LANG_HEBREW} "$(^NameDA) פועלת כעת, או שתוכנה אחרת משתמשת באחד מקבציה:$\r$\n$\r$\n${U+202A}$HeldFile${U+202C}$\r$\n$\r$\nדבר לא השתנה. שמרו את עבודתכם, סגרו את התוכנה ונסו שוב."
+LangString CannotUseFolder ${LANG_HEBREW} "אין אפשרות לכתוב בתיקייה זו:$\r$\n$\r$\n${U+202A}$INSTDIR${U+202C}$\r$\n$\r$\nבחרו תיקייה אחרת, אחת משלכם."
+LangString CannotWrite ${LANG_HEBREW} "אין אפשרות לכתוב את הקובץ:$\r$\n$\r$\n${U+202A}$UnwrittenFile${U+202C}$\r$\n$\r$\nבדקו אם הדיסק מלא או אם תוכנה אחרת משתמשת בקובץ, ונסו שוב."
+LangString OlderVersion ${LANG_HEBREW} "מותקנת גרסה $InstalledVersion של $(^NameDA), החדשה מגרסה זו (${VERSION}). להתקין את הגרסה הישנה במקומה?"
+LangString Moves ${LANG_HEBREW} "$(^NameDA) מותקנת בתיקייה אחרת:$\r$\n$\r$\n${U+202A}$PreviousFolder${U+202C}$\r$\n$\r$\nהיא תוסר משם; קבצים משלכם יישארו. להמשיך?"
+LangString FontInUse ${LANG_HEBREW} "גופן התצוגה העברי נמצא בשימוש ולא ניתן היה להחליפו. מעבדי תמלילים ימשיכו להשתמש בגופן הקיים. כדי לקבל את החדש, צאו מ-Windows, היכנסו שוב והפעילו את ההתקנה פעם נוספת."
+LangString NotInstalledHere ${LANG_HEBREW} "$(^NameDA) אינה מותקנת בתיקייה זו:$\r$\n$\r$\n${U+202A}$INSTDIR${U+202C}"
+LangString NotAllRemoved ${LANG_HEBREW} "לא ניתן היה להסיר חלק מהקבצים מתיקייה זו:$\r$\n$\r$\n${U+202A}$INSTDIR${U+202C}$\r$\n$\r$\nמחקו אותם בעצמכם כאשר אף תוכנה אינה משתמשת בהם."
