@@ -34,12 +34,18 @@ ShowUninstDetails nevershow
 !include WinVer.nsh
 
 !define PROGRAM_NAME "Times / Readings"
+!define NAME_IN_TEXTS "Times${U+00A0}/${U+00A0}Readings" ; on one line
 !define FOLDER_NAME "Times Readings" ; file names have no slash
 !define SETUP_KEY "Software\Times Readings"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Times Readings"
 !define START_MENU "$SMPROGRAMS\${FOLDER_NAME}"
 ; Everything is unpacked here first: when the disk is full, the installed version is still whole.
 !define STAGING "$INSTDIR\setup.tmp"
+
+; What this version brings, what the one in INSTDIR brought, and the one in another folder.
+!define NEW_LIST "$PLUGINSDIR\new.txt"
+!define OLD_LIST "$PLUGINSDIR\old.txt"
+!define PREVIOUS_LIST "$PLUGINSDIR\previous.txt"
 
 Name "${PROGRAM_NAME}"
 OutFile "${OUTPUT}"
@@ -49,6 +55,8 @@ BrandingText "${PROGRAM_NAME} ${VERSION}"
 
 !tempfile CONTENTS_SCRIPT
 !tempfile CONTENTS_LIST
+!tempfile SIDEBAR
+!system '"${__FILEDIR__}/make_sidebar" "${ICON}" "${SIDEBAR}"' = 0
 !system '"${__FILEDIR__}/list_contents" "${CONTENTS}" "${CONTENTS_SCRIPT}" "${CONTENTS_LIST}"' = 0
 !include "${CONTENTS_SCRIPT}"
 !ifdef SIGN
@@ -59,7 +67,6 @@ BrandingText "${PROGRAM_NAME} ${VERSION}"
 !include "${__FILEDIR__}/installer_files.nsh"
 !include "${__FILEDIR__}/installer_font.nsh"
 
-Var OldList          ; what the version that is to be replaced brought, in INSTDIR
 Var PreviousFolder   ; another folder that the program is installed in, or empty
 Var InstalledVersion
 Var UnwrittenFile
@@ -80,7 +87,7 @@ Function .onInit
   !insertmacro MUI_LANGDLL_DISPLAY
   Call BeTheOnlyOne
   InitPluginsDir
-  File "/oname=$PLUGINSDIR\new.txt" "${CONTENTS_LIST}"
+  File "/oname=${NEW_LIST}" "${CONTENTS_LIST}"
   ReadRegStr $InstalledVersion HKCU "${UNINSTALL_KEY}" "DisplayVersion"
   ${VersionCompare} "$InstalledVersion" "${VERSION}" $0
   ${If} $InstalledVersion != ""
@@ -121,13 +128,18 @@ Function TryFolder
   ${EndIf}
 FunctionEnd
 
-; Finds what is installed already: OldList, PreviousFolder.
+; Finds what is installed already: the list of INSTDIR's earlier version, PreviousFolder and its list. Lists are read as
+; copies, since those in their folders are among the files that must be free.
 Function FindInstalled
-  StrCpy $OldList "$INSTDIR\${INSTALLED_LIST}"
+  Delete "${OLD_LIST}"
+  Delete "${PREVIOUS_LIST}"
+  CopyFiles /SILENT "$INSTDIR\${INSTALLED_LIST}" "${OLD_LIST}"
   ReadRegStr $PreviousFolder HKCU "${UNINSTALL_KEY}" "InstallLocation"
   ${If} $PreviousFolder == $INSTDIR
   ${OrIfNot} ${FileExists} "$PreviousFolder\${INSTALLED_LIST}"
     StrCpy $PreviousFolder ""
+  ${Else}
+    CopyFiles /SILENT "$PreviousFolder\${INSTALLED_LIST}" "${PREVIOUS_LIST}"
   ${EndIf}
 FunctionEnd
 
@@ -136,16 +148,16 @@ Function WaitUntilFree
   Call FindInstalled
   again:
   StrCpy $ListFolder $INSTDIR
-  StrCpy $ListFile "$PLUGINSDIR\new.txt"
+  StrCpy $ListFile "${NEW_LIST}"
   Call FindHeldFile
   ${If} $HeldFile == ""
-    StrCpy $ListFile $OldList
+    StrCpy $ListFile "${OLD_LIST}"
     Call FindHeldFile
   ${EndIf}
   ${If} $HeldFile == ""
   ${AndIf} $PreviousFolder != ""
     StrCpy $ListFolder $PreviousFolder
-    StrCpy $ListFile "$PreviousFolder\${INSTALLED_LIST}"
+    StrCpy $ListFile "${PREVIOUS_LIST}"
     Call FindHeldFile
   ${EndIf}
   ${If} $HeldFile != ""
@@ -187,7 +199,7 @@ FunctionEnd
 
 ; Brings the unpacked files to their places, each in one step.
 Function MoveStagedFiles
-  FileOpen $0 "$PLUGINSDIR\new.txt" r
+  FileOpen $0 "${NEW_LIST}" r
   ${Do}
     Call ReadName
     ${If} $1 == ""
@@ -213,13 +225,12 @@ FunctionEnd
 
 Function RemoveEarlierFiles
   StrCpy $ListFolder $INSTDIR
-  StrCpy $ListFile "$PLUGINSDIR\old.txt"
-  StrCpy $KeepList "$PLUGINSDIR\new.txt"
+  StrCpy $ListFile "${OLD_LIST}"
+  StrCpy $KeepList "${NEW_LIST}"
   Call RemoveListed
   ${If} $PreviousFolder != ""
     StrCpy $ListFolder $PreviousFolder
-    CopyFiles /SILENT "$PreviousFolder\${INSTALLED_LIST}" "$PLUGINSDIR\previous.txt"
-    StrCpy $ListFile "$PLUGINSDIR\previous.txt"
+    StrCpy $ListFile "${PREVIOUS_LIST}"
     StrCpy $KeepList ""
     Call RemoveListed
     RMDir $PreviousFolder
@@ -250,7 +261,6 @@ Section
   ${If} ${Silent}
     Call TakeFolderSilently
   ${EndIf}
-  CopyFiles /SILENT $OldList "$PLUGINSDIR\old.txt"
   !insertmacro ExtractContents "${STAGING}"
   SetOutPath "${STAGING}"
   File "/oname=${INSTALLED_LIST}" "${CONTENTS_LIST}"
@@ -289,9 +299,9 @@ Function un.onInit
     Quit
   ${EndIf}
   InitPluginsDir
-  File "/oname=$PLUGINSDIR\new.txt" "${CONTENTS_LIST}"
+  File "/oname=${NEW_LIST}" "${CONTENTS_LIST}"
   StrCpy $ListFolder $INSTDIR
-  StrCpy $ListFile "$PLUGINSDIR\new.txt"
+  StrCpy $ListFile "${NEW_LIST}"
   StrCpy $RemovesSettings 0
   ${GetParameters} $0
   ClearErrors
@@ -378,3 +388,4 @@ SectionEnd
 
 !delfile "${CONTENTS_SCRIPT}"
 !delfile "${CONTENTS_LIST}"
+!delfile "${SIDEBAR}"
