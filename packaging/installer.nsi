@@ -37,7 +37,9 @@ ShowUninstDetails nevershow
 !define NAME_IN_TEXTS "Times${U+00A0}/${U+00A0}Readings" ; on one line
 !define FOLDER_NAME "Times Readings" ; file names have no slash
 !define SETUP_KEY "Software\Times Readings"
-!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Times Readings"
+!define PROGRAMS_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+!define UNINSTALL_KEY "${PROGRAMS_KEY}\Times Readings"
+!define USER_PROGRAMS "$LOCALAPPDATA\Programs"
 !define START_MENU "$SMPROGRAMS\${FOLDER_NAME}"
 ; Everything is unpacked here first: when the disk is full, the installed version is still whole.
 !define STAGING "$INSTDIR\setup.tmp"
@@ -49,7 +51,7 @@ ShowUninstDetails nevershow
 
 Name "${PROGRAM_NAME}"
 OutFile "${OUTPUT}"
-InstallDir "$LOCALAPPDATA\Programs\${FOLDER_NAME}"
+InstallDir "${USER_PROGRAMS}\${FOLDER_NAME}"
 InstallDirRegKey HKCU "${SETUP_KEY}" "Folder"
 BrandingText "${PROGRAM_NAME} ${VERSION}"
 
@@ -360,6 +362,7 @@ Function un.Unregister
   Delete "${START_MENU}\Uninstall Times Readings.lnk"
   RMDir "${START_MENU}"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  DeleteRegKey /ifempty HKCU "${PROGRAMS_KEY}"
   DeleteRegKey HKCU "${SETUP_KEY}"
 FunctionEnd
 
@@ -375,6 +378,7 @@ Section Uninstall
   StrCpy $KeepList ""
   Call un.RemoveListed
   RMDir $INSTDIR
+  RMDir "${USER_PROGRAMS}" ; when no other program is there
   Call un.Unregister
   ${If} $RemovesSettings = 1
     StrCpy $0 "$APPDATA\${FOLDER_NAME}"
