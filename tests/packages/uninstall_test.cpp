@@ -30,10 +30,12 @@ std::vector<std::string> Difference(const std::set<std::wstring>& from, const st
 }
 
 // What the system keeps: in the temporary folder, which it clears, the running copy of an uninstaller, which cannot
-// delete itself; and what Wine remembers of a font's looks.
+// delete itself; of Wine's own keys what it remembers of a font's looks, and settings of a session.
 bool IsTheSystems(const std::string& line) {
+  constexpr const char* kWine[] = {"HKCU\\Software\\Wine\\Fonts\\Cache\\DisplayHebrew1",
+                                   "HKCU\\Software\\Wine\\Temporary System Parameters"};
   return line.find("\\Temp\\~nsu") != std::string::npos ||
-         line.starts_with("HKCU\\Software\\Wine\\Fonts\\Cache\\DisplayHebrew1");
+         std::ranges::any_of(kWine, [&](const char* key) { return line.starts_with(key); });
 }
 
 }  // namespace
