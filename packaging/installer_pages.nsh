@@ -4,6 +4,8 @@
 !define MUI_UNICON "${ICON}"
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDEBAR}"
 !define MUI_ABORTWARNING_CANCEL_DEFAULT
+!define MUI_CUSTOMFUNCTION_GUIINIT ShowHeaderIcon
+!define MUI_CUSTOMFUNCTION_UNGUIINIT un.ShowHeaderIcon
 
 !define MUI_LANGDLL_REGISTRY_ROOT HKCU
 !define MUI_LANGDLL_REGISTRY_KEY "${SETUP_KEY}"
@@ -72,6 +74,26 @@ VIFileVersion "${VERSION}"
 !macroend
 !insertmacro VERSION_TEXTS ${LANG_ENGLISH}
 !insertmacro VERSION_TEXTS ${LANG_HEBREW}
+
+; A dialog that is turned round for Hebrew leaves the icon in its header without a size, at the place of its right edge.
+!macro SHOW_HEADER_ICON un
+Function ${un}ShowHeaderIcon
+  ${If} $(^RTL) = 0
+    Return
+  ${EndIf}
+  GetDlgItem $0 $HWNDPARENT 1039
+  System::Call '*(i 0, i 0, i 0, i 0) p.r1'
+  System::Call 'user32::GetWindowRect(p r0, p r1)'
+  System::Call 'user32::MapWindowPoints(p 0, p $HWNDPARENT, p r1, i 1)'
+  System::Call '*$1(i.r2, i.r3)'
+  System::Free $1
+  System::Call 'user32::GetSystemMetrics(i 11) i.r4' ; SM_CXICON
+  IntOp $2 $2 - $4
+  System::Call 'user32::SetWindowPos(p r0, p 0, i r2, i r3, i r4, i r4, i 0x14)' ; SWP_NOZORDER, SWP_NOACTIVATE
+FunctionEnd
+!macroend
+!insertmacro SHOW_HEADER_ICON ""
+!insertmacro SHOW_HEADER_ICON "un."
 
 ; The uninstaller's page: where it removes from, and whether the user's own data are to go too.
 Function un.ShowRemovePage
