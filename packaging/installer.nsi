@@ -94,7 +94,8 @@ Function .onInit
   ${VersionCompare} "$InstalledVersion" "${VERSION}" $0
   ${If} $InstalledVersion != ""
   ${AndIf} $0 = 1
-    MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "$(OlderVersion)" /SD IDYES IDYES +2
+    MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "$(OlderVersion)" /SD IDYES IDYES +3
+    SetErrorLevel 1
     Quit
   ${EndIf}
 FunctionEnd

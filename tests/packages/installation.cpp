@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
+#include <functional>
 #include <stdexcept>
 
 #include "tests/end_to_end/program_driver.h"
@@ -36,6 +37,20 @@ bool SetupRuns() {
   const HANDLE mutex = OpenMutexW(SYNCHRONIZE, FALSE, L"TimesReadingsSetup");
   if (mutex) CloseHandle(mutex);
   return mutex != nullptr;
+}
+
+void WaitUntil(const std::function<bool()>& condition) {
+  const ULONGLONG end = GetTickCount64() + kInstallMilliseconds;
+  while (!condition()) {
+    ASSERT_LT(GetTickCount64(), end) << "waited in vain";
+    Sleep(kPollMilliseconds);
+  }
+}
+
+// A path of drive C as the file system under Wine has it, quoted. Wine makes no links itself, but shows those of that
+// file system as reparse points.
+std::wstring BelowWine(const fs::path& path) {
+  return L"\"" + Given("WINEPREFIX").generic_wstring() + L"/drive_c/" + path.relative_path().generic_wstring() + L"\"";
 }
 
 void CollectRegistry(HKEY key, const std::wstring& name, std::set<std::wstring>& state) {
@@ -146,11 +161,7 @@ DWORD Install(const std::wstring& options) {
 void Uninstall(const fs::path& folder, const std::wstring& options) {
   const fs::path uninstaller = folder / "uninstall.exe";
   StartedProgram(L"\"" + uninstaller.wstring() + L"\" /S " + options).WaitForExit();
-  const ULONGLONG end = GetTickCount64() + kInstallMilliseconds;
-  while (fs::exists(uninstaller) || SetupRuns()) {
-    ASSERT_LT(GetTickCount64(), end) << "the uninstaller goes on and on";
-    Sleep(kPollMilliseconds);
-  }
+  WaitUntil([&] { return !fs::exists(uninstaller) && !SetupRuns(); });
 }
 
 DWORD UninstallInPlace(const fs::path& folder) {
@@ -172,6 +183,16 @@ void CopyFiles(const fs::path& from, const fs::path& to) {
     fs::create_directories((to / name).parent_path());
     WriteFileText(to / name, bytes);
   }
+}
+
+void Link(const fs::path& name, const fs::path& target) {
+  const StartedProgram ln(L"Z:\\bin\\ln -s " + BelowWine(target) + L" " + BelowWine(name));
+  WaitUntil([&] { return fs::exists(name); });
+}
+
+void Unlink(const fs::path& name) {
+  const StartedProgram rm(L"Z:\\bin\\rm " + BelowWine(name));
+  WaitUntil([&] { return !fs::exists(name); });
 }
 
 std::optional<std::wstring> UserValue(const std::wstring& key, const std::wstring& name) {

@@ -65,6 +65,10 @@ std::map<std::wstring, std::string> FilesOf(const std::filesystem::path& folder)
 // A copy of a folder's files in another folder.
 void CopyFiles(const std::filesystem::path& from, const std::filesystem::path& to);
 
+// Makes a folder's name lead to another folder, as a junction does; and takes the name away.
+void Link(const std::filesystem::path& name, const std::filesystem::path& target);
+void Unlink(const std::filesystem::path& name);
+
 // A value of the user's registry as text; nothing where there is none.
 std::optional<std::wstring> UserValue(const std::wstring& key, const std::wstring& name);
 void SetUserValue(const std::wstring& key, const std::wstring& name, const std::wstring& value);

@@ -93,6 +93,23 @@ TEST(UninstallTest, SettingsGoWhenThatIsAskedFor) {
   EXPECT_FALSE(fs::exists(SettingsFolder()));
 }
 
+TEST(UninstallTest, WhatALinkLeadsToStays) {
+  ASSERT_EQ(Install(), kDone);
+  const fs::path elsewhere = L"C:\\elsewhere";
+  fs::create_directories(elsewhere);
+  fs::create_directories(SettingsFolder());
+  for (const char* name : {"index.html", "persons.txt"}) WriteFileText(elsewhere / name, "not ours");
+  fs::remove_all(InstalledFolder() / "help");
+  Link(InstalledFolder() / "help", elsewhere);
+  Link(SettingsFolder() / "linked", elsewhere);
+  Uninstall(InstalledFolder(), L"/REMOVESETTINGS");
+  EXPECT_FALSE(fs::exists(InstalledFolder() / "shabbat.exe"));
+  EXPECT_EQ(FilesOf(elsewhere).size(), 2u);
+  Unlink(InstalledFolder() / "help");
+  if (fs::exists(SettingsFolder() / "linked")) Unlink(SettingsFolder() / "linked");  // Wine does not remove links
+  for (const auto& folder : {InstalledFolder(), SettingsFolder(), elsewhere}) fs::remove_all(folder);
+}
+
 TEST(UninstallTest, AnUninstallerWithoutItsProgramRemovesNothing) {
   ASSERT_EQ(Install(), kDone);
   TemporaryFolder elsewhere;
