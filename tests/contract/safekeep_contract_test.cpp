@@ -80,30 +80,36 @@ TEST_F(SafekeepTest, SettingsAreRestoredIntoAFolderThatDoesNotExistYet) {
   SetHome(home_.Folder().c_str());
 }
 
+std::string Form() {
+  char text[8] = "";
+  ProfileGetString("Times", "Form", "", text, sizeof text, "stamp.ini");
+  return text;
+}
+
+// The profile library asks for a file at most every 50 ms: settings that it has read just before they were restored are
+// not what it answers afterwards, however fast the user is.
 TEST_F(SafekeepTest, WhoeverReadsSettingsAfterwardsSeesTheRestoredOnes) {
-  const auto form = [] {
-    char text[8] = "";
-    ProfileGetString("Times", "Form", "", text, sizeof text, "stamp.ini");
-    return std::string(text);
-  };
-  std::string afterwards;
   home_.Put("stamp.ini", kTwelveHours);
   BackUp("mine.zip");
-  home_.Put("stamp.ini", kTwentyFourHours);
-  WaitUntilSeen();
-  DialogDriver run([&](HWND owner) {
-    const int32_t restored = SafekeepRestore(owner);
-    afterwards = form();
-    return restored;
-  });
-  ChooseFile(run, kChooseTitle, home_.Path("mine.zip"));
-  EXPECT_EQ(form(), "24");
-  Press(run.WaitFor(kRestoreTitle), IDOK);
-  EXPECT_TRUE(Eventually([&] { return home_.Bytes("stamp.ini") == kTwelveHours; }));
-  form();  // asks the file, and does not ask again for a while
-  run.Answer(kRestoreTitle, run.Owner(), IDI_ASTERISK, IDOK);
-  EXPECT_NE(run.Result(), 0);
-  EXPECT_EQ(afterwards, "12");
+  for (int i = 0; i < 5; ++i) {
+    home_.Put("stamp.ini", kTwentyFourHours);
+    WaitUntilSeen();
+    std::string afterwards;
+    DialogDriver run([&afterwards](HWND owner) {
+      const int32_t restored = SafekeepRestore(owner);
+      afterwards = Form();
+      return restored;
+    });
+    ChooseFile(run, kChooseTitle, home_.Path("mine.zip"));
+    const HWND dialog = run.WaitFor(kRestoreTitle);
+    EXPECT_EQ(Form(), "24");
+    Press(dialog, IDOK);
+    EXPECT_TRUE(Eventually([&] { return !IsWindow(dialog); }));
+    // Answers the box the moment it is there.
+    while (IsWindow(run.Owner())) PostMessageW(DialogWithCaption(kRestoreTitle), WM_COMMAND, IDOK, 0);
+    EXPECT_NE(run.Result(), 0);
+    EXPECT_EQ(afterwards, "12");
+  }
 }
 
 TEST_F(SafekeepTest, TheDialogListsWhatHappensToEachFile) {
