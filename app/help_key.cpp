@@ -14,6 +14,7 @@ constexpr char kZmanim[] = "Zmanim";
 constexpr char kReadings[] = "Readings";
 constexpr char kPersons[] = "Persons";
 constexpr char kExports[] = "Exports and printing";
+constexpr char kSettings[] = "Settings";
 
 struct HelpTopic {
   unsigned id;
@@ -52,6 +53,7 @@ constexpr HelpTopic kDialogTopics[] = {
     {HELPID_MAJORITY, kPersons},
     {HELPID_PRINT_PREVIEW, kPersons},
     {HELPID_SOLAR_SUMMER_TIME, kPlaces},
+    {HELPID_SAFEKEEP_RESTORE, kSettings},
 };
 
 struct ViewTopic {

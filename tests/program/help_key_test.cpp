@@ -122,6 +122,7 @@ TEST_F(HelpKeyTest, EachDialogOfALibraryHasItsPage) {
                                                  {HELPID_MAJORITY, "Persons"},
                                                  {HELPID_PRINT_PREVIEW, "Persons"},
                                                  {HELPID_SOLAR_SUMMER_TIME, "Places"},
+                                                 {HELPID_SAFEKEEP_RESTORE, "Settings"},
                                                  {4711, "Start"}};
   WithDialog([&] { RunDialog<HandleAny>(frame_, "ABOUTDLG"); },
              [&](HWND dialog) {
