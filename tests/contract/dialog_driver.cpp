@@ -1,7 +1,6 @@
 #include "tests/contract/dialog_driver.h"
 
 #include <gtest/gtest.h>
-#include <objbase.h>
 
 #include <algorithm>
 #include <future>
@@ -22,27 +21,6 @@ BOOL CALLBACK CollectDialog(HWND window, LPARAM wanted) {
 bool IsMessageBox(HWND dialog) {
   return GetDlgItem(dialog, kMessageTextId) != nullptr;
 }
-
-// The system's dialogs for files share objects between threads. Wine begins to listen for calls of these with the first
-// such object of the process and stops with the last; a thread that begins at the moment when another stops waits for
-// ever. An object that is always shared keeps it listening.
-class AlwaysListening : public testing::Environment {
- public:
-  void SetUp() override {
-    std::promise<HRESULT> started;
-    std::future<HRESULT> start = started.get_future();
-    std::thread([started = std::move(started)]() mutable {
-      CoInitializeEx(nullptr, COINIT_MULTITHREADED);
-      IStream* object = nullptr;
-      IStream* shared = nullptr;
-      CreateStreamOnHGlobal(nullptr, TRUE, &object);
-      started.set_value(CoMarshalInterThreadInterfaceInStream(IID_IUnknown, object, &shared));
-      Sleep(INFINITE);  // until the process ends
-    }).detach();
-    EXPECT_EQ(start.get(), S_OK);
-  }
-};
-const testing::Environment* const listening = testing::AddGlobalTestEnvironment(new AlwaysListening);
 
 HWND MakeOwner() {
   return CreateWindowW(L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300, nullptr, nullptr, nullptr,
