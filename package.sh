@@ -4,6 +4,13 @@
 #
 # Signed with a certificate when TIMES_READINGS_CERTIFICATE names one (see packaging/sign).
 set -eu
+# The files of the certificate may be named from the folder at hand.
+for variable in TIMES_READINGS_CERTIFICATE TIMES_READINGS_CERTIFICATE_PASSWORD_FILE; do
+  file=$(printenv "$variable" || true)
+  [ -n "$file" ] || continue
+  [ -r "$file" ] || { echo "package.sh: $file ($variable) cannot be read" >&2; exit 1; }
+  export "$variable=$(realpath "$file")"
+done
 cd "$(dirname "$0")"
 . tools/packages.sh
 

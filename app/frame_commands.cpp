@@ -140,9 +140,11 @@ void BackUpSettings(HWND frame) {
   SafekeepBackUp(frame);
 }
 
-// Any of the settings may be another.
+// Any of the settings may be another, where the user's own place is among them.
 void RestoreSettings(HWND frame) {
   if (!SafekeepRestore(frame)) return;
+  Location place = CurrentLocation;
+  if (LookUpLocation(place) != LocationSource::kNowhere) CurrentLocation = place;
   CustomZmanimHaveChanged();
   OpenBesideRenewed(frame);
 }

@@ -29,7 +29,6 @@ struct Watch {
   bool hasReport = false;
   const char* program = nullptr;
   uint32_t windowsVersion[3] = {};
-  volatile LONG reportingThread = 0;  // 0: nothing has happened
   CrashModule modules[kMostModules] = {};
   uint64_t calls[kMostCalls] = {};
   char text[kTextBytes] = {};
@@ -49,6 +48,14 @@ void ReadWindowsVersion(uint32_t (&version)[3]) {
   version[0] = answer.dwMajorVersion;
   version[1] = answer.dwMinorVersion;
   version[2] = answer.dwBuildNumber;
+}
+
+// In wide characters, since the other form of the call takes memory of the heap.
+void ReadModuleName(HMODULE module, char (&name)[sizeof CrashModule::name]) {
+  wchar_t wide[sizeof name] = L"";
+  GetModuleBaseNameW(GetCurrentProcess(), module, wide, sizeof name);
+  std::transform(std::begin(wide), std::end(wide), std::begin(name),
+                 [](wchar_t c) { return c == L'\0' || (c >= L' ' && c <= L'~') ? static_cast<char>(c) : '?'; });
 }
 
 // From the version resource as it lies in memory.
@@ -78,10 +85,7 @@ std::span<const CrashModule> ReadModules() {
     GetModuleInformation(GetCurrentProcess(), loaded[i], &info, sizeof info);
     module.base = reinterpret_cast<uintptr_t>(info.lpBaseOfDll);
     module.sizeBytes = info.SizeOfImage;
-    GetModuleBaseNameA(GetCurrentProcess(), loaded[i], module.name, sizeof module.name);
-    for (char& c : module.name) {
-      if (c != '\0' && (c < ' ' || c > '~')) c = '?';
-    }
+    ReadModuleName(loaded[i], module.name);
     ReadModuleVersion(loaded[i], module.version);
   }
   return {watch.modules, count};
@@ -96,7 +100,8 @@ bool IsReadable(uint64_t address) {
 // Unwinds from a context. A damaged stack ends it early.
 std::span<const uint64_t> ReadCalls(CONTEXT context) {
   std::size_t count = 0;
-  while (count < kMostCalls && context.Rip != 0) {
+  // A call of what is not there begins with the address 0.
+  while (count < kMostCalls && (count == 0 || context.Rip != 0)) {
     watch.calls[count++] = context.Rip;
     if (!IsReadable(context.Rsp)) break;
     DWORD64 base = 0;
@@ -113,7 +118,7 @@ std::span<const uint64_t> ReadCalls(CONTEXT context) {
   return {watch.calls, count};
 }
 
-CrashFacts FactsOf(const EXCEPTION_RECORD& exception, std::span<const CrashModule> modules) {
+CrashFacts FactsOf(const EXCEPTION_RECORD& exception) {
   SYSTEMTIME now;
   GetSystemTime(&now);
   CrashFacts facts{};
@@ -128,7 +133,6 @@ CrashFacts FactsOf(const EXCEPTION_RECORD& exception, std::span<const CrashModul
     facts.access = exception.ExceptionInformation[0];
     facts.accessedAddress = exception.ExceptionInformation[1];
   }
-  facts.modules = modules;
   return facts;
 }
 
@@ -137,18 +141,19 @@ bool Append(HANDLE file, std::size_t length) {
   return WriteFile(file, watch.text, static_cast<DWORD>(length), &written, nullptr) && written == length;
 }
 
-// The calls come last, in a write of their own: unwinding a damaged stack may fail, and what stands is kept then.
-bool WriteReport(const EXCEPTION_POINTERS& crash) {
+// In several writes: to look at modules and at the stack may fail in a damaged program, and what stands is kept then.
+void WriteReport(const EXCEPTION_POINTERS& crash) {
   CreateDirectoryW(watch.folder.c_str(), nullptr);
   MoveFileExW(watch.file.c_str(), watch.previousFile.c_str(), MOVEFILE_REPLACE_EXISTING);
   const HANDLE file = CreateFileW(watch.file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
                                   FILE_ATTRIBUTE_NORMAL | FILE_FLAG_WRITE_THROUGH, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return false;
+  if (file == INVALID_HANDLE_VALUE) return;
+  const CrashFacts facts = FactsOf(*crash.ExceptionRecord);
+  watch.hasReport = Append(file, WriteCrash(facts, watch.text));
   const auto modules = ReadModules();
-  const bool written = Append(file, WriteCrashText(FactsOf(*crash.ExceptionRecord, modules), watch.text)) &&
-                       Append(file, WriteCalls(ReadCalls(*crash.ContextRecord), modules, watch.text));
+  Append(file, WritePlace(facts.address, modules, watch.text));
+  Append(file, WriteCalls(ReadCalls(*crash.ContextRecord), modules, watch.text));
   CloseHandle(file);
-  return written;
 }
 
 DWORD WINAPI ShowBox(void*) {
@@ -157,23 +162,40 @@ DWORD WINAPI ShowBox(void*) {
   return 0;
 }
 
-// In a thread of its own: a box in this one would have the windows paint, which may be what crashed.
-void TellUser() {
-  const HANDLE thread = CreateThread(nullptr, 0, ShowBox, nullptr, 0, nullptr);
-  if (thread) WaitForSingleObject(thread, INFINITE);
+BOOL CALLBACK FindVisible(HWND window, LPARAM found) {
+  if (!IsWindowVisible(window)) return TRUE;
+  *reinterpret_cast<bool*>(found) = true;
+  return FALSE;
 }
 
-LONG WINAPI OnUnhandledException(EXCEPTION_POINTERS* crash) {
-  static volatile LONG tellingUser = 0;
-  const LONG thread = static_cast<LONG>(GetCurrentThreadId());
-  const LONG reporting = InterlockedCompareExchange(&watch.reportingThread, thread, 0);
-  if (reporting == 0) {
-    watch.hasReport = WriteReport(*crash);
-    InterlockedExchange(&tellingUser, 1);
-    TellUser();
-  } else if (reporting != thread && !tellingUser) {
-    Sleep(INFINITE);  // another thread's report is on its way, and then the end
+// In a thread of its own: a box in this one would have the windows paint, which may be what crashed. Where that thread
+// cannot begin, because this one holds what it needs, the end comes without a box.
+void TellUser() {
+  constexpr DWORD kPatienceMilliseconds = 10000;
+  DWORD id = 0;
+  const HANDLE thread = CreateThread(nullptr, 0, ShowBox, nullptr, 0, &id);
+  if (!thread) return;
+  while (WaitForSingleObject(thread, kPatienceMilliseconds) == WAIT_TIMEOUT) {
+    bool isBoxThere = false;
+    EnumThreadWindows(id, FindVisible, reinterpret_cast<LPARAM>(&isBoxThere));
+    if (!isBoxThere) return;
   }
+}
+
+enum Stage : LONG { kRunning, kWriting, kTelling };
+
+LONG WINAPI OnUnhandledException(EXCEPTION_POINTERS* crash) {
+  static volatile LONG stage = kRunning;
+  static volatile LONG crashedThread = 0;
+  const LONG thread = static_cast<LONG>(GetCurrentThreadId());
+  const LONG before = InterlockedCompareExchange(&stage, kWriting, kRunning);
+  if (before == kWriting && crashedThread != thread) Sleep(INFINITE);  // another's report, and then the end
+  if (before == kRunning) {
+    crashedThread = thread;
+    WriteReport(*crash);
+  }
+  // Once more in the same thread: the report is as far as it got.
+  if (before != kTelling && InterlockedExchange(&stage, kTelling) == kWriting) TellUser();
   TerminateProcess(GetCurrentProcess(), crash->ExceptionRecord->ExceptionCode);
   return EXCEPTION_EXECUTE_HANDLER;
 }

@@ -89,7 +89,8 @@ class Writer {
     }
     FileStamp written;
     if (settings_folder::ReplaceWholeFile(path, *bytes, known, &written) != ReplaceResult::kReplaced) return false;
-    known = written;
+    // Asked again: some disks round the time once the file is closed.
+    known = settings_folder::StampOf(path);
     return true;
   }
 

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 namespace {
 
 fs::path ProgramFolder() {  // "help" stands in it, as in the finished program's
-  return fs::path(__FILE__).parent_path().parent_path().parent_path();
+  return SOURCES;
 }
 
 std::string TextOf(const fs::path& file) {

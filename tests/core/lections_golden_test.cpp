@@ -80,7 +80,7 @@ const char* FolderToWriteTo() {
 }
 
 void CompareWithFiles(const std::vector<GoldenYear>& years) {
-  const fs::path folder = fs::path(__FILE__).parent_path().parent_path() / "golden" / "lections";
+  const fs::path folder = fs::path(SOURCES) / "tests" / "golden" / "lections";
   for (const GoldenYear& year : years) {
     if (FolderToWriteTo()) std::ofstream(fs::path(FolderToWriteTo()) / year.file, std::ios::binary) << YearText(year);
     std::ifstream file(folder / year.file, std::ios::binary);

@@ -48,7 +48,7 @@ std::set<std::string> SettingsNamedIn(const fs::path& source) {
 }
 
 std::map<std::string, fs::path> SettingsNamedInTheSources() {
-  const fs::path root = fs::path(__FILE__).parent_path().parent_path().parent_path();
+  const fs::path root = SOURCES;
   std::map<std::string, fs::path> names;
   for (const char* room :
        {"app", "document", "engine", "libraries", "locations", "publishing", "readings", "shabbat", "win", "zmanim"}) {

@@ -40,6 +40,9 @@ void RunThere(HANDLE process, const std::string& code) {
 const std::string kWriteToAddress16("\x31\xC0\xC6\x40\x10\x00", 6);
 // ud2
 const std::string kIllegalInstruction("\x0F\x0B", 2);
+// xor eax, eax; call rax
+const std::string kCallOfNothing("\x31\xC0\xFF\xD0", 4);
+
 // Crashes the program by such code, reads what the box says, and answers it; the exit code.
 DWORD Crash(const fs::path& settings, const std::string& code) {
   ProgramRun program(ProgramFolder(), settings);
@@ -80,8 +83,8 @@ TEST(CrashReport, SaysWhatHappenedWhereAndWithWhat) {
   const std::string report = ReadFileText(settings.path() / kReport);
   EXPECT_THAT(report, StartsWith("Crash report of Times / Readings 6.0.0.0001R\r\nWindows "));
   EXPECT_THAT(report, Matches("\r\nWindows [0-9]+\\.[0-9]+\\.[0-9]+, 20[0-9][0-9]-[01][0-9]-[0-3][0-9] "));
-  EXPECT_THAT(report, HasSubstr("\r\nWhat: access violation (0xC0000005), writing 0x10\r\nWhere: 0x"));
-  EXPECT_THAT(report, HasSubstr(", in no module\r\n"));
+  EXPECT_THAT(report, HasSubstr("\r\nWhat: access violation (0xC0000005), writing 0x10\r\nAt: 0x"));
+  EXPECT_THAT(report, Matches("\r\nAt: 0x[0-9A-F]+2\r\nWhere: 0x[0-9A-F]+2, in no module\r\n"));
   EXPECT_THAT(report, Matches("\r\n  shabbat\\.exe 6\\.0\\.0\\.1, from 0x[0-9A-F]+ on\r\n"));
   EXPECT_THAT(report, Matches("\r\n  profile\\.dll 6\\.0\\.0\\.1, from 0x[0-9A-F]+ on\r\n"));
   EXPECT_THAT(report, HasSubstr("\r\nCalls, the innermost first:\r\n  0x"));
@@ -99,6 +102,14 @@ TEST(CrashReport, NamesNoFolderAndNoUser) {
   ASSERT_TRUE(GetUserNameA(user, &size));
   EXPECT_THAT(report, AllOf(Not(HasSubstr("\\")), Not(HasSubstr(settings.path().filename().string())),
                             Not(HasSubstr(std::string(" ") + user))));
+}
+
+// The likeliest crash of a program that looks its entries up by name: who called tells.
+TEST(CrashReport, OfACallOfNothingHasWhoCalled) {
+  TemporaryFolder settings;
+  Crash(settings.path(), kCallOfNothing);
+  EXPECT_THAT(ReadFileText(settings.path() / kReport),
+              Matches("Calls, the innermost first:\r\n  0x0, in no module\r\n  0x[0-9A-F]+4, in no module\r\n"));
 }
 
 TEST(CrashReport, ThatIsThereAlreadyIsKeptAsThePreviousOne) {

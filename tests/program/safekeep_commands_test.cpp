@@ -64,6 +64,29 @@ TEST_F(SafekeepCommandsTest, RestoredSettingsOpenADocumentByTheCandleRuleOfThePl
   EXPECT_EQ(CandleOverride.fixedMinutes, 40);
 }
 
+// A place of the user's own may have been elsewhere then; one that is no more keeps its numbers.
+TEST_F(SafekeepCommandsTest, TheCurrentPlaceIsWhereTheRestoredSettingsHaveIt) {
+  std::strcpy(CurrentLocation.name, "Home");
+  CurrentLocation.latitude = 1;
+  Libraries().restoreSettings = [] {
+    Libraries().settings["shabbat2.ini|Locations|Home"] = "1";
+    Libraries().settings["shabloc2.ini|Home|LatitudeDegrees"] = "32";
+    Libraries().settings["shabloc2.ini|Home|LatitudeHours"] = "58";
+    for (const char* key :
+         {"LatitudeFlag", "LongitudeDegrees", "LongitudeHours", "LongitudeFlag", "TimeZone", "TimeZoneMin"}) {
+      Libraries().settings[std::string("shabloc2.ini|Home|") + key] = "";
+    }
+  };
+  Run(IDM_RESTORE_SETTINGS);
+  EXPECT_EQ(CurrentLocation.latitude, 3258);
+  std::strcpy(CurrentLocation.name, "Nowhere");
+  Libraries().settings["shabbat2.ini|Locations|Nowhere"] = "";
+  CurrentLocation.latitude = 1;
+  Run(IDM_RESTORE_SETTINGS);
+  EXPECT_EQ(CurrentLocation.latitude, 1);
+  EXPECT_STREQ(CurrentLocation.name, "Nowhere");
+}
+
 TEST_F(SafekeepCommandsTest, OpenDocumentsTakeOverRestoredTimesSetByHand) {
   EXPECT_EQ(TimeInBlock({1, 3}), (ClockTime{6, 30}));
   // The document's own range begins on the doubled today, 20 November 2026.

@@ -94,7 +94,7 @@ void AddModule(Lines& lines, const CrashModule& module) {
 
 }  // namespace
 
-std::size_t WriteCrashText(const CrashFacts& facts, std::span<char> buffer) {
+std::size_t WriteCrash(const CrashFacts& facts, std::span<char> buffer) {
   Lines lines(buffer);
   const uint16_t* const utc = facts.utc;
   lines.Add("Crash report of %s", facts.program);
@@ -108,10 +108,16 @@ std::size_t WriteCrashText(const CrashFacts& facts, std::span<char> buffer) {
   } else {
     lines.Add("What: %s (0x%08X)", NameOf(facts.code), facts.code);
   }
-  AddPlace(lines, "Where: ", facts.address, facts.modules);
+  lines.Add("At: 0x%" PRIX64, facts.address);
+  return lines.Length();
+}
+
+std::size_t WritePlace(uint64_t address, std::span<const CrashModule> modules, std::span<char> buffer) {
+  Lines lines(buffer);
+  AddPlace(lines, "Where: ", address, modules);
   lines.Add("%s", "");
   lines.Add("Modules:");
-  for (const CrashModule& module : facts.modules) AddModule(lines, module);
+  for (const CrashModule& module : modules) AddModule(lines, module);
   return lines.Length();
 }
 

@@ -27,12 +27,16 @@ struct CrashFacts {
   bool isAccess;               // an address could not be used: how and which follow
   uint64_t access;             // 0 reading, 1 writing, 8 executing
   uint64_t accessedAddress;
-  std::span<const CrashModule> modules;
 };
 
-// What happened, where, and the modules, in lines that end in CR and LF. Answers the text's length, at most the
-// buffer's; lines that do not fit are left out.
-std::size_t WriteCrashText(const CrashFacts& facts, std::span<char> buffer);
+// These write lines that end in CR and LF, and answer their length, at most the buffer's; lines that do not fit are
+// left out.
+
+// What happened, and at which address.
+std::size_t WriteCrash(const CrashFacts& facts, std::span<char> buffer);
+
+// In which module that address is, and all modules.
+std::size_t WritePlace(uint64_t address, std::span<const CrashModule> modules, std::span<char> buffer);
 
 // The calls that led there, the innermost first, as addresses of code; each a line with the module and the place in it.
 std::size_t WriteCalls(std::span<const uint64_t> calls, std::span<const CrashModule> modules, std::span<char> buffer);
