@@ -5,6 +5,7 @@
 Failing failing = Failing::kNothing;
 std::function<void()> doneMeanwhile;
 std::function<void()> doneAfterMissing;
+bool timesAreRounded = false;
 std::atomic<ULONGLONG> fileTimesAsked = 0;
 
 namespace {
@@ -54,7 +55,15 @@ BOOL WINAPI WriteFileDouble(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD coun
 
 BOOL WINAPI GetFileAttributesExDouble(LPCWSTR name, GET_FILEEX_INFO_LEVELS level, LPVOID data) {
   ++fileTimesAsked;
-  return Real<decltype(&GetFileAttributesExW)>("GetFileAttributesExW")(name, level, data);
+  const BOOL known = Real<decltype(&GetFileAttributesExW)>("GetFileAttributesExW")(name, level, data);
+  if (known && timesAreRounded) {
+    constexpr ULONGLONG kStep = 20'000'000;  // in units of 100 ns
+    FILETIME& time = static_cast<WIN32_FILE_ATTRIBUTE_DATA*>(data)->ftLastWriteTime;
+    ULARGE_INTEGER rounded = {{time.dwLowDateTime, time.dwHighDateTime}};
+    rounded.QuadPart -= rounded.QuadPart % kStep;
+    time = {rounded.LowPart, rounded.HighPart};
+  }
+  return known;
 }
 
 BOOL WINAPI FlushFileBuffersDouble(HANDLE file) {

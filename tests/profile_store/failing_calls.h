@@ -15,4 +15,7 @@ extern Failing failing;
 extern std::function<void()> doneMeanwhile;
 extern std::function<void()> doneAfterMissing;
 
+// Whether the disk tells the times of files in steps of two seconds, as FAT does.
+extern bool timesAreRounded;
+
 extern std::atomic<ULONGLONG> fileTimesAsked;

@@ -43,6 +43,7 @@ class RestoredSettings : public testing::Test {
   ~RestoredSettings() override {
     failing = Failing::kNothing;
     doneMeanwhile = nullptr;
+    timesAreRounded = false;
   }
 
   void PutOld() const {
@@ -129,6 +130,16 @@ TEST_F(RestoredSettings, AreWholeAndKeptInTheBackupOfBeforeWhenWritingEndsMidway
 }
 
 TEST_F(RestoredSettings, AreNotWrittenOverWhenAnotherProgramChangesOneAtThatMoment) {
+  AtFlush(3, [this] { home_.Put("solar.ini", "theirs"); });
+  const Restoring restoring = RestoreNow(New());
+  EXPECT_FALSE(restoring.isDone);
+  EXPECT_THAT(restoring.fault, HasSubstr(L"all settings are as they were"));
+  EXPECT_EQ(Contents(), (std::vector<std::string>{"old", "theirs", "old", "old"}));
+}
+
+// What was replaced is known again when it is to be put back.
+TEST_F(RestoredSettings, ArePutBackOnADiskThatRoundsTimes) {
+  timesAreRounded = true;
   AtFlush(3, [this] { home_.Put("solar.ini", "theirs"); });
   const Restoring restoring = RestoreNow(New());
   EXPECT_FALSE(restoring.isDone);
