@@ -100,6 +100,21 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
+; Rids INSTDIR of "..", of "/" and of a backslash at its end, so that what is registered is the folder's plain name.
+Function MakeFolderFull
+  StrCpy $1 $INSTDIR
+  System::Call 'kernel32::GetFullPathNameW(w r1, i ${NSIS_MAX_STRLEN}, w .r0, p 0) i.r2'
+  ${If} $2 = 0
+  ${OrIf} $2 >= ${NSIS_MAX_STRLEN}
+    Return
+  ${EndIf}
+  StrCpy $1 $0 1 -1
+  ${If} $1 == "\"
+    StrCpy $0 $0 -1
+  ${EndIf}
+  StrCpy $INSTDIR $0
+FunctionEnd
+
 ; $0 is 1 when INSTDIR can be written to; else 0. Leaves nothing behind.
 Function TryFolder
   StrCpy $0 0
@@ -131,6 +146,26 @@ Function TryFolder
   ${EndIf}
 FunctionEnd
 
+; $0 is 1 when PreviousFolder is INSTDIR. Links, drives and short names give a folder many names; so what counts is whether
+; a file made in the one is in the other.
+Function IsPreviousFolderHere
+  StrCpy $0 0
+  ${IfNot} ${FileExists} "$INSTDIR\*.*"
+    Return
+  ${EndIf}
+  ClearErrors
+  GetTempFileName $1 $INSTDIR
+  ${If} ${Errors}
+    StrCpy $0 1 ; not known: then nothing is removed from there
+    Return
+  ${EndIf}
+  ${GetFileName} $1 $2
+  ${If} ${FileExists} "$PreviousFolder\$2"
+    StrCpy $0 1
+  ${EndIf}
+  Delete $1
+FunctionEnd
+
 ; Finds what is installed already: the list of INSTDIR's earlier version, PreviousFolder and its list. Lists are read as
 ; copies, since those in their folders are among the files that must be free.
 Function FindInstalled
@@ -138,8 +173,13 @@ Function FindInstalled
   Delete "${PREVIOUS_LIST}"
   CopyFiles /SILENT "$INSTDIR\${INSTALLED_LIST}" "${OLD_LIST}"
   ReadRegStr $PreviousFolder HKCU "${UNINSTALL_KEY}" "InstallLocation"
-  ${If} $PreviousFolder == $INSTDIR
+  ${If} $PreviousFolder == ""
   ${OrIfNot} ${FileExists} "$PreviousFolder\${INSTALLED_LIST}"
+    StrCpy $PreviousFolder ""
+    Return
+  ${EndIf}
+  Call IsPreviousFolderHere
+  ${If} $0 = 1
     StrCpy $PreviousFolder ""
   ${Else}
     CopyFiles /SILENT "$PreviousFolder\${INSTALLED_LIST}" "${PREVIOUS_LIST}"
@@ -170,6 +210,7 @@ FunctionEnd
 
 ; The folder page stays until the folder will do.
 Function LeaveFolderPage
+  Call MakeFolderFull
   Call TryFolder
   ${If} $0 = 0
     MessageBox MB_OK|MB_ICONEXCLAMATION "$(CannotUseFolder)"
@@ -188,6 +229,7 @@ FunctionEnd
 
 ; The same without pages.
 Function TakeFolderSilently
+  Call MakeFolderFull
   Call TryFolder
   ${If} $0 = 0
     SetErrorLevel ${EXIT_CANNOT_WRITE}

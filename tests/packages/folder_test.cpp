@@ -1,0 +1,44 @@
+// The folder that is chosen: the installed one by another name, one that holds something else, one with the user's own.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/end_to_end/program_driver.h"
+#include "tests/packages/installation.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class FolderTest : public testing::Test {
+ protected:
+  void SetUp() override { ASSERT_EQ(Install(), kDone); }
+  void TearDown() override {
+    Uninstall(InstalledFolder());
+    fs::remove_all(InstalledFolder());
+  }
+};
+
+}  // namespace
+
+TEST_F(FolderTest, TheInstalledFolderSpeltOtherwiseIsNoOther) {
+  const auto before = FilesOf(InstalledFolder());
+  const fs::path otherwise = LocalAppData() / "Programs" / ".." / "Programs" / "Times Readings";
+  EXPECT_EQ(Install(L"/D=" + otherwise.wstring()), kDone);
+  EXPECT_TRUE(FilesOf(InstalledFolder()) == before);
+  EXPECT_EQ(UserValue(kUninstallKey, L"InstallLocation"), InstalledFolder().wstring());
+}
+
+TEST_F(FolderTest, TheInstalledFolderOnAnotherDrivesNameIsNoOther) {
+  const auto before = FilesOf(InstalledFolder());
+  EXPECT_EQ(Install(L"/D=" + ByAnotherDrive(InstalledFolder()).wstring()), kDone);
+  EXPECT_TRUE(FilesOf(InstalledFolder()) == before);
+}
+
+TEST_F(FolderTest, ALinkToTheInstalledFolderIsNoOther) {
+  const auto before = FilesOf(InstalledFolder());
+  const fs::path linked = L"C:\\linked";
+  Link(linked, InstalledFolder());
+  EXPECT_EQ(Install(L"/D=" + linked.wstring()), kDone);
+  EXPECT_TRUE(FilesOf(InstalledFolder()) == before);
+  Unlink(linked);
+}
