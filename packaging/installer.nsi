@@ -5,8 +5,8 @@
 ; CONTENTS, ICON and OUTPUT are absolute; COMMAND signs the file named as its argument. It installs for the user who runs
 ; it, without elevation. The same contents make the same bytes.
 ;
-; Command line of the installer: /S installs silently, /D=FOLDER (last, unquoted) there. Of the uninstaller: /S removes
-; silently, /REMOVESETTINGS the user's settings too, _?=FOLDER (last, unquoted) makes it stay in its place, so that one
+; Command line of the installer: /S installs silently, /D=FOLDER (last, unquoted) there, or in its subfolder "Times
+; Readings" when it holds something else. Of the uninstaller: /S removes silently, /REMOVESETTINGS the user's settings too, _?=FOLDER (last, unquoted) makes it stay in its place, so that one
 ; can wait for it; it is then left for the caller to delete.
 ;
 ; Exit codes: 0 done; 1 cancelled; 2 a file could not be written; and with nothing touched:
@@ -115,6 +115,45 @@ Function MakeFolderFull
   StrCpy $INSTDIR $0
 FunctionEnd
 
+; $0 is 1 when INSTDIR holds what is not the program's, or is a whole drive; else 0. Settings alone are those of a copy that
+; was removed, an unpacking folder alone is a broken-off run's.
+Function HoldsSomethingElse
+  StrCpy $0 0
+  ${If} ${FileExists} "$INSTDIR\${INSTALLED_LIST}"
+  ${OrIf} ${FileExists} "$INSTDIR\shabbat.exe"
+    Return
+  ${EndIf}
+  StrLen $1 $INSTDIR
+  ${If} $1 <= 2
+    StrCpy $0 1
+    Return
+  ${EndIf}
+  FindFirst $1 $2 "$INSTDIR\*.*"
+  ${DoUntil} $2 == ""
+    StrCpy $3 $2 9
+    ${If} $2 != "."
+    ${AndIf} $2 != ".."
+    ${AndIf} $2 != "settings"
+    ${AndIf} $3 != "tr-setup-"
+      StrCpy $0 1
+    ${EndIf}
+    FindNext $1 $2
+  ${Loop}
+  FindClose $1
+FunctionEnd
+
+; Makes INSTDIR a folder of the program's own, where need be below what was chosen.
+Function TakeOwnFolder
+  Call MakeFolderFull
+  ${Do}
+    Call HoldsSomethingElse
+    ${If} $0 = 0
+      ${ExitDo}
+    ${EndIf}
+    StrCpy $INSTDIR "$INSTDIR\${FOLDER_NAME}"
+  ${Loop}
+FunctionEnd
+
 ; $0 is 1 when INSTDIR can be written to; else 0. Leaves nothing behind.
 Function TryFolder
   StrCpy $0 0
@@ -211,6 +250,17 @@ FunctionEnd
 ; The folder page stays until the folder will do.
 Function LeaveFolderPage
   Call MakeFolderFull
+  StrCpy $4 $INSTDIR
+  Call TakeOwnFolder
+  ${If} $INSTDIR != $4
+    MessageBox MB_OKCANCEL|MB_ICONINFORMATION "$(OwnFolder)" IDOK own
+    StrCpy $INSTDIR $4
+    Abort
+    own:
+    FindWindow $1 "#32770" "" $HWNDPARENT
+    GetDlgItem $1 $1 1019
+    SendMessage $1 ${WM_SETTEXT} 0 "STR:$INSTDIR"
+  ${EndIf}
   Call TryFolder
   ${If} $0 = 0
     MessageBox MB_OK|MB_ICONEXCLAMATION "$(CannotUseFolder)"
@@ -229,7 +279,7 @@ FunctionEnd
 
 ; The same without pages.
 Function TakeFolderSilently
-  Call MakeFolderFull
+  Call TakeOwnFolder
   Call TryFolder
   ${If} $0 = 0
     SetErrorLevel ${EXIT_CANNOT_WRITE}

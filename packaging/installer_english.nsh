@@ -45,6 +45,7 @@ LangString NotRemovedSubtitle ${LANG_ENGLISH} "${NAME_IN_TEXTS} has not been rem
 ; Boxes
 LangString AlreadyRunning ${LANG_ENGLISH} "The setup of ${NAME_IN_TEXTS} is already running. Finish it first."
 LangString InUse ${LANG_ENGLISH} "${NAME_IN_TEXTS} is running, or another program is using one of its files:$\r$\n$\r$\n$HeldFile$\r$\n$\r$\nNothing has been changed. Save your work, close the program, and choose Retry."
+LangString OwnFolder ${LANG_ENGLISH} "The folder that you have chosen holds other files. ${NAME_IN_TEXTS} will be installed in a folder of its own there:$\r$\n$\r$\n$INSTDIR"
 LangString CannotUseFolder ${LANG_ENGLISH} "This folder cannot be written to:$\r$\n$\r$\n$INSTDIR$\r$\n$\r$\nChoose another folder, one of your own."
 LangString CannotWrite ${LANG_ENGLISH} "This file cannot be written:$\r$\n$\r$\n$UnwrittenFile$\r$\n$\r$\nSee whether the disk is full or another program uses the file, and choose Retry."
 LangString OlderVersion ${LANG_ENGLISH} "Version $InstalledVersion of ${NAME_IN_TEXTS} is installed, which is newer than this one (${VERSION}). Install the older version over it?"

@@ -47,6 +47,7 @@ LangString NotRemovedSubtitle ${LANG_HEBREW} "התוכנה לא הוסרה"
 ; Boxes
 LangString AlreadyRunning ${LANG_HEBREW} "התקנה או הסרה אחרת כבר פועלת. יש לסיים אותה תחילה."
 LangString InUse ${LANG_HEBREW} "התוכנה פועלת כעת, או שתוכנה אחרת משתמשת באחד מקבציה:$\r$\n$\r$\n${U+202A}$HeldFile${U+202C} $\r$\n$\r$\nדבר לא השתנה. שמרו את עבודתכם, סגרו את התוכנה ונסו שוב."
+LangString OwnFolder ${LANG_HEBREW} "בתיקייה שבחרתם יש קבצים אחרים. התוכנה תותקן בתיקייה משלה בתוכה:$\r$\n$\r$\n${U+202A}$INSTDIR${U+202C} "
 LangString CannotUseFolder ${LANG_HEBREW} "אין אפשרות לכתוב בתיקייה זו:$\r$\n$\r$\n${U+202A}$INSTDIR${U+202C} $\r$\n$\r$\nבחרו תיקייה אחרת, אחת משלכם."
 LangString CannotWrite ${LANG_HEBREW} "אין אפשרות לכתוב את הקובץ:$\r$\n$\r$\n${U+202A}$UnwrittenFile${U+202C} $\r$\n$\r$\nבדקו אם הדיסק מלא או אם תוכנה אחרת משתמשת בקובץ, ונסו שוב."
 LangString OlderVersion ${LANG_HEBREW} "מותקנת גרסה $InstalledVersion, החדשה מגרסה זו (${VERSION}). להתקין את הגרסה הישנה במקומה?"

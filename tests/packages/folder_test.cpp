@@ -42,3 +42,31 @@ TEST_F(FolderTest, ALinkToTheInstalledFolderIsNoOther) {
   EXPECT_TRUE(FilesOf(InstalledFolder()) == before);
   Unlink(linked);
 }
+
+TEST(ChosenFolderTest, AFolderWithSomethingElseGetsOneForTheProgram) {
+  const fs::path chosen = L"C:\\Tools";
+  const fs::path own = chosen / "Times Readings";
+  for (const char* name : {"uninstall.exe", "LICENSE.txt", "help\\index.html"}) {
+    fs::create_directories((chosen / name).parent_path());
+    WriteFileText(chosen / name, "not ours");
+  }
+  const auto before = FilesOf(chosen);
+  EXPECT_EQ(Install(L"/D=" + chosen.wstring()), kDone);
+  EXPECT_EQ(UserValue(kUninstallKey, L"InstallLocation"), own.wstring());
+  EXPECT_TRUE(fs::exists(own / "shabbat.exe"));
+  EXPECT_EQ(Install(L"/D=" + own.wstring()), kDone) << "that one is the program's";
+  EXPECT_EQ(UserValue(kUninstallKey, L"InstallLocation"), own.wstring());
+  Uninstall(own);
+  EXPECT_TRUE(FilesOf(chosen) == before);
+  fs::remove_all(chosen);
+}
+
+TEST(ChosenFolderTest, SettingsAloneAreTheProgramsOwn) {
+  fs::create_directories(InstalledFolder() / "settings");
+  WriteFileText(InstalledFolder() / "settings" / "shabbat2.ini", "the user's");
+  EXPECT_EQ(Install(), kDone);
+  EXPECT_TRUE(fs::exists(InstalledFolder() / "shabbat.exe"));
+  Uninstall(InstalledFolder());
+  EXPECT_EQ(ReadFileText(InstalledFolder() / "settings" / "shabbat2.ini"), "the user's");
+  fs::remove_all(InstalledFolder());
+}
