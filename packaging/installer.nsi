@@ -41,8 +41,8 @@ ShowUninstDetails nevershow
 !define UNINSTALL_KEY "${PROGRAMS_KEY}\Times Readings"
 !define USER_PROGRAMS "$LOCALAPPDATA\Programs"
 !define START_MENU "$SMPROGRAMS\${FOLDER_NAME}"
-; Everything is unpacked here first: when the disk is full, the installed version is still whole.
-!define STAGING "$INSTDIR\setup.tmp"
+; Its folders have this name with a number and ".tmp".
+!define STAGING_NAME "tr-setup-"
 
 ; What this version brings, what the one in INSTDIR brought, and the one in another folder.
 !define NEW_LIST "$PLUGINSDIR\new.txt"
@@ -70,6 +70,9 @@ BrandingText "${PROGRAM_NAME} ${VERSION}"
 !include "${__FILEDIR__}/installer_font.nsh"
 
 Var PreviousFolder   ; another folder that the program is installed in, or empty
+; Everything is unpacked here first: when the disk is full, the installed version is still whole. Empty until this run has
+; made it.
+Var Staging
 Var InstalledVersion
 Var UnwrittenFile
 Var SettingsCheckbox
@@ -134,7 +137,7 @@ Function HoldsSomethingElse
     ${If} $2 != "."
     ${AndIf} $2 != ".."
     ${AndIf} $2 != "settings"
-    ${AndIf} $3 != "tr-setup-"
+    ${AndIf} $3 != "${STAGING_NAME}"
       StrCpy $0 1
     ${EndIf}
     FindNext $1 $2
@@ -292,6 +295,25 @@ Function TakeFolderSilently
   ${EndIf}
 FunctionEnd
 
+; Makes Staging, by a name that nothing in INSTDIR has.
+Function MakeStaging
+  CreateDirectory $INSTDIR
+  StrCpy $1 0
+  ${Do}
+    IntOp $1 $1 + 1
+    StrCpy $0 "$INSTDIR\${STAGING_NAME}$1.tmp"
+    System::Call 'kernel32::CreateDirectoryW(w r0, p 0) i.r2 ?e'
+    Pop $3
+    ${If} $2 <> 0
+      StrCpy $Staging $0
+      Return
+    ${EndIf}
+  ${LoopWhile} $3 = 183 ; ERROR_ALREADY_EXISTS
+  StrCpy $UnwrittenFile $0
+  MessageBox MB_OK|MB_ICONSTOP "$(CannotWrite)" /SD IDOK
+  Abort
+FunctionEnd
+
 ; Brings the unpacked files to their places, each in one step.
 Function MoveStagedFiles
   FileOpen $0 "${NEW_LIST}" r
@@ -300,7 +322,7 @@ Function MoveStagedFiles
     ${If} $1 == ""
       ${ExitDo}
     ${EndIf}
-    StrCpy $2 "${STAGING}\$1"
+    StrCpy $2 "$Staging\$1"
     StrCpy $UnwrittenFile "$INSTDIR\$1"
     ${GetParent} $UnwrittenFile $3
     CreateDirectory $3
@@ -356,19 +378,20 @@ Section
   ${If} ${Silent}
     Call TakeFolderSilently
   ${EndIf}
-  !insertmacro ExtractContents "${STAGING}"
-  SetOutPath "${STAGING}"
+  Call MakeStaging
+  !insertmacro ExtractContents "$Staging"
+  SetOutPath $Staging
   File "/oname=${INSTALLED_LIST}" "${CONTENTS_LIST}"
   ClearErrors
-  WriteUninstaller "${STAGING}\uninstall.exe"
+  WriteUninstaller "$Staging\uninstall.exe"
   ${If} ${Errors}
-    StrCpy $UnwrittenFile "${STAGING}\uninstall.exe"
+    StrCpy $UnwrittenFile "$Staging\uninstall.exe"
     MessageBox MB_OK|MB_ICONSTOP "$(CannotWrite)" /SD IDOK
     Abort
   ${EndIf}
   SetOutPath $INSTDIR
   Call MoveStagedFiles
-  RMDir /r "${STAGING}"
+  RMDir /r $Staging
   Call RemoveEarlierFiles
   Call Register
   Call InstallFont
@@ -377,7 +400,9 @@ SectionEnd
 Function .onInstFailed
   SetErrorLevel 2
   SetOutPath $TEMP
-  RMDir /r "${STAGING}"
+  ${If} $Staging != ""
+    RMDir /r $Staging
+  ${EndIf}
   RMDir $INSTDIR
 FunctionEnd
 

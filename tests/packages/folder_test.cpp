@@ -70,3 +70,20 @@ TEST(ChosenFolderTest, SettingsAloneAreTheProgramsOwn) {
   EXPECT_EQ(ReadFileText(InstalledFolder() / "settings" / "shabbat2.ini"), "the user's");
   fs::remove_all(InstalledFolder());
 }
+
+TEST_F(FolderTest, FoldersOfTheUsersNamedLikeTheInstallersOwnStay) {
+  const fs::path notes[] = {InstalledFolder() / "setup.tmp" / "notes.txt",
+                            InstalledFolder() / "tr-setup-1.tmp" / "notes.txt"};
+  for (const auto& file : notes) {
+    fs::create_directories(file.parent_path());
+    WriteFileText(file, "the user's");
+  }
+  EXPECT_EQ(Install(), kDone);
+  for (const auto& file : notes) EXPECT_EQ(ReadFileText(file), "the user's") << file;
+  const fs::path inTheWay = InstalledFolder() / "help" / "zmanim.html";
+  fs::remove(inTheWay);
+  fs::create_directories(inTheWay / "of the user's");
+  EXPECT_EQ(Install(), kCannotWriteFile);
+  for (const auto& file : notes) EXPECT_EQ(ReadFileText(file), "the user's") << file;
+  EXPECT_FALSE(fs::exists(InstalledFolder() / "tr-setup-2.tmp"));
+}
