@@ -314,7 +314,24 @@ Function MakeStaging
   Abort
 FunctionEnd
 
-; Brings the unpacked files to their places, each in one step.
+; Moves the file $2 to UnwrittenFile in one step; $4 is 0 when another program does not let go of either.
+Function MoveStagedFile
+  StrCpy $3 $UnwrittenFile
+  StrCpy $Patience ${PATIENCE}
+  ${Do}
+    SetFileAttributes $3 NORMAL
+    ; MOVEFILE_REPLACE_EXISTING, MOVEFILE_WRITE_THROUGH
+    System::Call 'kernel32::MoveFileExW(w r2, w r3, i 9) i.r4'
+    ${If} $4 <> 0
+    ${OrIf} $Patience = 0
+      ${ExitDo}
+    ${EndIf}
+    IntOp $Patience $Patience - 1
+    Sleep 100
+  ${Loop}
+FunctionEnd
+
+; Brings the unpacked files to their places.
 Function MoveStagedFiles
   FileOpen $0 "${NEW_LIST}" r
   ${Do}
@@ -327,10 +344,7 @@ Function MoveStagedFiles
     ${GetParent} $UnwrittenFile $3
     CreateDirectory $3
     again:
-    SetFileAttributes $UnwrittenFile NORMAL
-    StrCpy $3 $UnwrittenFile
-    ; MOVEFILE_REPLACE_EXISTING, MOVEFILE_WRITE_THROUGH
-    System::Call 'kernel32::MoveFileExW(w r2, w r3, i 9) i.r4'
+    Call MoveStagedFile
     ${If} $4 = 0
       MessageBox MB_RETRYCANCEL|MB_ICONSTOP "$(CannotWrite)" /SD IDCANCEL IDRETRY again
       FileClose $0

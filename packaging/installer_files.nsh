@@ -10,6 +10,10 @@ Var ListFile   ; the list
 Var KeepList   ; what is in this list is not removed; may be empty
 Var HeldFile   ; the first file found in use, empty for none
 
+; A scanner for viruses holds a fresh file for a moment: how often, 100 ms apart, this run tries again.
+!define PATIENCE 50
+Var Patience
+
 !macro FILE_FUNCTIONS un
 
 ; The next name of the open list $0 in $1, empty at its end.
@@ -31,8 +35,8 @@ Function ${un}ReadName
   Pop $2
 FunctionEnd
 
-; Sets HeldFile to the first file of the list that nobody may write to just now: a program that runs, a file that
-; another program keeps to itself. Files that are not there are free.
+; Sets HeldFile to the first file of the list that nobody may write to or replace just now: a program that runs, a file
+; that another program keeps to itself. Files that are not there are free.
 Function ${un}FindHeldFile
   StrCpy $HeldFile ""
   ClearErrors
@@ -48,8 +52,8 @@ Function ${un}FindHeldFile
     ; The uninstaller may run from its place.
     ${If} $1 != "uninstall.exe"
       StrCpy $2 "$ListFolder\$1"
-      ; GENERIC_WRITE, shared with everybody, OPEN_EXISTING
-      System::Call 'kernel32::CreateFileW(w r2, i 0x40000000, i 7, p 0, i 3, i 0x80, p 0) p.r3 ?e'
+      ; GENERIC_WRITE and DELETE, shared with everybody, OPEN_EXISTING
+      System::Call 'kernel32::CreateFileW(w r2, i 0x40010000, i 7, p 0, i 3, i 0x80, p 0) p.r3 ?e'
       Pop $4
       ${If} $3 P<> -1
         System::Call 'kernel32::CloseHandle(p r3)'
