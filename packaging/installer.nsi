@@ -9,7 +9,7 @@
 ; Readings" when it holds something else. Of the uninstaller: /S removes silently, /REMOVESETTINGS the user's settings too, _?=FOLDER (last, unquoted) makes it stay in its place, so that one
 ; can wait for it; it is then left for the caller to delete.
 ;
-; Exit codes: 0 done; 1 cancelled; 2 a file could not be written; and with nothing touched:
+; Exit codes: 0 done; 1 cancelled; 2 a file could not be written or removed; and with nothing touched:
 !define EXIT_IN_USE 3          ; the program runs from that folder, or another one holds a file there
 !define EXIT_CANNOT_WRITE 4    ; the folder cannot be written to
 !define EXIT_ALREADY_RUNNING 5 ; another run of installer or uninstaller is at work
@@ -511,14 +511,15 @@ Section Uninstall
   Call un.RemoveListed
   RMDir $INSTDIR
   RMDir "${USER_PROGRAMS}" ; when no other program is there
-  Call un.Unregister
+  Call un.Unregister ; not where the list had to stay
   ${If} $RemovesSettings = 1
     StrCpy $0 "$APPDATA\${FOLDER_NAME}"
     Call un.RemoveTree
   ${EndIf}
-  ${If} ${FileExists} "$INSTDIR\shabbat.exe"
+  ${If} $LeftFile != ""
     MessageBox MB_OK|MB_ICONEXCLAMATION "$(NotAllRemoved)" /SD IDOK
     SetErrorLevel 2
+    Abort
   ${EndIf}
 SectionEnd
 

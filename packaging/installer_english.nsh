@@ -40,7 +40,7 @@ LangString RemovingSubtitle ${LANG_ENGLISH} "Please wait while ${NAME_IN_TEXTS} 
 LangString RemovedTitle ${LANG_ENGLISH} "Removed"
 LangString RemovedSubtitle ${LANG_ENGLISH} "${NAME_IN_TEXTS} has been removed."
 LangString NotRemovedTitle ${LANG_ENGLISH} "Not removed"
-LangString NotRemovedSubtitle ${LANG_ENGLISH} "${NAME_IN_TEXTS} has not been removed."
+LangString NotRemovedSubtitle ${LANG_ENGLISH} "${NAME_IN_TEXTS} has not been removed completely."
 
 ; Boxes
 LangString AlreadyRunning ${LANG_ENGLISH} "The setup of ${NAME_IN_TEXTS} is already running. Finish it first."
@@ -52,4 +52,4 @@ LangString OlderVersion ${LANG_ENGLISH} "Version $InstalledVersion of ${NAME_IN_
 LangString Moves ${LANG_ENGLISH} "${NAME_IN_TEXTS} is installed in another folder:$\r$\n$\r$\n$PreviousFolder$\r$\n$\r$\nIt will be removed from there; files of your own stay. Go on?"
 LangString FontInUse ${LANG_ENGLISH} "The Hebrew display font is in use and could not be replaced. Word processors go on with the one that is there. To have the new one, sign out of Windows, sign in again and run this setup once more."
 LangString NotInstalledHere ${LANG_ENGLISH} "${NAME_IN_TEXTS} is not installed in this folder:$\r$\n$\r$\n$INSTDIR"
-LangString NotAllRemoved ${LANG_ENGLISH} "Some files could not be removed from this folder:$\r$\n$\r$\n$INSTDIR$\r$\n$\r$\nDelete them yourself when no program uses them."
+LangString NotAllRemoved ${LANG_ENGLISH} "Some files could not be removed, this one among them:$\r$\n$\r$\n$LeftFile$\r$\n$\r$\nUninstall once more when no program uses them."

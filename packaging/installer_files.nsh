@@ -9,6 +9,7 @@ Var ListFolder ; the folder that the names of a list are in
 Var ListFile   ; the list
 Var KeepList   ; what is in this list is not removed; may be empty
 Var HeldFile   ; the first file found in use, empty for none
+Var LeftFile   ; the last file that could not be removed, empty for none
 
 ; A scanner for viruses holds a fresh file for a moment: how often, 100 ms apart, this run tries again.
 !define PATIENCE 50
@@ -115,10 +116,30 @@ Function ${un}IsKept
   Pop $0
 FunctionEnd
 
-; Deletes the file $1 of ListFolder, then the folders between the two that have become empty.
+; Deletes the file $1 of ListFolder, then the folders between the two that have become empty. List and uninstaller, which
+; are last in the list, stay where another file had to stay, so that it can be removed later.
 Function ${un}RemoveFile
-  SetFileAttributes "$ListFolder\$1" NORMAL
-  Delete "$ListFolder\$1"
+  ${If} $LeftFile != ""
+    ${If} $1 == "${INSTALLED_LIST}"
+    ${OrIf} $1 == "uninstall.exe"
+      Return
+    ${EndIf}
+  ${EndIf}
+  ${Do}
+    SetFileAttributes "$ListFolder\$1" NORMAL
+    Delete "$ListFolder\$1"
+    ; The uninstaller may run from its place; a folder of a file's name is not ours.
+    ${If} $1 == "uninstall.exe"
+    ${OrIfNot} ${FileExists} "$ListFolder\$1"
+    ${OrIf} ${FileExists} "$ListFolder\$1\*.*"
+      ${ExitDo}
+    ${ElseIf} $Patience = 0
+      StrCpy $LeftFile "$ListFolder\$1"
+      ${ExitDo}
+    ${EndIf}
+    IntOp $Patience $Patience - 1
+    Sleep 100
+  ${Loop}
   StrCpy $3 $1
   ${Do}
     StrCpy $4 $3
@@ -130,8 +151,10 @@ Function ${un}RemoveFile
   ${Loop}
 FunctionEnd
 
-; Removes the files that ListFile names from ListFolder, but for those of KeepList.
+; Removes the files that ListFile names from ListFolder, but for those of KeepList; LeftFile is one that had to stay.
 Function ${un}RemoveListed
+  StrCpy $LeftFile ""
+  StrCpy $Patience ${PATIENCE}
   ClearErrors
   FileOpen $0 $ListFile r
   ${If} ${Errors}

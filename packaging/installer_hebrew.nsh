@@ -42,7 +42,7 @@ LangString RemovingSubtitle ${LANG_HEBREW} "נא להמתין בזמן הסרת 
 LangString RemovedTitle ${LANG_HEBREW} "ההסרה הושלמה"
 LangString RemovedSubtitle ${LANG_HEBREW} "התוכנה הוסרה מהמחשב"
 LangString NotRemovedTitle ${LANG_HEBREW} "ההסרה לא הושלמה"
-LangString NotRemovedSubtitle ${LANG_HEBREW} "התוכנה לא הוסרה"
+LangString NotRemovedSubtitle ${LANG_HEBREW} "התוכנה לא הוסרה במלואה"
 
 ; Boxes
 LangString AlreadyRunning ${LANG_HEBREW} "התקנה או הסרה אחרת כבר פועלת. יש לסיים אותה תחילה."
@@ -54,4 +54,4 @@ LangString OlderVersion ${LANG_HEBREW} "מותקנת גרסה $InstalledVersion,
 LangString Moves ${LANG_HEBREW} "התוכנה מותקנת בתיקייה אחרת:$\r$\n$\r$\n${U+202A}$PreviousFolder${U+202C} $\r$\n$\r$\nהיא תוסר משם; קבצים משלכם יישארו. להמשיך?"
 LangString FontInUse ${LANG_HEBREW} "גופן התצוגה העברי נמצא בשימוש ולא ניתן היה להחליפו. מעבדי תמלילים ימשיכו להשתמש בגופן הקיים. כדי לקבל את החדש, התנתקו מהמחשב, היכנסו שוב והפעילו את ההתקנה פעם נוספת."
 LangString NotInstalledHere ${LANG_HEBREW} "התוכנה אינה מותקנת בתיקייה זו:$\r$\n$\r$\n${U+202A}$INSTDIR${U+202C} "
-LangString NotAllRemoved ${LANG_HEBREW} "לא ניתן היה להסיר חלק מהקבצים מתיקייה זו:$\r$\n$\r$\n${U+202A}$INSTDIR${U+202C} $\r$\n$\r$\nמחקו אותם בעצמכם כאשר אף תוכנה אינה משתמשת בהם."
+LangString NotAllRemoved ${LANG_HEBREW} "לא ניתן היה להסיר חלק מהקבצים, ובהם:$\r$\n$\r$\n${U+202A}$LeftFile${U+202C} $\r$\n$\r$\nהסירו את התוכנה שוב כאשר אף תוכנה אינה משתמשת בהם."
