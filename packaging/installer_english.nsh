@@ -40,15 +40,16 @@ LangString RemovingSubtitle ${LANG_ENGLISH} "Please wait while ${NAME_IN_TEXTS} 
 LangString RemovedTitle ${LANG_ENGLISH} "Removed"
 LangString RemovedSubtitle ${LANG_ENGLISH} "${NAME_IN_TEXTS} has been removed."
 LangString NotRemovedTitle ${LANG_ENGLISH} "Not removed"
-LangString NotRemovedSubtitle ${LANG_ENGLISH} "${NAME_IN_TEXTS} has not been removed."
+LangString NotRemovedSubtitle ${LANG_ENGLISH} "${NAME_IN_TEXTS} has not been removed completely."
 
 ; Boxes
 LangString AlreadyRunning ${LANG_ENGLISH} "The setup of ${NAME_IN_TEXTS} is already running. Finish it first."
 LangString InUse ${LANG_ENGLISH} "${NAME_IN_TEXTS} is running, or another program is using one of its files:$\r$\n$\r$\n$HeldFile$\r$\n$\r$\nNothing has been changed. Save your work, close the program, and choose Retry."
+LangString OwnFolder ${LANG_ENGLISH} "The folder that you have chosen holds other files. ${NAME_IN_TEXTS} will be installed in a folder of its own there:$\r$\n$\r$\n$INSTDIR"
 LangString CannotUseFolder ${LANG_ENGLISH} "This folder cannot be written to:$\r$\n$\r$\n$INSTDIR$\r$\n$\r$\nChoose another folder, one of your own."
 LangString CannotWrite ${LANG_ENGLISH} "This file cannot be written:$\r$\n$\r$\n$UnwrittenFile$\r$\n$\r$\nSee whether the disk is full or another program uses the file, and choose Retry."
 LangString OlderVersion ${LANG_ENGLISH} "Version $InstalledVersion of ${NAME_IN_TEXTS} is installed, which is newer than this one (${VERSION}). Install the older version over it?"
 LangString Moves ${LANG_ENGLISH} "${NAME_IN_TEXTS} is installed in another folder:$\r$\n$\r$\n$PreviousFolder$\r$\n$\r$\nIt will be removed from there; files of your own stay. Go on?"
 LangString FontInUse ${LANG_ENGLISH} "The Hebrew display font is in use and could not be replaced. Word processors go on with the one that is there. To have the new one, sign out of Windows, sign in again and run this setup once more."
 LangString NotInstalledHere ${LANG_ENGLISH} "${NAME_IN_TEXTS} is not installed in this folder:$\r$\n$\r$\n$INSTDIR"
-LangString NotAllRemoved ${LANG_ENGLISH} "Some files could not be removed from this folder:$\r$\n$\r$\n$INSTDIR$\r$\n$\r$\nDelete them yourself when no program uses them."
+LangString NotAllRemoved ${LANG_ENGLISH} "Some files could not be removed, this one among them:$\r$\n$\r$\n$LeftFile$\r$\n$\r$\nUninstall once more when no program uses them."

@@ -9,6 +9,11 @@ Var ListFolder ; the folder that the names of a list are in
 Var ListFile   ; the list
 Var KeepList   ; what is in this list is not removed; may be empty
 Var HeldFile   ; the first file found in use, empty for none
+Var LeftFile   ; the last file that could not be removed, empty for none
+
+; A scanner for viruses holds a fresh file for a moment: how often, 100 ms apart, this run tries again.
+!define PATIENCE 50
+Var Patience
 
 !macro FILE_FUNCTIONS un
 
@@ -31,8 +36,8 @@ Function ${un}ReadName
   Pop $2
 FunctionEnd
 
-; Sets HeldFile to the first file of the list that nobody may write to just now: a program that runs, a file that
-; another program keeps to itself. Files that are not there are free.
+; Sets HeldFile to the first file of the list that nobody may write to or replace just now: a program that runs, a file
+; that another program keeps to itself. Files that are not there are free.
 Function ${un}FindHeldFile
   StrCpy $HeldFile ""
   ClearErrors
@@ -48,8 +53,8 @@ Function ${un}FindHeldFile
     ; The uninstaller may run from its place.
     ${If} $1 != "uninstall.exe"
       StrCpy $2 "$ListFolder\$1"
-      ; GENERIC_WRITE, shared with everybody, OPEN_EXISTING
-      System::Call 'kernel32::CreateFileW(w r2, i 0x40000000, i 7, p 0, i 3, i 0x80, p 0) p.r3 ?e'
+      ; GENERIC_WRITE and DELETE, shared with everybody, OPEN_EXISTING
+      System::Call 'kernel32::CreateFileW(w r2, i 0x40010000, i 7, p 0, i 3, i 0x80, p 0) p.r3 ?e'
       Pop $4
       ${If} $3 P<> -1
         System::Call 'kernel32::CloseHandle(p r3)'
@@ -111,10 +116,30 @@ Function ${un}IsKept
   Pop $0
 FunctionEnd
 
-; Deletes the file $1 of ListFolder, then the folders between the two that have become empty.
+; Deletes the file $1 of ListFolder, then the folders between the two that have become empty. List and uninstaller, which
+; are last in the list, stay where another file had to stay, so that it can be removed later.
 Function ${un}RemoveFile
-  SetFileAttributes "$ListFolder\$1" NORMAL
-  Delete "$ListFolder\$1"
+  ${If} $LeftFile != ""
+    ${If} $1 == "${INSTALLED_LIST}"
+    ${OrIf} $1 == "uninstall.exe"
+      Return
+    ${EndIf}
+  ${EndIf}
+  ${Do}
+    SetFileAttributes "$ListFolder\$1" NORMAL
+    Delete "$ListFolder\$1"
+    ; The uninstaller may run from its place; a folder of a file's name is not ours.
+    ${If} $1 == "uninstall.exe"
+    ${OrIfNot} ${FileExists} "$ListFolder\$1"
+    ${OrIf} ${FileExists} "$ListFolder\$1\*.*"
+      ${ExitDo}
+    ${ElseIf} $Patience = 0
+      StrCpy $LeftFile "$ListFolder\$1"
+      ${ExitDo}
+    ${EndIf}
+    IntOp $Patience $Patience - 1
+    Sleep 100
+  ${Loop}
   StrCpy $3 $1
   ${Do}
     StrCpy $4 $3
@@ -126,8 +151,10 @@ Function ${un}RemoveFile
   ${Loop}
 FunctionEnd
 
-; Removes the files that ListFile names from ListFolder, but for those of KeepList.
+; Removes the files that ListFile names from ListFolder, but for those of KeepList; LeftFile is one that had to stay.
 Function ${un}RemoveListed
+  StrCpy $LeftFile ""
+  StrCpy $Patience ${PATIENCE}
   ClearErrors
   FileOpen $0 $ListFile r
   ${If} ${Errors}

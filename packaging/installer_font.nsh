@@ -1,5 +1,7 @@
 ; The display font for word processors: it makes the Hebrew of exported files readable. Windows lets a user have fonts
-; of his own from version 1809 (build 17763) on; the program itself needs no such registration.
+; of his own from version 1809 (build 17763) on; the program itself needs no such registration. The value "Font" of the
+; installer's key, the file's SHA-256, says that the font came with the installer; one that the user has installed himself
+; is left to him.
 
 !define FONTS_KEY "Software\Microsoft\Windows NT\CurrentVersion\Fonts"
 !define FONT_VALUE "DisplayHebrew1 (TrueType)"
@@ -28,9 +30,20 @@ Function InstallFont
   ${IfNot} ${AtLeastBuild} 17763
     Return
   ${EndIf}
-  DeleteRegValue HKCU "${RUN_ONCE_KEY}" "${RUN_ONCE_VALUE}"
   StrCpy $0 "${FONT_FILE}"
+  ReadRegStr $1 HKCU "${RUN_ONCE_KEY}" "${RUN_ONCE_VALUE}"
+  ${If} $1 != ""
+    DeleteRegValue HKCU "${RUN_ONCE_KEY}" "${RUN_ONCE_VALUE}"
+    WriteRegStr HKCU "${SETUP_KEY}" "Font" "an earlier version's"
+  ${EndIf}
   ReadRegStr $1 HKCU "${SETUP_KEY}" "Font"
+  ReadRegStr $2 HKCU "${FONTS_KEY}" "${FONT_VALUE}"
+  ${If} $1 == ""
+    ${If} $2 != ""
+    ${OrIf} ${FileExists} $0
+      Return
+    ${EndIf}
+  ${EndIf}
   ${IfNot} ${FileExists} $0
   ${OrIf} $1 != "${FONT_SHA256}"
     !insertmacro WITHDRAW_FONT
@@ -52,6 +65,10 @@ Function InstallFont
 FunctionEnd
 
 Function un.RemoveFont
+  ReadRegStr $0 HKCU "${SETUP_KEY}" "Font"
+  ${If} $0 == ""
+    Return
+  ${EndIf}
   StrCpy $0 "${FONT_FILE}"
   DeleteRegValue HKCU "${FONTS_KEY}" "${FONT_VALUE}"
   DeleteRegKey /ifempty HKCU "${FONTS_KEY}"

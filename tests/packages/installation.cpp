@@ -195,6 +195,10 @@ void Unlink(const fs::path& name) {
   WaitUntil([&] { return !fs::exists(name); });
 }
 
+fs::path ByAnotherDrive(const fs::path& path) {
+  return (fs::path(L"Z:\\") / Given("WINEPREFIX").relative_path() / "drive_c" / path.relative_path()).make_preferred();
+}
+
 std::optional<std::wstring> UserValue(const std::wstring& key, const std::wstring& name) {
   wchar_t text[2048] = L"";
   DWORD size = sizeof text;

@@ -69,6 +69,9 @@ void CopyFiles(const std::filesystem::path& from, const std::filesystem::path& t
 void Link(const std::filesystem::path& name, const std::filesystem::path& target);
 void Unlink(const std::filesystem::path& name);
 
+// A path of drive C by the name that another drive gives it, as a drive of the user's own making does.
+std::filesystem::path ByAnotherDrive(const std::filesystem::path& path);
+
 // A value of the user's registry as text; nothing where there is none.
 std::optional<std::wstring> UserValue(const std::wstring& key, const std::wstring& name);
 void SetUserValue(const std::wstring& key, const std::wstring& name, const std::wstring& value);

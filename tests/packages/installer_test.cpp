@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <shlobj.h>
 
+#include "tests/end_to_end/program_driver.h"
 #include "tests/packages/installation.h"
 
 using testing::Contains;
@@ -133,6 +134,23 @@ TEST_F(InstallerTest, AFontInUseStaysUntilTheNextSigningIn) {
 TEST_F(InstallerTest, RemembersFolderAndLanguageUnderOneKey) {
   EXPECT_EQ(UserValue(kSetupKey, L"Folder"), InstalledFolder().wstring());
   EXPECT_NE(UserValue(kSetupKey, L"Language"), std::nullopt);
+}
+
+TEST(InstallerFontTest, AFontThatTheUserHasInstalledHimselfStaysHis) {
+  const wchar_t* const name = L"DisplayHebrew1 (TrueType)";
+  const bool hadFonts = HasUserKey(kFontsKey);
+  fs::create_directories(FontFile().parent_path());
+  WriteFileText(FontFile(), "the user's");
+  SetUserValue(kFontsKey, name, FontFile().wstring());
+  EXPECT_EQ(Install(), kDone);
+  EXPECT_EQ(ReadFileText(FontFile()), "the user's");
+  EXPECT_EQ(Install(), kDone) << "nor is it taken the next time";
+  Uninstall(InstalledFolder());
+  EXPECT_EQ(ReadFileText(FontFile()), "the user's");
+  EXPECT_EQ(UserValue(kFontsKey, name), FontFile().wstring());
+  fs::remove_all(FontFile().parent_path());
+  RegDeleteKeyValueW(HKEY_CURRENT_USER, kFontsKey, name);
+  if (!hadFonts) RegDeleteKeyW(HKEY_CURRENT_USER, kFontsKey);
 }
 
 TEST(InstallerFileTest, IsBelowTenMegabytes) {

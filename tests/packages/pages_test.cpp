@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cwctype>
 #include <filesystem>
 #include <functional>
 
@@ -111,8 +112,22 @@ class Wizard {
   StartedProgram program_;
 };
 
+// A letter for Alt presses one button, not several in turn.
+void ExpectMnemonicsOfTheirOwn(HWND page) {
+  std::wstring letters;
+  for (const HWND control : ShownChildren(page)) {
+    const std::wstring text = WideTextOf(control);
+    const auto mark = text.find(L'&');
+    if (ClassOf(control) != "Button" || mark == std::wstring::npos || mark + 1 == text.size()) continue;
+    const wchar_t letter = static_cast<wchar_t>(std::towlower(text[mark + 1]));
+    EXPECT_EQ(letters.find(letter), std::wstring::npos) << fs::path(text);
+    letters += letter;
+  }
+}
+
 // Every text fits its control; Hebrew is read from right to left.
 void ExpectWellSet(HWND page) {
+  ExpectMnemonicsOfTheirOwn(page);
   for (const HWND control : ShownChildren(page)) {
     const std::wstring text = WideTextOf(control);
     const std::string kind = ClassOf(control);

@@ -110,6 +110,23 @@ TEST(UninstallTest, WhatALinkLeadsToStays) {
   for (const auto& folder : {InstalledFolder(), SettingsFolder(), elsewhere}) fs::remove_all(folder);
 }
 
+TEST(UninstallTest, WhereAFileStaysItCanBeRunAgain) {
+  ASSERT_EQ(Install(), kDone);
+  // A file that others may delete is there until the last of them lets go of it.
+  const HANDLE held =
+      CreateFileW((InstalledFolder() / "solar.dll").c_str(), GENERIC_READ,
+                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0, nullptr);
+  EXPECT_EQ(UninstallInPlace(InstalledFolder()), kCannotWriteFile);
+  EXPECT_TRUE(fs::exists(InstalledFolder() / "installed-files.txt"));
+  EXPECT_TRUE(fs::exists(InstalledFolder() / "uninstall.exe"));
+  EXPECT_TRUE(HasUserKey(kUninstallKey));
+  EXPECT_TRUE(fs::exists(StartMenuFolder()));
+  CloseHandle(held);
+  Uninstall(InstalledFolder());
+  EXPECT_FALSE(fs::exists(InstalledFolder()));
+  EXPECT_FALSE(HasUserKey(kUninstallKey));
+}
+
 TEST(UninstallTest, AnUninstallerWithoutItsProgramRemovesNothing) {
   ASSERT_EQ(Install(), kDone);
   TemporaryFolder elsewhere;

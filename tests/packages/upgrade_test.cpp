@@ -2,6 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
+
 #include "tests/end_to_end/program_driver.h"
 #include "tests/packages/installation.h"
 
@@ -28,6 +31,15 @@ class UpgradeTest : public testing::Test {
     return file;
   }
 };
+
+bool HasWithin(ULONGLONG milliseconds, const std::function<bool()>& condition) {
+  const ULONGLONG end = GetTickCount64() + milliseconds;
+  while (!condition()) {
+    if (GetTickCount64() >= end) return false;
+    Sleep(10);
+  }
+  return true;
+}
 
 }  // namespace
 
@@ -125,6 +137,37 @@ TEST_F(UpgradeTest, NothingIsTouchedWhileAnEarlierVersionsFileIsHeld) {
   EXPECT_EQ(Install(), kInUse);
   EXPECT_TRUE(FilesOf(InstalledFolder()) == before);
   CloseHandle(held);
+}
+
+TEST_F(UpgradeTest, NothingIsTouchedWhileAFileMayBeWrittenButNotReplaced) {
+  for (const char* name : {"LICENSE.txt", "help\\index.html"}) Plant(name, false);
+  const auto before = FilesOf(InstalledFolder());
+  const HANDLE held = CreateFileW((InstalledFolder() / "help" / "index.html").c_str(), GENERIC_READ,
+                                  FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+  EXPECT_EQ(Install(), kInUse);
+  EXPECT_TRUE(FilesOf(InstalledFolder()) == before);
+  CloseHandle(held);
+}
+
+TEST_F(UpgradeTest, AFileThatIsHeldForAMomentIsWaitedFor) {
+  // The second is to be replaced right after the first.
+  const auto list = InstalledList(InstalledFolder());
+  const fs::path first = InstalledFolder() / list[list.size() - 4];
+  const fs::path second = InstalledFolder() / list[list.size() - 3];
+  for (const auto& file : {first, second}) WriteFileText(file, "an earlier version's");
+  const StartedProgram setup(L"\"" + SetupFile().wstring() + L"\" /S");
+  EXPECT_TRUE(HasWithin(kPatienceMilliseconds, [] {
+    return std::ranges::any_of(fs::directory_iterator(InstalledFolder()),
+                               [](const auto& entry) { return entry.path().extension() == ".tmp"; });
+  })) << "no files are unpacked";
+  const HANDLE held =
+      CreateFileW(second.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+  EXPECT_TRUE(HasWithin(kPatienceMilliseconds, [&] { return ReadFileText(first) != "an earlier version's"; }));
+  constexpr ULONGLONG kMoment = 500;
+  EXPECT_FALSE(HasWithin(kMoment, [&] { return ReadFileText(second) != "an earlier version's"; }));
+  CloseHandle(held);
+  EXPECT_EQ(setup.WaitForExit(), kDone);
+  EXPECT_NE(ReadFileText(second), "an earlier version's");
 }
 
 TEST_F(UpgradeTest, AProgramElsewhereDoesNotHinder) {
