@@ -43,6 +43,7 @@ ShowUninstDetails nevershow
 !define START_MENU "$SMPROGRAMS\${FOLDER_NAME}"
 ; Its folders have this name with a number and ".tmp".
 !define STAGING_NAME "tr-setup-"
+!define EARLIER_FILES "~old" ; the folder in there of copies of what is replaced
 
 ; What this version brings, what the one in INSTDIR brought, and the one in another folder.
 !define NEW_LIST "$PLUGINSDIR\new.txt"
@@ -331,8 +332,54 @@ Function MoveStagedFile
   ${Loop}
 FunctionEnd
 
+; Keeps copies of the files that are to be replaced.
+Function KeepEarlierFiles
+  FileOpen $0 "${NEW_LIST}" r
+  ${Do}
+    Call ReadName
+    StrCpy $2 "$INSTDIR\$1"
+    ${If} $1 == ""
+      ${ExitDo}
+    ${ElseIf} ${FileExists} $2
+      StrCpy $3 "$Staging\${EARLIER_FILES}\$1"
+      ${GetParent} $3 $4
+      CreateDirectory $4
+      System::Call 'kernel32::CopyFileW(w r2, w r3, i 1) i.r4'
+      ${If} $4 = 0
+        StrCpy $UnwrittenFile $2
+        MessageBox MB_OK|MB_ICONSTOP "$(CannotWrite)" /SD IDOK
+        FileClose $0
+        Abort
+      ${EndIf}
+    ${EndIf}
+  ${Loop}
+  FileClose $0
+FunctionEnd
+
+; Undoes MoveStagedFiles, which came as far as UnwrittenFile: an installed version stays the one that it was.
+Function BringBackEarlierFiles
+  StrCpy $ListFolder $INSTDIR
+  FileOpen $0 "${NEW_LIST}" r
+  ${Do}
+    Call ReadName
+    StrCpy $3 "$INSTDIR\$1"
+    ${If} $1 == ""
+    ${OrIf} $3 == $UnwrittenFile
+      ${ExitDo}
+    ${EndIf}
+    StrCpy $2 "$Staging\${EARLIER_FILES}\$1"
+    ${If} ${FileExists} $2
+      System::Call 'kernel32::MoveFileExW(w r2, w r3, i 9)'
+    ${Else}
+      Call RemoveFile
+    ${EndIf}
+  ${Loop}
+  FileClose $0
+FunctionEnd
+
 ; Brings the unpacked files to their places.
 Function MoveStagedFiles
+  Call KeepEarlierFiles
   FileOpen $0 "${NEW_LIST}" r
   ${Do}
     Call ReadName
@@ -348,6 +395,7 @@ Function MoveStagedFiles
     ${If} $4 = 0
       MessageBox MB_RETRYCANCEL|MB_ICONSTOP "$(CannotWrite)" /SD IDCANCEL IDRETRY again
       FileClose $0
+      Call BringBackEarlierFiles
       Abort
     ${EndIf}
   ${Loop}
