@@ -43,8 +43,9 @@ bool HasWithin(ULONGLONG milliseconds, const std::function<bool()>& condition) {
 
 void WaitUntilItUnpacks() {
   EXPECT_TRUE(HasWithin(kPatienceMilliseconds, [] {
-    return std::ranges::any_of(fs::directory_iterator(InstalledFolder()),
-                               [](const auto& entry) { return entry.path().extension() == ".tmp"; });
+    return std::ranges::any_of(fs::directory_iterator(InstalledFolder()), [](const auto& entry) {
+      return entry.path().filename().wstring().starts_with(L"tr-setup-");
+    });
   })) << "no files are unpacked";
 }
 
