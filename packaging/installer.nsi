@@ -6,8 +6,9 @@
 ; it, without elevation. The same contents make the same bytes.
 ;
 ; Command line of the installer: /S installs silently, /D=FOLDER (last, unquoted) there, or in its subfolder "Times
-; Readings" when it holds something else. Of the uninstaller: /S removes silently, /REMOVESETTINGS the user's settings too, _?=FOLDER (last, unquoted) makes it stay in its place, so that one
-; can wait for it; it is then left for the caller to delete.
+; Readings" when it holds something else. Of the uninstaller: /S removes silently, /REMOVESETTINGS the user's settings
+; too, _?=FOLDER (last, unquoted) makes it stay in its place, so that one can wait for it; it is then left for the caller
+; to delete.
 ;
 ; Exit codes: 0 done; 1 cancelled; 2 a file could not be written or removed; and with nothing touched:
 !define EXIT_IN_USE 3          ; the program runs from that folder, or another one holds a file there
@@ -41,8 +42,6 @@ ShowUninstDetails nevershow
 !define UNINSTALL_KEY "${PROGRAMS_KEY}\Times Readings"
 !define USER_PROGRAMS "$LOCALAPPDATA\Programs"
 !define START_MENU "$SMPROGRAMS\${FOLDER_NAME}"
-; Its folders have this name with a number and ".tmp".
-!define STAGING_NAME "tr-setup-"
 
 ; What this version brings, what the one in INSTDIR brought, and the one in another folder.
 !define NEW_LIST "$PLUGINSDIR\new.txt"
@@ -70,9 +69,6 @@ BrandingText "${PROGRAM_NAME} ${VERSION}"
 !include "${__FILEDIR__}/installer_font.nsh"
 
 Var PreviousFolder   ; another folder that the program is installed in, or empty
-; Everything is unpacked here first: when the disk is full, the installed version is still whole. Empty until this run has
-; made it.
-Var Staging
 Var InstalledVersion
 Var UnwrittenFile
 Var SettingsCheckbox
@@ -84,6 +80,8 @@ Var RemovesSettings  ; 1 when the user's settings are to go too
 
 !insertmacro FILE_FUNCTIONS ""
 !insertmacro FILE_FUNCTIONS "un."
+!include "${__FILEDIR__}/installer_staging.nsh"
+!include "${__FILEDIR__}/installer_folder.nsh"
 
 ; ---- Installing ----
 
@@ -101,257 +99,6 @@ Function .onInit
     SetErrorLevel 1
     Quit
   ${EndIf}
-FunctionEnd
-
-; Rids INSTDIR of "..", of "/" and of a backslash at its end, so that what is registered is the folder's plain name.
-Function MakeFolderFull
-  StrCpy $1 $INSTDIR
-  System::Call 'kernel32::GetFullPathNameW(w r1, i ${NSIS_MAX_STRLEN}, w .r0, p 0) i.r2'
-  ${If} $2 = 0
-  ${OrIf} $2 >= ${NSIS_MAX_STRLEN}
-    Return
-  ${EndIf}
-  StrCpy $1 $0 1 -1
-  ${If} $1 == "\"
-    StrCpy $0 $0 -1
-  ${EndIf}
-  StrCpy $INSTDIR $0
-FunctionEnd
-
-; $0 is 1 when INSTDIR holds what is not the program's, or is a whole drive; else 0. Settings alone are those of a copy that
-; was removed, an unpacking folder alone is a broken-off run's.
-Function HoldsSomethingElse
-  StrCpy $0 0
-  ${If} ${FileExists} "$INSTDIR\${INSTALLED_LIST}"
-  ${OrIf} ${FileExists} "$INSTDIR\shabbat.exe"
-    Return
-  ${EndIf}
-  StrLen $1 $INSTDIR
-  ${If} $1 <= 2
-    StrCpy $0 1
-    Return
-  ${EndIf}
-  FindFirst $1 $2 "$INSTDIR\*.*"
-  ${DoUntil} $2 == ""
-    StrCpy $3 $2 9
-    ${If} $2 != "."
-    ${AndIf} $2 != ".."
-    ${AndIf} $2 != "settings"
-    ${AndIf} $3 != "${STAGING_NAME}"
-      StrCpy $0 1
-    ${EndIf}
-    FindNext $1 $2
-  ${Loop}
-  FindClose $1
-FunctionEnd
-
-; Makes INSTDIR a folder of the program's own, where need be below what was chosen.
-Function TakeOwnFolder
-  Call MakeFolderFull
-  ${Do}
-    Call HoldsSomethingElse
-    ${If} $0 = 0
-      ${ExitDo}
-    ${EndIf}
-    StrCpy $INSTDIR "$INSTDIR\${FOLDER_NAME}"
-  ${Loop}
-FunctionEnd
-
-; $0 is 1 when INSTDIR can be written to; else 0. Leaves nothing behind.
-Function TryFolder
-  StrCpy $0 0
-  StrCpy $1 $INSTDIR
-  StrLen $2 $INSTDIR
-  ${If} $2 > 200 ; the longest name of a file below it, and what the system allows (259)
-    Return
-  ${EndIf}
-  ${DoUntil} ${FileExists} "$1\*.*"
-    ${GetParent} $1 $1
-    ${If} $1 == ""
-      Return
-    ${EndIf}
-  ${Loop}
-  ClearErrors
-  ; Where the folder is still to be made, its parent need not take files (as C:\), but folders.
-  ${If} $1 == $INSTDIR
-    GetTempFileName $2 $1
-    ${IfNot} ${Errors}
-      Delete $2
-      StrCpy $0 1
-    ${EndIf}
-  ${Else}
-    CreateDirectory "$1\times-readings-setup.tmp"
-    ${IfNot} ${Errors}
-      RMDir "$1\times-readings-setup.tmp"
-      StrCpy $0 1
-    ${EndIf}
-  ${EndIf}
-FunctionEnd
-
-; $0 is 1 when PreviousFolder is INSTDIR. Links, drives and short names give a folder many names; so what counts is whether
-; a file made in the one is in the other.
-Function IsPreviousFolderHere
-  StrCpy $0 0
-  ${IfNot} ${FileExists} "$INSTDIR\*.*"
-    Return
-  ${EndIf}
-  ClearErrors
-  GetTempFileName $1 $INSTDIR
-  ${If} ${Errors}
-    StrCpy $0 1 ; not known: then nothing is removed from there
-    Return
-  ${EndIf}
-  ${GetFileName} $1 $2
-  ${If} ${FileExists} "$PreviousFolder\$2"
-    StrCpy $0 1
-  ${EndIf}
-  Delete $1
-FunctionEnd
-
-; Finds what is installed already: the list of INSTDIR's earlier version, PreviousFolder and its list. Lists are read as
-; copies, since those in their folders are among the files that must be free.
-Function FindInstalled
-  Delete "${OLD_LIST}"
-  Delete "${PREVIOUS_LIST}"
-  CopyFiles /SILENT "$INSTDIR\${INSTALLED_LIST}" "${OLD_LIST}"
-  ReadRegStr $PreviousFolder HKCU "${UNINSTALL_KEY}" "InstallLocation"
-  ${If} $PreviousFolder == ""
-  ${OrIfNot} ${FileExists} "$PreviousFolder\${INSTALLED_LIST}"
-    StrCpy $PreviousFolder ""
-    Return
-  ${EndIf}
-  Call IsPreviousFolderHere
-  ${If} $0 = 1
-    StrCpy $PreviousFolder ""
-  ${Else}
-    CopyFiles /SILENT "$PreviousFolder\${INSTALLED_LIST}" "${PREVIOUS_LIST}"
-  ${EndIf}
-FunctionEnd
-
-; Sets HeldFile to a file in use that is to be replaced or removed; asks the user to free it until he cancels.
-Function WaitUntilFree
-  Call FindInstalled
-  again:
-  StrCpy $ListFolder $INSTDIR
-  StrCpy $ListFile "${NEW_LIST}"
-  Call FindHeldFile
-  ${If} $HeldFile == ""
-    StrCpy $ListFile "${OLD_LIST}"
-    Call FindHeldFile
-  ${EndIf}
-  ${If} $HeldFile == ""
-  ${AndIf} $PreviousFolder != ""
-    StrCpy $ListFolder $PreviousFolder
-    StrCpy $ListFile "${PREVIOUS_LIST}"
-    Call FindHeldFile
-  ${EndIf}
-  ${If} $HeldFile != ""
-    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "$(InUse)" /SD IDCANCEL IDRETRY again
-  ${EndIf}
-FunctionEnd
-
-; The folder page stays until the folder will do.
-Function LeaveFolderPage
-  Call MakeFolderFull
-  StrCpy $4 $INSTDIR
-  Call TakeOwnFolder
-  ${If} $INSTDIR != $4
-    MessageBox MB_OKCANCEL|MB_ICONINFORMATION "$(OwnFolder)" IDOK own
-    StrCpy $INSTDIR $4
-    Abort
-    own:
-    FindWindow $1 "#32770" "" $HWNDPARENT
-    GetDlgItem $1 $1 1019
-    SendMessage $1 ${WM_SETTEXT} 0 "STR:$INSTDIR"
-  ${EndIf}
-  Call TryFolder
-  ${If} $0 = 0
-    MessageBox MB_OK|MB_ICONEXCLAMATION "$(CannotUseFolder)"
-    Abort
-  ${EndIf}
-  Call FindInstalled
-  ${If} $PreviousFolder != ""
-    MessageBox MB_OKCANCEL|MB_ICONQUESTION "$(Moves)" IDOK +2
-    Abort
-  ${EndIf}
-  Call WaitUntilFree
-  ${If} $HeldFile != ""
-    Abort
-  ${EndIf}
-FunctionEnd
-
-; The same without pages.
-Function TakeFolderSilently
-  Call TakeOwnFolder
-  Call TryFolder
-  ${If} $0 = 0
-    SetErrorLevel ${EXIT_CANNOT_WRITE}
-    Quit
-  ${EndIf}
-  Call WaitUntilFree
-  ${If} $HeldFile != ""
-    SetErrorLevel ${EXIT_IN_USE}
-    Quit
-  ${EndIf}
-FunctionEnd
-
-; Makes Staging, by a name that nothing in INSTDIR has.
-Function MakeStaging
-  CreateDirectory $INSTDIR
-  StrCpy $1 0
-  ${Do}
-    IntOp $1 $1 + 1
-    StrCpy $0 "$INSTDIR\${STAGING_NAME}$1.tmp"
-    System::Call 'kernel32::CreateDirectoryW(w r0, p 0) i.r2 ?e'
-    Pop $3
-    ${If} $2 <> 0
-      StrCpy $Staging $0
-      Return
-    ${EndIf}
-  ${LoopWhile} $3 = 183 ; ERROR_ALREADY_EXISTS
-  StrCpy $UnwrittenFile $0
-  MessageBox MB_OK|MB_ICONSTOP "$(CannotWrite)" /SD IDOK
-  Abort
-FunctionEnd
-
-; Moves the file $2 to UnwrittenFile in one step; $4 is 0 when another program does not let go of either.
-Function MoveStagedFile
-  StrCpy $3 $UnwrittenFile
-  StrCpy $Patience ${PATIENCE}
-  ${Do}
-    SetFileAttributes $3 NORMAL
-    ; MOVEFILE_REPLACE_EXISTING, MOVEFILE_WRITE_THROUGH
-    System::Call 'kernel32::MoveFileExW(w r2, w r3, i 9) i.r4'
-    ${If} $4 <> 0
-    ${OrIf} $Patience = 0
-      ${ExitDo}
-    ${EndIf}
-    IntOp $Patience $Patience - 1
-    Sleep 100
-  ${Loop}
-FunctionEnd
-
-; Brings the unpacked files to their places.
-Function MoveStagedFiles
-  FileOpen $0 "${NEW_LIST}" r
-  ${Do}
-    Call ReadName
-    ${If} $1 == ""
-      ${ExitDo}
-    ${EndIf}
-    StrCpy $2 "$Staging\$1"
-    StrCpy $UnwrittenFile "$INSTDIR\$1"
-    ${GetParent} $UnwrittenFile $3
-    CreateDirectory $3
-    again:
-    Call MoveStagedFile
-    ${If} $4 = 0
-      MessageBox MB_RETRYCANCEL|MB_ICONSTOP "$(CannotWrite)" /SD IDCANCEL IDRETRY again
-      FileClose $0
-      Abort
-    ${EndIf}
-  ${Loop}
-  FileClose $0
 FunctionEnd
 
 Function RemoveEarlierFiles

@@ -143,6 +143,17 @@ void ExpectWellSet(HWND page) {
   }
 }
 
+// The last page's box, checked when the program is to be started.
+HWND StartBox(HWND last) {
+  return FindWindowExW(FindWindowExW(last, nullptr, L"#32770", nullptr), nullptr, L"Button", nullptr);
+}
+
+// The folder page's field.
+HWND FolderField(HWND page) {
+  constexpr int kFolder = 1019;
+  return GetDlgItem(FindWindowExW(page, nullptr, L"#32770", nullptr), kFolder);
+}
+
 struct Language {
   const wchar_t* name;
   const wchar_t* id;
@@ -180,7 +191,7 @@ TEST_P(PagesTest, LeadFromTheLanguageToAnInstalledProgramAndBack) {
     }
     const HWND last = wizard.WaitForPage(language.finish);
     ExpectWellSet(last);
-    const HWND start = FindWindowExW(FindWindowExW(last, nullptr, L"#32770", nullptr), nullptr, L"Button", nullptr);
+    const HWND start = StartBox(last);
     EXPECT_EQ(SendMessageW(start, BM_GETCHECK, 0, 0), BST_CHECKED) << "the program is started unless one does not want";
     SendMessageW(start, BM_SETCHECK, BST_UNCHECKED, 0);
     wizard.GoOn(last);
@@ -204,6 +215,40 @@ TEST_P(PagesTest, LeadFromTheLanguageToAnInstalledProgramAndBack) {
   EXPECT_EQ(ReadFileText(SettingsFolder() / "persons.txt"), "the user's");
   fs::remove_all(InstalledFolder());
   fs::remove_all(SettingsFolder());
+}
+
+TEST_P(PagesTest, SayThatTheProgramGetsAFolderOfItsOwn) {
+  const Language& language = *GetParam();
+  const fs::path chosen = L"C:\\Tools";
+  const fs::path own = chosen / "Times Readings";
+  fs::create_directories(chosen);
+  WriteFileText(chosen / "LICENSE.txt", "not ours");
+  {
+    const Wizard wizard(L"\"" + SetupFile().wstring() + L"\"");
+    wizard.ChooseLanguage(language.name);
+    wizard.GoOn(wizard.WaitForPage(language.welcome));
+    const HWND page = wizard.WaitForPage(language.folder);
+    const HWND field = FolderField(page);
+    SendMessageW(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(chosen.c_str()));
+    for (const WPARAM answer : {IDCANCEL, IDOK}) {
+      wizard.GoOn(page);
+      const auto names = [&](const std::wstring& text) { return text.find(own.wstring()) != std::wstring::npos; };
+      const HWND box = wizard.WaitFor(
+          [&](HWND window) { return window != page && std::ranges::any_of(ShownTexts(window), names); }, "box");
+      EXPECT_EQ(WideTextOf(field), chosen.wstring());
+      PostMessageW(box, WM_COMMAND, answer, 0);
+      wizard.WaitFor([&](HWND) { return !IsWindow(box); }, "end of the box");
+    }
+    const HWND last = wizard.WaitForPage(language.finish);
+    SendMessageW(StartBox(last), BM_SETCHECK, BST_UNCHECKED, 0);
+    wizard.GoOn(last);
+    EXPECT_EQ(wizard.WaitForExit(), kDone);
+  }
+  EXPECT_EQ(UserValue(kUninstallKey, L"InstallLocation"), own.wstring());
+  Uninstall(own);
+  EXPECT_EQ(FilesOf(chosen).size(), 1u);
+  EXPECT_EQ(ReadFileText(chosen / "LICENSE.txt"), "not ours");
+  fs::remove_all(chosen);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, PagesTest, testing::Values(&kEnglish, &kHebrew),

@@ -41,6 +41,14 @@ bool HasWithin(ULONGLONG milliseconds, const std::function<bool()>& condition) {
   return true;
 }
 
+void WaitUntilItUnpacks() {
+  EXPECT_TRUE(HasWithin(kPatienceMilliseconds, [] {
+    return std::ranges::any_of(fs::directory_iterator(InstalledFolder()), [](const auto& entry) {
+      return entry.path().filename().wstring().starts_with(L"tr-setup-");
+    });
+  })) << "no files are unpacked";
+}
+
 }  // namespace
 
 TEST_F(UpgradeTest, FilesOfTheEarlierVersionGoAndTheUsersStay) {
@@ -156,10 +164,7 @@ TEST_F(UpgradeTest, AFileThatIsHeldForAMomentIsWaitedFor) {
   const fs::path second = InstalledFolder() / list[list.size() - 3];
   for (const auto& file : {first, second}) WriteFileText(file, "an earlier version's");
   const StartedProgram setup(L"\"" + SetupFile().wstring() + L"\" /S");
-  EXPECT_TRUE(HasWithin(kPatienceMilliseconds, [] {
-    return std::ranges::any_of(fs::directory_iterator(InstalledFolder()),
-                               [](const auto& entry) { return entry.path().extension() == ".tmp"; });
-  })) << "no files are unpacked";
+  WaitUntilItUnpacks();
   const HANDLE held =
       CreateFileW(second.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
   EXPECT_TRUE(HasWithin(kPatienceMilliseconds, [&] { return ReadFileText(first) != "an earlier version's"; }));
@@ -168,6 +173,20 @@ TEST_F(UpgradeTest, AFileThatIsHeldForAMomentIsWaitedFor) {
   CloseHandle(held);
   EXPECT_EQ(setup.WaitForExit(), kDone);
   EXPECT_NE(ReadFileText(second), "an earlier version's");
+}
+
+TEST_F(UpgradeTest, AFileThatIsHeldOnLeavesTheEarlierVersionWhole) {
+  for (const char* name : {"LICENSE.txt", "help\\index.html"}) Plant(name, false);
+  fs::remove(InstalledFolder() / "help" / "zmanim.html");
+  const auto before = FilesOf(InstalledFolder());
+  const auto list = InstalledList(InstalledFolder());
+  const StartedProgram setup(L"\"" + SetupFile().wstring() + L"\" /S");
+  WaitUntilItUnpacks();
+  const HANDLE held = CreateFileW((InstalledFolder() / list[list.size() - 3]).c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                  nullptr, OPEN_EXISTING, 0, nullptr);
+  EXPECT_EQ(setup.WaitForExit(), kCannotWriteFile);
+  CloseHandle(held);
+  EXPECT_TRUE(FilesOf(InstalledFolder()) == before);
 }
 
 TEST_F(UpgradeTest, AProgramElsewhereDoesNotHinder) {
