@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <psapi.h>
-#include <winternl.h>
 
 #include <algorithm>
 #include <csignal>
