@@ -62,3 +62,17 @@ void CancelSaving(const ProgramRun& program) {
   Answer(dialog, IDCANCEL);
   EXPECT_TRUE(program.Eventually([&] { return !IsWindow(dialog); }));
 }
+
+void AddHome(const ProgramRun& program) {
+  program.PostCommand(1101);
+  const HWND manager = program.WaitForDialog("Select Location");
+  Click(manager, 102);
+  const HWND editor = program.WaitForDialog("Add location");
+  const std::pair<int, const char*> fields[] = {{101, "Home"}, {102, "32"}, {103, "49"}, {106, "34"},
+                                                {107, "59"},   {110, "2"},  {200, "0"},  {300, "754"}};
+  for (const auto& [field, text] : fields) SetText(editor, field, text);
+  Click(editor, IDOK);
+  EXPECT_TRUE(program.Eventually([&] { return !IsWindow(editor); }));
+  PostMessageA(manager, WM_COMMAND, IDCANCEL, 0);
+  EXPECT_TRUE(program.Eventually([&] { return !IsWindow(manager); }));
+}

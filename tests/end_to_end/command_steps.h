@@ -23,3 +23,6 @@ void ChooseTypeToSave(const ProgramRun& program, int type);
 
 // Cancels that dialog, and waits until it is gone.
 void CancelSaving(const ProgramRun& program);
+
+// Adds a place of the user's own by the dialogs: "Home" at 32°49' N, 34°59' E, zone +2, 754 m high.
+void AddHome(const ProgramRun& program);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "tests/end_to_end/command_steps.h"
 #include "tests/end_to_end/program_driver.h"
 #include "tests/packages/installation.h"
 
@@ -88,17 +89,7 @@ TEST_F(UpgradeTest, TheUsersPlacesSurviveAndAreNotInTheProgramsFolder) {
   {
     ProgramRun program(InstalledFolder(), "");
     program.WaitForDocuments(1);
-    program.PostCommand(kPlaces);
-    const HWND manager = program.WaitForDialog("Select Location");
-    Click(manager, 102);
-    const HWND editor = program.WaitForDialog("Add location");
-    const std::pair<int, const char*> fields[] = {{101, "Home"}, {102, "32"}, {103, "49"}, {106, "34"},
-                                                  {107, "59"},   {110, "2"},  {200, "0"},  {300, "754"}};
-    for (const auto& [field, text] : fields) SetText(editor, field, text);
-    Click(editor, IDOK);
-    EXPECT_TRUE(program.Eventually([&] { return !IsWindow(editor); }));
-    PostMessageA(manager, WM_COMMAND, IDCANCEL, 0);
-    EXPECT_TRUE(program.Eventually([&] { return !IsWindow(manager); }));
+    AddHome(program);
     PostMessageA(program.WaitForTopLevel("ShabbatMain"), WM_CLOSE, 0, 0);
     EXPECT_EQ(program.WaitForExit(), 0u);
   }
