@@ -1,6 +1,8 @@
 #include "libraries/kinship/person_table.h"
 
 #include <initializer_list>
+#include <utility>
+#include <vector>
 
 #include "libraries/kinship/date_words.h"
 #include "libraries/kinship/person_texts.h"
@@ -39,26 +41,30 @@ Table TableOf(const std::vector<Person>& people, const Shown& shown) {
   table.remarks = {"As of " + DayInWords(shown.today)};
   for (int i = 0; i < kColumns; ++i) {
     const auto column = static_cast<Column>(i);
-    table.columns.push_back({HeadingOf(column, shown), column == Column::kYears ? Align::kRight : Align::kLeft});
+    table.columns.push_back({HeadingOf(column, shown), column == Column::kYears ? Align::kEnd : Align::kStart});
   }
+  std::vector<std::vector<std::string>> rows;
   for (const Person& person : people) {
     const PersonDates dates = Reckoned(person, shown);
-    std::vector<std::string>& row = table.rows.emplace_back();
+    std::vector<std::string>& row = rows.emplace_back();
     for (int i = 0; i < kColumns; ++i) row.push_back(CellOf(person, dates, static_cast<Column>(i)));
   }
+  table.rows = publishing::ListedTexts(std::move(rows));
   return table;
 }
 
 Table CsvTableOf(const std::vector<Person>& people, const Shown& shown) {
   Table table;
-  for (const char* const heading : kCsvHeadings) table.columns.push_back({heading, Align::kLeft});
-  for (const Column column : kShownInCsv) table.columns.push_back({HeadingOf(column, shown), Align::kLeft});
+  for (const char* const heading : kCsvHeadings) table.columns.push_back({heading, Align::kStart});
+  for (const Column column : kShownInCsv) table.columns.push_back({HeadingOf(column, shown), Align::kStart});
+  std::vector<std::vector<std::string>> rows;
   for (const Person& person : people) {
     const PersonDates dates = Reckoned(person, shown);
-    std::vector<std::string>& row = table.rows.emplace_back();
+    std::vector<std::string>& row = rows.emplace_back();
     for (size_t i = 0; i < kCsvHeadings.size(); ++i) row.push_back(ReadAgain(person, static_cast<CsvField>(i)));
     for (const Column column : kShownInCsv) row.push_back(CellOf(person, dates, column));
   }
+  table.rows = publishing::ListedTexts(std::move(rows));
   return table;
 }
 

@@ -125,9 +125,9 @@ std::string CsvOf(const Table& table) {
   std::string csv(kMark);
   const std::size_t columns = table.columns.size();
   AppendRecord(csv, columns, [&](std::size_t column) -> const std::string& { return table.columns[column].heading; });
-  for (const std::vector<std::string>& row : table.rows) {
+  ForEachRow(table, [&](const Row& row) {
     AppendRecord(csv, columns, [&](std::size_t column) -> const std::string& { return CellOf(row, column); });
-  }
+  });
   return csv;
 }
 

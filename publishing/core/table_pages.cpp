@@ -65,13 +65,14 @@ void TablePages::PlaceColumns(const Table& table, PageSurface& surface) {
   const MeasureText ofHeading = MeasureWith(surface, PageFont::kHeading);
   const MeasureText ofText = MeasureWith(surface, PageFont::kText);
   std::vector<int> own;
-  for (std::size_t column = 0; column < table.columns.size(); ++column) {
-    int width = WidthUnwrapped(PrintedText(table.columns[column].heading), ofHeading);
-    for (const auto& row : table.rows) {
-      width = std::max(width, WidthUnwrapped(PrintedText(CellOf(row, column)), ofText));
-    }
-    own.push_back(width + gap_);
+  for (const Column& column : table.columns) {
+    own.push_back(WidthUnwrapped(PrintedText(column.heading), ofHeading) + gap_);
   }
+  ForEachRow(table, [&](const Row& row) {
+    for (std::size_t column = 0; column < own.size(); ++column) {
+      own[column] = std::max(own[column], WidthUnwrapped(PrintedText(CellOf(row, column)), ofText) + gap_);
+    }
+  });
   // Behind the last column there is no gap to keep.
   const std::vector<int> widths = ColumnWidths(own, std::max(sheet_.body.width + gap_, 0));
   isNarrowed_ = widths != own;
@@ -110,7 +111,7 @@ void TablePages::WrapTitle(const Table& table, PageSurface& surface) {
 
 void TablePages::WrapRows(const Table& table, PageSurface& surface) {
   const MeasureText measure = MeasureWith(surface, PageFont::kText);
-  for (const auto& row : table.rows) {
+  ForEachRow(table, [&](const Row& row) {
     Cells cells;
     for (std::size_t column = 0; column < columns_.size(); ++column) {
       const std::u16string text = PrintedText(CellOf(row, column));
@@ -118,7 +119,7 @@ void TablePages::WrapRows(const Table& table, PageSurface& surface) {
       cells.push_back({{lines.begin(), lines.end()}, IsRightToLeft(CellOf(row, column))});
     }
     rows_.push_back(std::move(cells));
-  }
+  });
 }
 
 void TablePages::Plan() {
@@ -187,7 +188,7 @@ void TablePages::DrawCells(PageSurface& surface, const Cells& cells, PageFont fo
   const int height = font == PageFont::kHeading ? headingLine_ : textLine_;
   for (std::size_t column = 0; column < cells.size(); ++column) {
     const Block& cell = cells[column];
-    const bool atRight = cell.rightToLeft || columns_[column].align == Align::kRight;
+    const bool atRight = cell.rightToLeft || columns_[column].align == Align::kEnd;
     const LineStyle style = {font, atRight ? Place::kRight : Place::kLeft, cell.rightToLeft};
     for (int line = 0; line < slice.lineCount; ++line) {
       const auto index = static_cast<std::size_t>(slice.firstLine + line);

@@ -62,11 +62,11 @@ void AppendRuns(std::string& rtf, const std::string& text, const Form& form) {
 // How a paragraph stands. A text from right to left begins at the right.
 std::string ParagraphOf(const std::string& text, Align align) {
   if (IsRightToLeft(text)) return "\\rtlpar\\qr ";
-  return align == Align::kRight ? "\\ltrpar\\qr " : "\\ltrpar\\ql ";
+  return align == Align::kEnd ? "\\ltrpar\\qr " : "\\ltrpar\\ql ";
 }
 
 void AppendParagraph(std::string& rtf, const std::string& text, const Form& form, int spaceAfter) {
-  rtf += "\\pard\\sa" + std::to_string(spaceAfter) + ParagraphOf(text, Align::kLeft);
+  rtf += "\\pard\\sa" + std::to_string(spaceAfter) + ParagraphOf(text, Align::kStart);
   AppendRuns(rtf, text, form);
   rtf += "\\par\r\n";
 }
@@ -96,12 +96,17 @@ class Writer {
 
  private:
   void MeasureColumns() {
+    std::vector<std::size_t> longest;
+    for (const Column& column : table_.columns) longest.push_back(WidthInCharacters(column.heading));
+    ForEachRow(table_, [&](const Row& row) {
+      for (std::size_t column = 0; column < longest.size(); ++column) {
+        longest[column] = std::max(longest[column], WidthInCharacters(CellOf(row, column)));
+      }
+    });
     std::vector<int> own;
-    for (std::size_t column = 0; column < table_.columns.size(); ++column) {
-      std::size_t longest = WidthInCharacters(table_.columns[column].heading);
-      for (const auto& row : table_.rows) longest = std::max(longest, WidthInCharacters(CellOf(row, column)));
+    for (const std::size_t characterCount : longest) {
       // One more, because the average is no promise.
-      const auto characters = static_cast<double>(std::min(longest, kMostCharacters) + 1);
+      const auto characters = static_cast<double>(std::min(characterCount, kMostCharacters) + 1);
       own.push_back(static_cast<int>(characters * kCharacterWidth * text_.halfPoints) + 2 * kCellGap);
     }
     isLandscape_ = ColumnWidths(own, kShortEdge - 2 * kMargin) != own;
@@ -148,10 +153,10 @@ class Writer {
     rtf += "\\trowd\\trhdr\\trkeep" + gap + CellsDefinition("\\clbrdrb\\brdrs\\brdrw10") + "\r\n";
     AppendRow(rtf, bold_, [&](std::size_t column) -> const std::string& { return table_.columns[column].heading; });
     const std::string rowBeginning = "\\trowd\\trkeep" + gap + CellsDefinition("") + "\r\n";
-    for (const auto& row : table_.rows) {
+    ForEachRow(table_, [&](const Row& row) {
       rtf += rowBeginning;
       AppendRow(rtf, text_, [&](std::size_t column) -> const std::string& { return CellOf(row, column); });
-    }
+    });
   }
 
   const Table& table_;

@@ -10,10 +10,11 @@ using testing::ElementsAre;
 using testing::Optional;
 using Records = std::vector<std::vector<std::string>>;
 
-const Table kTable = {.title = "Not in the file",
-                      .remarks = {"nor this"},
-                      .columns = {{"Name"}, {"Years", Align::kRight}},
-                      .rows = {{"Cohen, \"Moshe\"", "80"}, {"כהן"}, {"a\r\nb", " 1"}, {"", ""}, {"x;y", "z\t"}}};
+const Table kTable = {
+    .title = "Not in the file",
+    .remarks = {"nor this"},
+    .columns = {{"Name"}, {"Years", Align::kEnd}},
+    .rows = ListedTexts({{"Cohen, \"Moshe\"", "80"}, {"כהן"}, {"a\r\nb", " 1"}, {"", ""}, {"x;y", "z\t"}})};
 
 // RFC 4180, 2.5-2.7.
 TEST(Csv, TextsWithCommasQuotesAndLineEndsAreQuoted) {
@@ -34,7 +35,7 @@ TEST(Csv, WhatIsWrittenIsRead) {
 }
 
 TEST(Csv, TheOnlyTextOfARowMayBeEmpty) {
-  const Table table = {.columns = {{""}}, .rows = {{""}, {"a;b"}}};
+  const Table table = {.columns = {{""}}, .rows = ListedTexts({{""}, {"a;b"}})};
   EXPECT_EQ(CsvIn(CsvOf(table)), (Records{{""}, {""}, {"a;b"}}));
 }
 

@@ -61,8 +61,10 @@ std::vector<RecordedPage> PagesOf(const Table& table, const Sheet& sheet = kShee
 // The body has 200 dots; 30 are for the number of the page, 22 for the headings. Rows are 21 high: six have room below
 // a title of 40 dots with its gap, and seven without.
 Table TableOfRows(int count) {
-  Table table = {.title = "T", .columns = {{"N"}, {"Y", Align::kRight}}};
-  for (int row = 1; row <= count; ++row) table.rows.push_back({"r" + std::to_string(row), std::to_string(row)});
+  Table table = {.title = "T", .columns = {{"N"}, {"Y", Align::kEnd}}};
+  std::vector<std::vector<std::string>> rows;
+  for (int row = 1; row <= count; ++row) rows.push_back({"r" + std::to_string(row), std::to_string(row)});
+  table.rows = ListedTexts(std::move(rows));
   return table;
 }
 
@@ -91,13 +93,14 @@ TEST(TablePages, PlacesAreThoseOfTheirColumns) {
 }
 
 TEST(TablePages, ATextFromRightToLeftBeginsAtTheRight) {
-  const auto pages = PagesOf({.columns = {{"N"}}, .rows = {{"משה 5"}, {"Moshe משה"}}});
+  const auto pages = PagesOf({.columns = {{"N"}}, .rows = ListedTexts({{"משה 5"}, {"Moshe משה"}})});
   EXPECT_EQ(pages[0].lines[1].style, (LineStyle{PageFont::kText, Place::kRight, true}));
   EXPECT_EQ(pages[0].lines[2].style, (LineStyle{PageFont::kText, Place::kLeft, false}));
 }
 
 TEST(TablePages, WideColumnsAreNarrowedAndTheirTextsWrapped) {
-  const Table table = {.columns = {{"A"}, {"B"}}, .rows = {{"ab", "one two three four five six seven eight"}}};
+  const Table table = {.columns = {{"A"}, {"B"}},
+                       .rows = ListedTexts({{"ab", "one two three four five six seven eight"}})};
   RecordedPage measuring;
   EXPECT_TRUE(TablePages(table, kSheet, kDotsPerInch, measuring).IsNarrowed());
   EXPECT_FALSE(TablePages(TableOfRows(3), kSheet, kDotsPerInch, measuring).IsNarrowed());
@@ -108,7 +111,7 @@ TEST(TablePages, WideColumnsAreNarrowedAndTheirTextsWrapped) {
 }
 
 TEST(TablePages, ControlCharactersAreBlanksAndLineEndsStay) {
-  const auto pages = PagesOf({.columns = {{"A"}}, .rows = {{"a\tb\r\nc\rd\ne"}}});
+  const auto pages = PagesOf({.columns = {{"A"}}, .rows = ListedTexts({{"a\tb\r\nc\rd\ne"}})});
   EXPECT_THAT(pages[0].Texts(), ElementsAre(u"A", u"a b", u"c", u"d", u"e", u"Page 1 of 1"));
 }
 
@@ -142,12 +145,14 @@ TEST(TablePages, EveryRowIsThereOnceAndNothingBeyondThePage) {
     if (shape % 3) table.title = "Title of many words";
     if (shape % 5 == 0) table.remarks = {"a remark", "הערה"};
     for (int column = 0; column <= shape % 4; ++column) table.columns.push_back({"h" + std::to_string(column)});
+    std::vector<std::vector<std::string>> texts;
     for (int row = 0; row < shape % 37; ++row) {
-      table.rows.push_back({"<" + std::to_string(row) + ">"});
+      texts.push_back({"<" + std::to_string(row) + ">"});
       for (int column = 1; column <= shape % 4; ++column) {
-        table.rows.back().push_back(std::string(static_cast<std::size_t>((row * 7 + column * shape) % 40), 'x'));
+        texts.back().push_back(std::string(static_cast<std::size_t>((row * 7 + column * shape) % 40), 'x'));
       }
     }
+    table.rows = ListedTexts(std::move(texts));
     const Sheet sheet = {400, 300, {50, 40, 200 + shape % 100, 180 + shape % 90}};
     std::u16string rows;
     const auto pages = PagesOf(table, sheet);

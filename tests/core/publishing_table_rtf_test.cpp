@@ -18,8 +18,8 @@ using testing::Not;
 
 const RtfFont kFont = {.face = "Times New Roman", .halfPoints = 20};
 
-std::string OfCell(const std::string& text, Align align = Align::kLeft) {
-  return RtfOf({.columns = {{"H", align}}, .rows = {{text}}}, kFont);
+std::string OfCell(const std::string& text, Align align = Align::kStart) {
+  return RtfOf({.columns = {{"H", align}}, .rows = ListedTexts({{text}})}, kFont);
 }
 
 // RTF 1.9.1, "Unicode RTF": a signed number of 16 bits and what readers without Unicode show.
@@ -27,7 +27,7 @@ TEST(TableRtf, WhatIsNotAsciiIsWrittenByItsNumber) {
   EXPECT_THAT(OfCell("é€\uFFFD"), HasSubstr("\\u233?\\u8364?\\u-3?"));
   EXPECT_THAT(OfCell("👪"), HasSubstr("\\u-10179?\\u-9110?"));  // U+D83D, U+DC6A
   const std::string rtf =
-      RtfOf({.title = "é", .remarks = {"è"}, .columns = {{"ê"}}, .rows = {{"ש\x01"}}}, {"Ö;{}", 20});
+      RtfOf({.title = "é", .remarks = {"è"}, .columns = {{"ê"}}, .rows = ListedTexts({{"ש\x01"}})}, {"Ö;{}", 20});
   EXPECT_TRUE(std::all_of(rtf.begin(), rtf.end(),
                           [](char byte) { return (byte >= ' ' && byte < 0x7F) || byte == '\r' || byte == '\n'; }));
   EXPECT_THAT(rtf, HasSubstr("{\\f0\\fnil\\fcharset0 \\u214?\\{\\};}"));
@@ -41,7 +41,7 @@ TEST(TableRtf, ATextFromRightToLeftBeginsAtTheRight) {
   EXPECT_THAT(OfCell("אב"),
               HasSubstr("\\rtlpar\\qr {\\ltrch\\fcs0\\f0\\fs20\\rtlch\\fcs1\\af0\\afs20 \\u1488?\\u1489?}"));
   EXPECT_THAT(OfCell("ab"), HasSubstr("\\ltrpar\\ql {\\rtlch\\fcs1\\af0\\afs20\\ltrch\\fcs0\\f0\\fs20 ab}"));
-  EXPECT_THAT(OfCell("ab", Align::kRight), HasSubstr("\\ltrpar\\qr "));
+  EXPECT_THAT(OfCell("ab", Align::kEnd), HasSubstr("\\ltrpar\\qr "));
 }
 
 TEST(TableRtf, PartsOfATextAreEachWrittenTheirWay) {
@@ -63,15 +63,17 @@ std::vector<int> RightEdges(const std::string& rtf) {
 
 // A character of 10 points takes 110 twips, a cell 108 at each side.
 TEST(TableRtf, ColumnsAreAsWideAsTheirLongestText) {
-  const std::string rtf = RtfOf({.columns = {{"abc"}, {"d"}}, .rows = {{"x", std::string(9, 'x')}}}, kFont);
+  const std::string rtf =
+      RtfOf({.columns = {{"abc"}, {"d"}}, .rows = ListedTexts({{"x", std::string(9, 'x')}})}, kFont);
   EXPECT_THAT(RightEdges(rtf), ElementsAre(4 * 110 + 216, 4 * 110 + 216 + 10 * 110 + 216, 656, 1972));
   EXPECT_THAT(rtf, AllOf(HasSubstr("\\paperw11906\\paperh16838"), Not(HasSubstr("landscape"))));
 }
 
 // A4 across has 14570 twips between margins of 2 cm.
 TEST(TableRtf, WideColumnsLieAcrossTheSheetAndShareIt) {
-  const std::string rtf =
-      RtfOf({.columns = {{"abc"}, {"d"}, {"e"}}, .rows = {{"x", std::string(500, 'x'), std::string(90, 'y')}}}, kFont);
+  const std::string rtf = RtfOf(
+      {.columns = {{"abc"}, {"d"}, {"e"}}, .rows = ListedTexts({{"x", std::string(500, 'x'), std::string(90, 'y')}})},
+      kFont);
   EXPECT_THAT(rtf, HasSubstr("\\paperw16838\\paperh11906"));
   EXPECT_THAT(rtf, HasSubstr("\\landscape"));
   const std::vector<int> edges = RightEdges(rtf);
@@ -85,7 +87,7 @@ TEST(TableRtf, ImpossibleSizesAreLimited) {
 }
 
 TEST(TableRtf, ATableWithoutColumnsIsATextWithoutATable) {
-  EXPECT_THAT(RtfOf({.title = "T", .rows = {{"x"}}}, kFont), Not(HasSubstr("\\trowd")));
+  EXPECT_THAT(RtfOf({.title = "T", .rows = ListedTexts({{"x"}})}, kFont), Not(HasSubstr("\\trowd")));
 }
 
 // 100 - 10 leaves 90: an equal share of 33 each and the rest of 24 as 67 to 17, which is 19 and 4.

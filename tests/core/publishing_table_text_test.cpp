@@ -10,8 +10,8 @@ const std::string kMark = "\xEF\xBB\xBF";
 TEST(TableText, ColumnsArePaddedByCharacters) {
   const Table table = {.title = "Persons",
                        .remarks = {"of 2026"},
-                       .columns = {{"Name"}, {"Age", Align::kRight}, {"Place"}},
-                       .rows = {{"שָׂרָה", "7", "Aachen"}, {"Соломон", "120", ""}, {"Li"}}};
+                       .columns = {{"Name"}, {"Age", Align::kEnd}, {"Place"}},
+                       .rows = ListedTexts({{"שָׂרָה", "7", "Aachen"}, {"Соломон", "120", ""}, {"Li"}})};
   EXPECT_EQ(TextOf(table), kMark +
                                "Persons\r\n"
                                "of 2026\r\n"
@@ -24,12 +24,15 @@ TEST(TableText, ColumnsArePaddedByCharacters) {
 }
 
 TEST(TableText, BreaksWithinATextAreBlanks) {
-  const Table table = {.title = "a\nb", .remarks = {"c\td"}, .columns = {{"e\r\nf"}}, .rows = {{"g\nh\ti"}}};
+  const Table table = {
+      .title = "a\nb", .remarks = {"c\td"}, .columns = {{"e\r\nf"}}, .rows = ListedTexts({{"g\nh\ti"}})};
   EXPECT_EQ(TextOf(table), kMark + "a b\r\nc d\r\n\r\ne f\r\n-----\r\ng h i\r\n");
 }
 
 TEST(TableText, WithoutTitleItBeginsWithTheHeadings) {
-  const Table table = {.columns = {{"a"}, {"b"}}, .rows = {}};
+  const Table table = {
+      .columns = {{"a"}, {"b"}},
+  };
   EXPECT_EQ(TextOf(table), kMark + "a  b\r\n-  -\r\n");
 }
 

@@ -24,8 +24,8 @@ Records AnyRecords(FuzzedDataProvider& input) {
 
 std::string Written(const Records& records) {
   Table table;
-  for (const std::string& heading : records.front()) table.columns.push_back({heading, Align::kLeft});
-  table.rows.assign(records.begin() + 1, records.end());
+  for (const std::string& heading : records.front()) table.columns.push_back({heading, Align::kStart});
+  table.rows = ListedTexts({records.begin() + 1, records.end()});
   return CsvOf(table);
 }
 

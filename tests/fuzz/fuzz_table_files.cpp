@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "publishing/core/table_rtf.h"
 #include "publishing/core/table_text.h"
@@ -42,12 +44,12 @@ void CheckRtf(const Table& table, const std::string& rtf) {
   }
   FUZZ_CHECK(depth == 0);
   // A text's own backslash is doubled, so what begins a line is markup.
-  FUZZ_CHECK(CountOf(rtf, "\n\\row\r") == table.rows.size() + 1);
+  FUZZ_CHECK(CountOf(rtf, "\n\\row\r") == table.rows->Count() + 1);
 }
 
 void CheckText(const Table& table, const std::string& text) {
   const std::size_t above = table.remarks.size() + (table.title.empty() ? 0 : 1);
-  const std::size_t lines = table.rows.size() + 2 + above + (above > 0 ? 1 : 0);
+  const std::size_t lines = table.rows->Count() + 2 + above + (above > 0 ? 1 : 0);
   FUZZ_CHECK(CountOf(text, "\n") == lines && CountOf(text, "\r") == lines && CountOf(text, "\r\n") == lines);
   FUZZ_CHECK(CountOf(text, " \r") == 0 && CountOf(text, "\t") == 0);
 }
@@ -58,14 +60,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   FuzzedDataProvider input(data, size);
   Table table;
   table.columns.resize(input.ConsumeIntegralInRange<std::size_t>(1, 4));
-  table.rows.resize(input.ConsumeIntegralInRange<std::size_t>(0, 5));
+  std::vector<std::vector<std::string>> rows(input.ConsumeIntegralInRange<std::size_t>(0, 5));
   table.remarks.resize(input.ConsumeIntegralInRange<std::size_t>(0, 2));
   const RtfFont font = {input.ConsumeRandomLengthString(20), input.ConsumeIntegral<int>()};
   table.title = input.ConsumeRandomLengthString(40);
   for (Column& column : table.columns) column = {input.ConsumeRandomLengthString(20), Align{input.ConsumeBool()}};
-  for (auto& row : table.rows) {
+  for (auto& row : rows) {
     for (std::size_t cell = 0; cell < table.columns.size(); ++cell) row.push_back(input.ConsumeRandomLengthString(60));
   }
+  table.rows = ListedTexts(std::move(rows));
   for (std::string& remark : table.remarks) remark = input.ConsumeRandomLengthString(40);
   CheckRtf(table, RtfOf(table, font));
   CheckText(table, TextOf(table));

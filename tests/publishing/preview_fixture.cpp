@@ -8,13 +8,15 @@
 publishing::Table TableOfNames(int rows) {
   publishing::Table table = {.title = "Persons",
                              .remarks = {"of three scripts"},
-                             .columns = {{"Name"}, {"שם"}, {"Имя"}, {"Years", publishing::Align::kRight}}};
+                             .columns = {{"Name"}, {"שם"}, {"Имя"}, {"Years", publishing::Align::kEnd}}};
+  std::vector<std::vector<std::string>> texts;
   for (int row = 1; row <= rows; ++row) {
     char number[16];
     std::snprintf(number, sizeof number, " %03d", row);
-    table.rows.push_back({std::string("Reuben") + number, std::string("ראובן") + number, std::string("Рувим") + number,
-                          std::to_string(4000 + row)});
+    texts.push_back({std::string("Reuben") + number, std::string("ראובן") + number, std::string("Рувим") + number,
+                     std::to_string(4000 + row)});
   }
+  table.rows = publishing::ListedTexts(std::move(texts));
   return table;
 }
 

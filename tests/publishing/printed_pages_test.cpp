@@ -74,12 +74,13 @@ TEST_F(PrintedPages, EveryNameIsPrintedOnceInEveryScript) {
   Press(preview_, IDC_PREVIEW_PRINT);
   Press(run_->WaitFor(L"Print"), IDOK);
   const std::string text = Printed();
-  for (const auto& row : table_.rows) {
-    const std::string line = LineWith(text, row[0]);
-    EXPECT_THAT(line, AllOf(HasSubstr("ראובן"), HasSubstr(row[2]), HasSubstr(row[3])));
-    EXPECT_EQ(CountOf(line, row[0].substr(row[0].size() - 3)), 4u) << line;
-    EXPECT_EQ(CountOf(text, row[0]), 1u) << row[0];
-  }
+  publishing::ForEachRow(table_, [&](const publishing::Row& row) {
+    const auto& cells = row.cells;
+    const std::string line = LineWith(text, cells[0]);
+    EXPECT_THAT(line, AllOf(HasSubstr("ראובן"), HasSubstr(cells[2]), HasSubstr(cells[3])));
+    EXPECT_EQ(CountOf(line, cells[0].substr(cells[0].size() - 3)), 4u) << line;
+    EXPECT_EQ(CountOf(text, cells[0]), 1u) << cells[0];
+  });
   EXPECT_EQ(CountOf(text, "ראובן"), 300u);
   const std::size_t pages = CountOf(text, "\f");
   EXPECT_EQ(number, L"Page 1 of " + std::to_wstring(pages)) << "as the preview said";
@@ -154,8 +155,13 @@ class ShownPages : public testing::Test {
 // However small the page is shown and however its letters are rounded.
 TEST_F(ShownPages, NothingStandsInTheMarginsAtAnySize) {
   publishing::Table table = TableOfNames(100);
-  for (auto& row : table.rows)
-    row.push_back("Blessed and remembered, with a remark that goes on for more than a line, " + row[0]);
+  std::vector<publishing::Row> rows;
+  publishing::ForEachRow(table, [&](const publishing::Row& row) {
+    rows.push_back(row);
+    rows.back().cells.push_back("Blessed and remembered, with a remark that goes on for more than a line, " +
+                                row.cells[0]);
+  });
+  table.rows = publishing::Listed(std::move(rows));
   table.columns.push_back({"Remark"});
   const publishing::TablePages pages = LaidOut(table);
   EXPECT_TRUE(pages.IsNarrowed());
@@ -179,7 +185,7 @@ TEST_F(ShownPages, NothingStandsInTheMarginsAtAnySize) {
 // The last column ends at the right of what a table of one column needs.
 TEST_F(ShownPages, AHebrewTextStandsAtTheRightOfItsColumn) {
   const publishing::TablePages pages =
-      LaidOut({.columns = {{"A long heading over short texts"}}, .rows = {{"אב"}, {"ab"}}});
+      LaidOut({.columns = {{"A long heading over short texts"}}, .rows = publishing::ListedTexts({{"אב"}, {"ab"}})});
   constexpr double kScale = 0.2;
   const Picture picture(static_cast<int>(kSheet.width * kScale), static_cast<int>(kSheet.height * kScale));
   publishing::DcSurface surface(picture.dc(), font_, {kScale, kScale, {}});

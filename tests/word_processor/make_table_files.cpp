@@ -29,31 +29,34 @@ void Save(const fs::path& file, const std::string& text) {
 
 Table TableOf(const std::vector<std::vector<std::string>>& records) {
   Table table = {.title = "Persons {of} \\2026", .remarks = {"Лица", "אנשים (2026)"}};
-  for (const std::string& heading : records.front()) table.columns.push_back({heading, Align::kLeft});
-  table.columns.front().align = Align::kRight;
-  table.rows.assign(records.begin() + 1, records.end());
+  for (const std::string& heading : records.front()) table.columns.push_back({heading, Align::kStart});
+  table.columns.front().align = Align::kEnd;
+  table.rows = ListedTexts({records.begin() + 1, records.end()});
   return table;
 }
 
 Table Widened(Table table) {
   for (Column& column : table.columns) column.heading += column.heading;
-  for (auto& row : table.rows) {
-    for (std::string& text : row) text = text + " " + text + " " + text + " " + text;
-  }
+  std::vector<Row> rows;
+  ForEachRow(table, [&](const Row& row) {
+    rows.push_back(row);
+    for (std::string& text : rows.back().cells) text = text + " " + text + " " + text + " " + text;
+  });
+  table.rows = Listed(std::move(rows));
   return table;
 }
 
 std::string CalendarOfRows(const Table& table) {
   std::vector<Event> events;
-  for (const auto& row : table.rows) {
-    const int date = std::stoi(row.at(0));
+  ForEachRow(table, [&](const Row& row) {
+    const int date = std::stoi(row.cells.at(0));
     std::string description;
-    for (std::size_t column = 2; column < row.size(); ++column) description += row[column] + "\n";
+    for (std::size_t column = 2; column < row.cells.size(); ++column) description += row.cells[column] + "\n";
     events.push_back({"row" + std::to_string(events.size()) + "@times.readings",
                       {date / 10000, date / 100 % 100, date % 100},
-                      row.at(1),
+                      row.cells.at(1),
                       description});
-  }
+  });
   return CalendarOf("Persons, שמות; Имена", events, {{2026, 11, 2}, 7, 5, 9});
 }
 
