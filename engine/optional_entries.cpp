@@ -21,6 +21,7 @@ void LookUp(const char* library, const char* name, Function& entry) {
 void LookUpOptionalEntries() {
   OptionalEntryPoints& entries = OptionalEntries;
   LookUp("candles.dll", "CandlesDoDialogAt", entries.CandlesDoDialogAt);
+  LookUp("hours.dll", "HoursGetDayOffset", entries.HoursGetDayOffset);
   LookUp("hours.dll", "HoursGetDefinition", entries.HoursGetDefinition);
   LookUp("hours.dll", "HoursGetFingerprint", entries.HoursGetFingerprint);
   LookUp("lections.dll", "LectionsGetChoice", entries.LectionsGetChoice);
@@ -36,4 +37,5 @@ void LookUpOptionalEntries() {
 void LookUpSolarEntries() {
   LookUp("solar.dll", "SolarDescribeZone", OptionalEntries.SolarDescribeZone);
   LookUp("solar.dll", "SolarDoSummerTimeDialog", OptionalEntries.SolarDoSummerTimeDialog);
+  LookUp("solar.dll", "SolarGetClockOffset", OptionalEntries.SolarGetClockOffset);
 }

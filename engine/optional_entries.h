@@ -11,6 +11,7 @@
 
 struct OptionalEntryPoints {
   decltype(&::CandlesDoDialogAt) CandlesDoDialogAt;
+  decltype(&::HoursGetDayOffset) HoursGetDayOffset;
   decltype(&::HoursGetDefinition) HoursGetDefinition;
   decltype(&::HoursGetFingerprint) HoursGetFingerprint;
   // These three are there together or not at all.
@@ -24,6 +25,7 @@ struct OptionalEntryPoints {
   decltype(&::ProfileGetFolder) ProfileGetFolder;
   decltype(&::SolarDescribeZone) SolarDescribeZone;
   decltype(&::SolarDoSummerTimeDialog) SolarDoSummerTimeDialog;
+  decltype(&::SolarGetClockOffset) SolarGetClockOffset;
 };
 
 extern OptionalEntryPoints OptionalEntries;
