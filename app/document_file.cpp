@@ -6,14 +6,15 @@
 
 #include "app/core/document_calendar.h"
 #include "app/document_progress.h"
-#include "app/taken_document.h"
 #include "publishing/core/csv.h"
 #include "publishing/core/table_html.h"
 #include "publishing/core/table_text.h"
 #include "publishing/utc_now.h"
 #include "win/file_sink.h"
 #include "win/save_dialog.h"
+#include "win/message_box.h"
 #include "win/scoped.h"
+#include "win/unicode_text.h"
 
 namespace {
 
@@ -24,7 +25,9 @@ constexpr wchar_t kTypes[] =
     L"Web page (*.html)\0*.html;*.htm\0Word processor (*.rtf)\0*.rtf\0Spreadsheet (*.csv)\0*.csv\0"
     L"Calendar (*.ics)\0*.ics\0Plain text (*.txt)\0*.txt\0";
 
-bool Ask(OPENFILENAMEW& dialog) {
+constexpr char kReplace[] = "There is a file of this name with its extension already. Do you want to replace it?";
+
+bool Run(OPENFILENAMEW& dialog) {
   if (GetSaveFileNameW(&dialog)) return true;
   if (CommDlgExtendedError() != FNERR_INVALIDFILENAME || dialog.lpstrFile[0] == L'\0') return false;
   dialog.lpstrFile[0] = L'\0';
@@ -62,8 +65,9 @@ SavingResult Write(const DocumentSource& source, const DocumentForm& form, Docum
 
 }  // namespace
 
+// A name without one gets the extension of the type; that the file may then be written over was not asked yet.
 std::optional<DocumentFile> AskForDocumentFile(HWND owner, DocumentType type, const std::string& offered) {
-  std::wstring path = WideOf(offered) + L"." + WideOf(ExtensionOf(type));
+  std::wstring path = WideOf(offered, CP_UTF8);
   path.resize(kLongestPath);
   OPENFILENAMEW dialog{};
   dialog.lStructSize = sizeof dialog;
@@ -72,10 +76,10 @@ std::optional<DocumentFile> AskForDocumentFile(HWND owner, DocumentType type, co
   dialog.nFilterIndex = static_cast<DWORD>(type) + 1;
   dialog.lpstrFile = path.data();
   dialog.nMaxFile = static_cast<DWORD>(path.size());
-  const std::wstring extension = WideOf(ExtensionOf(type));
-  dialog.lpstrDefExt = extension.c_str();
+  const std::wstring usual = WideOf(ExtensionOf(type), CP_UTF8);
+  dialog.lpstrDefExt = usual.c_str();
   dialog.Flags = OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
-  if (!Ask(dialog)) {
+  if (!Run(dialog)) {
     ShowIfNameTooLong(owner);
     return std::nullopt;
   }
@@ -83,8 +87,23 @@ std::optional<DocumentFile> AskForDocumentFile(HWND owner, DocumentType type, co
   if (dialog.nFilterIndex >= 1 && dialog.nFilterIndex <= static_cast<DWORD>(DocumentType::kText) + 1) {
     file.type = static_cast<DocumentType>(dialog.nFilterIndex - 1);
   }
-  file.type = TypeOfName(Utf8Of(file.path)).value_or(file.type);
+  const std::string name = Utf8Of(file.path);
+  if (HasExtension(name)) {
+    file.type = TypeOfName(name).value_or(file.type);
+    return file;
+  }
+  file.path += L"." + WideOf(ExtensionOf(file.type), CP_UTF8);
+  const bool isThere = GetFileAttributesW(file.path.c_str()) != INVALID_FILE_ATTRIBUTES;
+  if (isThere && !Ask(owner, kReplace, "Save as document")) return std::nullopt;
   return file;
+}
+
+// As UnwritableFileText, of a name in any script.
+void ShowUnwritableDocument(HWND owner, const std::wstring& path) {
+  const std::wstring text = L"File " + path +
+                            L" could not be written.\nPlease choose another name or folder, close the file in other "
+                            L"programs, or make room on the disk. An older file of this name is as it was.";
+  MessageBoxW(owner, text.c_str(), L"Error", MB_OK | MB_ICONSTOP);
 }
 
 SavingResult SaveDocument(HWND owner, const DocumentSource& source, const DocumentForm& form,
@@ -92,7 +111,7 @@ SavingResult SaveDocument(HWND owner, const DocumentSource& source, const Docume
   const ScopedWaitCursor wait;
   DocumentProgress shown(owner);
   const publishing::Progress progress = [&](std::size_t done, std::size_t all) { return shown.Show(done, all); };
-  FileSink sink(file.path);
+  FileSink sink(file.path.c_str());
   const SavingResult result = Write(source, form, file.type, sink, progress);
   if (result != SavingResult::kSaved) return result;
   return sink.Commit() ? SavingResult::kSaved : SavingResult::kUnwritable;

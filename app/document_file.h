@@ -24,10 +24,12 @@ struct DocumentForm {
   DocumentChoice choice;  // without what goes with the type
   bool isoDates = false;  // in files for spreadsheets
   int32_t reminderMinutes = 0;
-  publishing::RtfStyle rtf;
+  publishing::RtfStyle rtf = {};
 };
 
 enum class SavingResult : uint8_t { kSaved, kCancelled, kUnwritable, kNoEvents };
+
+void ShowUnwritableDocument(HWND owner, const std::wstring& path);
 
 // With progress over the owner. But for kSaved an older file is as it was, and there is no new one.
 SavingResult SaveDocument(HWND owner, const DocumentSource& source, const DocumentForm& form, const DocumentFile& file);

@@ -8,9 +8,9 @@
 
 #include "app/core/document_name.h"
 #include "app/core/document_table.h"
+#include "app/core/door_year.h"
 #include "publishing/core/table_rtf.h"
 
-enum class DoorYear : uint8_t { kJewish, kCivil };
 
 // Every call of a getter reads afresh. What cannot be stored, or must not be since the file cannot be read, is not, and
 // nothing is said of it: the file or the paper is what the user wants.

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "app/core/display_hebrew.h"
+#include "app/document_names.h"
 #include "companion/hours.h"
 #include "companion/stamp.h"
 #include "engine/bound_entries.h"
@@ -14,6 +15,7 @@
 #include "readings/readings_list.h"
 #include "shabbat/shabbat_list.h"
 #include "win/scoped.h"
+#include "win/unicode_text.h"
 #include "zmanim/calculate_zmanim.h"
 #include "zmanim/core/zmanim_labels.h"
 
@@ -41,6 +43,10 @@ std::vector<ZmanimDay> DaysIn(HGLOBAL block) {
   return {days->days, days->days + days->count};
 }
 
+std::string Decoded(std::string_view text, UINT codePage) {
+  return Utf8Of(WideOf(text, codePage));
+}
+
 // Texts in the program's own font are windows-1252 (glyphs.h).
 UINT CodePageOf(const LectionsFont& font) {
   if (font.UseDefaultFont != 0) return kWestern;
@@ -53,7 +59,7 @@ std::vector<DocumentZman> NamesIn(const ZmanimLabels* labels) {
   std::vector<DocumentZman> names;
   for (uint32_t zman = 0; labels && zman < labels->count; ++zman) {
     const ZmanLabel& label = labels->zmanim[zman];
-    names.push_back({Utf8Of(label.english, kWestern), LogicalHebrew(label.hebrew)});
+    names.push_back({Decoded(label.english, kWestern), LogicalHebrew(label.hebrew)});
   }
   return names;
 }
@@ -67,28 +73,6 @@ int32_t StandardOffsetSeconds(const Location& place) {
 
 }  // namespace
 
-std::string Utf8Of(std::wstring_view text) {
-  const int units = static_cast<int>(text.size());
-  const int bytes = WideCharToMultiByte(CP_UTF8, 0, text.data(), units, nullptr, 0, nullptr, nullptr);
-  std::string utf8(static_cast<std::size_t>(bytes), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), units, utf8.data(), bytes, nullptr, nullptr);
-  return utf8;
-}
-
-std::string Utf8Of(std::string_view text, UINT codePage) {
-  const int bytes = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  const int units = MultiByteToWideChar(codePage, 0, text.data(), bytes, wide.data(), bytes);
-  return Utf8Of(std::wstring_view(wide).substr(0, static_cast<std::size_t>(units)));
-}
-
-std::wstring WideOf(std::string_view utf8) {
-  std::wstring wide(utf8.size(), L'\0');
-  const int bytes = static_cast<int>(utf8.size());
-  wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, wide.data(), bytes)));
-  return wide;
-}
-
 TakenDocument::TakenDocument(HWND document)
     : form_{}, readingsCodePage_(kWestern), source_{.services = *this, .formatTime = StampConvert} {
   RenewZmanim(document);
@@ -101,13 +85,13 @@ TakenDocument::TakenDocument(HWND document)
   const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
   zmanimFromLibrary_ = labels && labels->fromLibrary != 0;
   source_.location = GetPlace(document);
-  source_.place = Utf8Of(DocumentPlace(document), kWestern);
+  source_.place = Decoded(DocumentPlace(document), kWestern);
   source_.range = GetRangeProperties(document);
   source_.shabbatTimes = shabbatTimes_;
   source_.zmanimDays = zmanim_;
   source_.readings = readings_;
   source_.zmanim = NamesIn(labels.get());
-  source_.yizkor = Utf8Of(form_.yizkor, kWestern);
+  source_.yizkor = Decoded(form_.yizkor, kWestern);
 }
 
 void TakenDocument::TakeRange(const DateRange& range) {
@@ -162,12 +146,24 @@ CalendarDate TakenDocument::Jewish(int32_t absoluteDay) const {
   return JewishFromAbsolute(absoluteDay);
 }
 
+std::string TakenDocument::Weekday(int32_t weekday, uint32_t language) const {
+  return WeekdayName(weekday, language);
+}
+
+std::string TakenDocument::CivilMonth(const CalendarDate& gregorian, uint32_t language) const {
+  return CivilMonthName(gregorian.uMonth, gregorian.uYear, language);
+}
+
+std::string TakenDocument::JewishMonth(const CalendarDate& jewish, uint32_t language) const {
+  return JewishMonthName(jewish.uMonth, jewish.uYear, language);
+}
+
 std::string TakenDocument::OfReadings(std::string_view text) const {
-  return Utf8Of(text, readingsCodePage_);
+  return Decoded(text, readingsCodePage_);
 }
 
 std::string TakenDocument::OfWestern(std::string_view text) const {
-  return Utf8Of(text, kWestern);
+  return Decoded(text, kWestern);
 }
 
 int32_t TakenDocument::ClockOffsetSeconds(const CalendarDate& date, int32_t minuteOfDay) const {

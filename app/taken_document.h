@@ -27,6 +27,9 @@ class TakenDocument : private DocumentServices {
   int32_t AbsoluteDay(const CalendarDate& gregorian) const override;
   CalendarDate Gregorian(int32_t absoluteDay) const override;
   CalendarDate Jewish(int32_t absoluteDay) const override;
+  std::string Weekday(int32_t weekday, uint32_t language) const override;
+  std::string CivilMonth(const CalendarDate& gregorian, uint32_t language) const override;
+  std::string JewishMonth(const CalendarDate& jewish, uint32_t language) const override;
   std::string OfReadings(std::string_view text) const override;
   std::string OfWestern(std::string_view text) const override;
   int32_t ClockOffsetSeconds(const CalendarDate& date, int32_t minuteOfDay) const override;
@@ -40,8 +43,3 @@ class TakenDocument : private DocumentServices {
   bool zmanimFromLibrary_ = false;
   DocumentSource source_;
 };
-
-// UTF-8 of a text in a code page, and of UTF-16, and back.
-std::string Utf8Of(std::string_view text, UINT codePage);
-std::string Utf8Of(std::wstring_view text);
-std::wstring WideOf(std::string_view utf8);

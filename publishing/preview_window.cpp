@@ -219,6 +219,11 @@ INT_PTR CALLBACK PreviewProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lP
 }  // namespace
 
 void PreviewTable(HWND owner, const PrintedTable& printed) {
+  PageSetup setup;
+  PreviewTable(owner, printed, setup);
+}
+
+void PreviewTable(HWND owner, const PrintedTable& printed, PageSetup&) {
   bool isShown = false;
   try {
     Preview preview(printed);

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "app/core/document_words.h"
-#include "app/core/jewish_date_text.h"
 #include "publishing/core/stable_hash.h"
 
 namespace {
@@ -109,8 +108,7 @@ void Calendar::AddItem(std::size_t item) {
 // The portion and the Jewish date, a line each.
 std::string Calendar::About(const CalendarDate& date) const {
   const std::string portion = PortionOf(source_, date);
-  const std::string jewish =
-      JewishDateInWords(source_.services.Jewish(source_.services.AbsoluteDay(date)), choice_.language);
+  const std::string jewish = JewishDateOf(source_, source_.services.AbsoluteDay(date), choice_.language);
   return portion.empty() ? jewish : portion + "\n" + jewish;
 }
 

@@ -1,5 +1,7 @@
 #include "app/core/document_name.h"
 
+#include <algorithm>
+
 #include "publishing/core/unicode.h"
 
 namespace {
@@ -53,6 +55,17 @@ std::optional<DocumentType> TypeOfName(std::string_view file) {
     if (known.text == extension) return known.type;
   }
   return std::nullopt;
+}
+
+bool HasExtension(std::string_view file) {
+  constexpr std::size_t kLongest = 4;
+  const std::size_t point = file.find_last_of("./\\");
+  if (point == file.npos || file[point] != '.') return false;
+  const std::string extension = InSmallLetters(file.substr(point + 1));
+  const auto isLetter = [](char c) { return c >= 'a' && c <= 'z'; };
+  const auto isPart = [&](char c) { return isLetter(c) || (c >= '0' && c <= '9'); };
+  return extension.size() <= kLongest && std::ranges::all_of(extension, isPart) &&
+         std::ranges::any_of(extension, isLetter);
 }
 
 std::string FileNameOf(std::string_view kind, std::string_view place, std::string_view range) {

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "app/core/document_words.h"
-#include "app/core/jewish_date_text.h"
 #include "output/date_text.h"
 
 namespace {
@@ -55,8 +54,8 @@ class DocumentRows : public publishing::Rows {
   void ReadReadings(const ReadingsEntry& entry, Row& row) const;
   void AddZmanim(const ZmanimDay* day, Row& row) const;
   std::string Date(const CalendarDate& date) const { return DocumentDate(date, choice_.isoDates); }
-  std::string Jewish(int32_t day) const { return JewishDateInWords(source_.services.Jewish(day), choice_.language); }
-  std::string Weekday(int32_t day) const { return std::string(WeekdayName(WeekdayOf(day), choice_.language)); }
+  std::string Jewish(int32_t day) const { return JewishDateOf(source_, day, choice_.language); }
+  std::string Weekday(int32_t day) const { return source_.services.Weekday(WeekdayOf(day), choice_.language); }
   std::string Time(ClockTime time) const;
   std::string Candles(const ShabbatTimeEntry& entry) const;
   std::string End(const ShabbatTimeEntry& entry) const;
@@ -123,8 +122,7 @@ void DocumentRows::ReadMonth(std::size_t item, Row& row) const {
   const CalendarDate date = DateOf(item);
   row.kind = RowKind::kGroup;
   row.isBold = true;
-  const auto month = static_cast<int>(date.uMonth);
-  row.cells.push_back(std::string(CivilMonthName(month, choice_.language)) + " " + std::to_string(date.uYear));
+  row.cells.push_back(source_.services.CivilMonth(date, choice_.language) + " " + std::to_string(date.uYear));
 }
 
 std::string DocumentRows::Time(ClockTime time) const {
@@ -224,16 +222,16 @@ std::vector<publishing::Column> ColumnsOfDocument(const DocumentSource& source, 
       add(Word::kEndOfShabbat);
       break;
     case DocumentKind::kDays:
-      addAll({Word::kWeekday, Word::kDate, Word::kJewishDate, Word::kPortion, Word::kCandleLighting});
+      addAll({Word::kDay, Word::kDate, Word::kJewishDate, Word::kPortion, Word::kCandleLighting});
       addZmanim();
       add(Word::kEndOfShabbat);
       break;
     case DocumentKind::kZmanim:
-      addAll({Word::kWeekday, Word::kDate, Word::kJewishDate});
+      addAll({Word::kDay, Word::kDate, Word::kJewishDate});
       addZmanim();
       break;
     case DocumentKind::kReadings:
-      addAll({Word::kDate, Word::kWeekday, Word::kJewishDate, Word::kTorah, Word::kHaftarah, Word::kYizkor});
+      addAll({Word::kDate, Word::kDay, Word::kJewishDate, Word::kTorah, Word::kHaftarah, Word::kYizkor});
       break;
     case DocumentKind::kDoorPage:
       addAll({Word::kFriday, Word::kPortion, Word::kCandleLighting, Word::kEndOfShabbat});

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <tuple>
 
+#include "app/core/document_words.h"
+
 namespace {
 
 auto Order(const CalendarDate& date) {
@@ -28,6 +30,11 @@ const ShabbatTimeEntry* ShabbatTimesOf(const DocumentSource& source, const Calen
 
 const ZmanimDay* ZmanimOf(const DocumentSource& source, const CalendarDate& date) {
   return Find(source.zmanimDays, date, [](const ZmanimDay& day) { return day.date; });
+}
+
+std::string JewishDateOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language) {
+  const CalendarDate jewish = source.services.Jewish(absoluteDay);
+  return JewishDateInWords(jewish.uDay, source.services.JewishMonth(jewish, language), jewish.uYear, language);
 }
 
 std::string PortionOf(const DocumentSource& source, const CalendarDate& date) {

@@ -25,6 +25,11 @@ class DocumentServices {
   virtual CalendarDate Gregorian(int32_t absoluteDay) const = 0;
   virtual CalendarDate Jewish(int32_t absoluteDay) const = 0;
 
+  // Names in a language of the readings (document_words.h), UTF-8. weekday: from 0, Sunday.
+  virtual std::string Weekday(int32_t weekday, uint32_t language) const = 0;
+  virtual std::string CivilMonth(const CalendarDate& gregorian, uint32_t language) const = 0;
+  virtual std::string JewishMonth(const CalendarDate& jewish, uint32_t language) const = 0;
+
   // UTF-8 of a text of the readings, whose charset goes with their language, and of a text in windows-1252.
   virtual std::string OfReadings(std::string_view text) const = 0;
   virtual std::string OfWestern(std::string_view text) const = 0;
@@ -45,14 +50,14 @@ struct DocumentZman {
 
 struct DocumentSource {
   const DocumentServices& services;
-  Location location;
-  std::string place;  // UTF-8
-  DateRange range;
-  std::span<const ShabbatTimeEntry> shabbatTimes;
-  std::span<const ZmanimDay> zmanimDays;
-  std::span<const ReadingsEntry> readings;
-  std::vector<DocumentZman> zmanim;  // in the order of the days' times
-  std::string yizkor;                // UTF-8
+  Location location = {};
+  std::string place = {};  // UTF-8
+  DateRange range = {};
+  std::span<const ShabbatTimeEntry> shabbatTimes = {};
+  std::span<const ZmanimDay> zmanimDays = {};
+  std::span<const ReadingsEntry> readings = {};
+  std::vector<DocumentZman> zmanim = {};  // in the order of the days' times
+  std::string yizkor = {};                // UTF-8
   FormatTime formatTime;
 };
 
@@ -64,6 +69,9 @@ const ZmanimDay* ZmanimOf(const DocumentSource& source, const CalendarDate& date
 inline CalendarDate FridayOf(const ShabbatTimeEntry& entry) {
   return {entry.day, entry.month, entry.year};
 }
+
+// "18 Kislev 5787", as the language writes it.
+std::string JewishDateOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language);
 
 // What is read on a day by its name, without the verses: "Vayechi" of "Vayechi: Genesis 47:28-50:26". Empty for a day
 // without readings.

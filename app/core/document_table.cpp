@@ -1,26 +1,27 @@
 #include "app/core/document_table.h"
 
+#include <algorithm>
+
 #include "app/core/document_rows.h"
 #include "app/core/document_words.h"
-#include "app/core/jewish_date_text.h"
 
 namespace {
-
-const WordsLanguage& LanguageOf(uint32_t code) {
-  for (const WordsLanguage& language : WordsLanguages()) {
-    if (language.code == code) return language;
-  }
-  return WordsLanguages().front();
-}
 
 // "22.11.2026 - 23.12.2026 (12 Kislev 5787 - 13 Tevet 5787)".
 std::string RangeText(const DocumentSource& source, uint32_t language) {
   const DateRange range = CoveredRange(source);
   const auto jewish = [&](const CalendarDate& date) {
-    return JewishDateInWords(source.services.Jewish(source.services.AbsoluteDay(date)), language);
+    return JewishDateOf(source, source.services.AbsoluteDay(date), language);
   };
   return DocumentDate(range.start, false) + " - " + DocumentDate(range.end, false) + " (" + jewish(range.start) +
          " - " + jewish(range.end) + ")";
+}
+
+bool HasMissingTimes(const DocumentSource& source, const DocumentChoice& choice) {
+  if (!HasZmanim(choice.kind)) return false;
+  return std::ranges::any_of(source.zmanimDays, [&](const ZmanimDay& day) {
+    return std::ranges::any_of(choice.zmanim, [&](uint32_t zman) { return day.times[zman].hour == kNoTimeHour; });
+  });
 }
 
 }  // namespace
@@ -50,7 +51,8 @@ DateRange CoveredRange(const DocumentSource& source) {
 }
 
 publishing::Table DocumentTable(const DocumentSource& source, const DocumentChoice& choice) {
-  const WordsLanguage& language = LanguageOf(choice.language);
+  const DateRange range = CoveredRange(source);
+  const WordsLanguage& language = WordsLanguageOf(choice.language);
   publishing::Table table;
   table.title = KindName(choice.kind, choice.language) + ": " + source.place;
   table.remarks = {RangeText(source, choice.language)};
@@ -58,5 +60,9 @@ publishing::Table DocumentTable(const DocumentSource& source, const DocumentChoi
   table.rows = RowsOfDocument(source, choice);
   table.rightToLeft = language.rightToLeft;
   table.language = language.tag;
+  if (choice.kind != DocumentKind::kReadings) table.notes.emplace_back(WordOf(Word::kClockNote, choice.language));
+  if (HasMissingTimes(source, choice)) table.notes.emplace_back(WordOf(Word::kNoTimeNote, choice.language));
+  table.pageText = WordOf(Word::kPageOf, choice.language);
+  table.runningHead = table.title + ", " + DocumentDate(range.start, false) + " - " + DocumentDate(range.end, false);
   return table;
 }

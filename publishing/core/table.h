@@ -20,6 +20,7 @@ struct Column {
   std::string heading = {};
   Align align = Align::kStart;
   Direction direction = Direction::kNeutral;  // of all its texts; kNeutral: each goes by its first letter
+  bool isLarge = false;  // what readers look for from afar: its texts are larger where all is on one page
 };
 
 enum class RowKind : uint8_t {
@@ -75,9 +76,11 @@ struct Table {
   std::vector<std::string> remarks = {};  // lines below the title
   std::vector<Column> columns = {};
   std::shared_ptr<const Rows> rows = Listed({});
-  std::vector<std::string> notes = {};  // lines below the table
-  bool rightToLeft = false;             // the first column stands at the right
-  std::string language = {};            // of the texts by BCP 47, as "he"; may be empty
+  std::vector<std::string> notes = {};     // lines below the table
+  bool rightToLeft = false;                // the first column stands at the right
+  std::string language = {};               // of the texts by BCP 47, as "he"; may be empty
+  std::string pageText = "Page %1 of %2";  // on paper, at the foot of each page: its number and how many there are
+  std::string runningHead = {};            // on paper, at the top of each page after the first; may be empty
 };
 
 // Calls with each row in turn.

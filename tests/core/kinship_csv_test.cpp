@@ -6,8 +6,8 @@
 #include "libraries/kinship/date_words.h"
 #include "libraries/kinship/person_table.h"
 #include "libraries/kinship/person_texts.h"
-#include "publishing/core/csv.h"
 #include "tests/core/kinship_people.h"
+#include "tests/core/written_files.h"
 
 namespace kinship {
 namespace {
@@ -36,7 +36,7 @@ std::vector<Person> People() {
 }
 
 TEST(PersonsCsv, WhatIsWrittenIsReadAgain) {
-  const Import import = ImportedFrom(publishing::CsvOf(CsvTableOf(People(), In2026())), {});
+  const Import import = ImportedFrom(written::CsvOf(CsvTableOf(People(), In2026())), {});
   EXPECT_EQ(import.problem, "");
   EXPECT_THAT(import.faults, IsEmpty());
   EXPECT_EQ(import.added, People());
@@ -46,7 +46,7 @@ TEST(PersonsCsv, WhatIsThereAlreadyIsPassedOver) {
   std::vector<Person> present = People();
   present.pop_back();
   present[0].notes += "\n ";  // blanks that the table does not keep
-  const Import import = ImportedFrom(publishing::CsvOf(CsvTableOf(People(), In2026())), present);
+  const Import import = ImportedFrom(written::CsvOf(CsvTableOf(People(), In2026())), present);
   EXPECT_THAT(import.added, ElementsAre(People().back()));
   EXPECT_EQ(import.alreadyThere, 3u);
 }

@@ -2,12 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "publishing/core/csv.h"
+#include "tests/core/written_files.h"
 
 namespace publishing {
 namespace {
 
 using testing::ElementsAre;
 using testing::Optional;
+using written::CsvOf;
 using Records = std::vector<std::vector<std::string>>;
 
 const Table kTable = {

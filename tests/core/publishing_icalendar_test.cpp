@@ -7,21 +7,25 @@
 #include <algorithm>
 #include <sstream>
 
+#include "tests/core/written_files.h"
+
 namespace publishing {
 namespace {
 
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
+using written::CalendarOf;
 
 constexpr UtcMoment kNow = {{2026, 11, 2}, 7, 5, 9};
 
 std::string OfText(const std::string& summary, const std::string& description = {}) {
-  return CalendarOf("c", {{"u", {2026, 1, 1}, summary, description}}, kNow);
+  return CalendarOf("c", {{.uid = "u", .date = {2026, 1, 1}, .summary = summary, .description = description}}, kNow);
 }
 
 TEST(ICalendar, AnEventLastsAWholeDay) {
-  EXPECT_EQ(CalendarOf("Birthdays", {{"1@x", {2026, 3, 9}, "Moshe", "in Nisan"}}, kNow),
+  EXPECT_EQ(CalendarOf("Birthdays",
+                       {{.uid = "1@x", .date = {2026, 3, 9}, .summary = "Moshe", .description = "in Nisan"}}, kNow),
             "BEGIN:VCALENDAR\r\n"
             "VERSION:2.0\r\n"
             "PRODID:-//Times Readings//Times Readings//EN\r\n"
@@ -45,7 +49,8 @@ TEST(ICalendar, TheDayAfterTheLastOfAMonthIsTheFirst) {
                                                      {{2000, 2, 28}, "20000229"}, {{2026, 4, 30}, "20260501"},
                                                      {{2026, 12, 31}, "20270101"}};
   for (const auto& [date, end] : cases) {
-    EXPECT_THAT(CalendarOf("", {{"u", date, "s", ""}}, kNow), HasSubstr(std::string("DTEND;VALUE=DATE:") + end + "\r"));
+    EXPECT_THAT(CalendarOf("", {{.uid = "u", .date = date}}, kNow),
+                HasSubstr(std::string("DTEND;VALUE=DATE:") + end + "\r"));
   }
 }
 

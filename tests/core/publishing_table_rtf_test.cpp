@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "publishing/core/column_widths.h"
+#include "tests/core/written_files.h"
 
 namespace publishing {
 namespace {
@@ -15,8 +16,9 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
+using written::RtfOf;
 
-const RtfFont kFont = {.face = "Times New Roman", .halfPoints = 20};
+const RtfStyle kFont = {.face = "Times New Roman", .halfPoints = 20};
 
 std::string OfCell(const std::string& text, Align align = Align::kStart) {
   return RtfOf({.columns = {{"H", align}}, .rows = ListedTexts({{text}})}, kFont);

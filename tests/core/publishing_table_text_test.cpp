@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/core/written_files.h"
+
 namespace publishing {
 namespace {
+
+using written::TextOf;
 
 const std::string kMark = "\xEF\xBB\xBF";
 

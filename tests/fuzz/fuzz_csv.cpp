@@ -5,6 +5,7 @@
 #include <string>
 
 #include "publishing/core/csv.h"
+#include "tests/core/written_files.h"
 #include "tests/fuzz/check.h"
 
 namespace {
@@ -26,7 +27,7 @@ std::string Written(const Records& records) {
   Table table;
   for (const std::string& heading : records.front()) table.columns.push_back({heading, Align::kStart});
   table.rows = ListedTexts({records.begin() + 1, records.end()});
-  return CsvOf(table);
+  return written::CsvOf(table);
 }
 
 }  // namespace

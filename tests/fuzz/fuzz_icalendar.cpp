@@ -6,6 +6,7 @@
 
 #include "publishing/core/icalendar.h"
 #include "publishing/core/unicode.h"
+#include "tests/core/written_files.h"
 #include "tests/fuzz/check.h"
 
 namespace {

@@ -11,6 +11,7 @@
 #include "publishing/core/table_rtf.h"
 #include "publishing/core/table_text.h"
 #include "publishing/core/unicode.h"
+#include "tests/core/written_files.h"
 #include "tests/fuzz/check.h"
 
 namespace {
@@ -62,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   table.columns.resize(input.ConsumeIntegralInRange<std::size_t>(1, 4));
   std::vector<std::vector<std::string>> rows(input.ConsumeIntegralInRange<std::size_t>(0, 5));
   table.remarks.resize(input.ConsumeIntegralInRange<std::size_t>(0, 2));
-  const RtfFont font = {input.ConsumeRandomLengthString(20), input.ConsumeIntegral<int>()};
+  const RtfStyle font = {input.ConsumeRandomLengthString(20), input.ConsumeIntegral<int>()};
   table.title = input.ConsumeRandomLengthString(40);
   for (Column& column : table.columns) column = {input.ConsumeRandomLengthString(20), Align{input.ConsumeBool()}};
   for (auto& row : rows) {
@@ -70,8 +71,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   }
   table.rows = ListedTexts(std::move(rows));
   for (std::string& remark : table.remarks) remark = input.ConsumeRandomLengthString(40);
-  CheckRtf(table, RtfOf(table, font));
-  CheckText(table, TextOf(table));
+  CheckRtf(table, written::RtfOf(table, font));
+  CheckText(table, written::TextOf(table));
 
   // In logical order, runs are the text.
   const std::string text = input.ConsumeRemainingBytesAsString();

@@ -7,15 +7,13 @@
 #include <sstream>
 #include <string>
 
-#include "publishing/core/csv.h"
-#include "publishing/core/icalendar.h"
-#include "publishing/core/table_rtf.h"
-#include "publishing/core/table_text.h"
+#include "tests/core/written_files.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using namespace publishing;
+using namespace written;
 
 std::string ContentOf(const fs::path& file) {
   std::ostringstream text;
@@ -52,10 +50,10 @@ std::string CalendarOfRows(const Table& table) {
     const int date = std::stoi(row.cells.at(0));
     std::string description;
     for (std::size_t column = 2; column < row.cells.size(); ++column) description += row.cells[column] + "\n";
-    events.push_back({"row" + std::to_string(events.size()) + "@times.readings",
-                      {date / 10000, date / 100 % 100, date % 100},
-                      row.cells.at(1),
-                      description});
+    events.push_back({.uid = "row" + std::to_string(events.size()) + "@times.readings",
+                      .date = {date / 10000, date / 100 % 100, date % 100},
+                      .summary = row.cells.at(1),
+                      .description = description});
   });
   return CalendarOf("Persons, שמות; Имена", events, {{2026, 11, 2}, 7, 5, 9});
 }

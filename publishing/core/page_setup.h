@@ -1,0 +1,42 @@
+// What a user chooses for paper, and its form in the settings.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace publishing {
+
+enum class PaperOrientation : uint8_t { kAutomatic, kPortrait, kLandscape };  // kAutomatic: across when columns need it
+
+// In 1/100 mm, from the sheet's edges.
+struct PageMargins {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+  friend bool operator==(const PageMargins&, const PageMargins&) = default;
+};
+
+constexpr PageMargins kUsualMargins = {1905, 1905, 1905, 1905};  // 3/4 inch
+
+// No margin is wider.
+constexpr int kMostMargin = 20000;
+
+struct PageSetup {
+  PaperOrientation orientation = PaperOrientation::kAutomatic;
+  int paper = 0;  // by the system's numbers of papers (DMPAPER_LETTER is 1, DMPAPER_A4 9); 0: the printer's own
+  PageMargins margins = {};  // all 0: the usual ones
+  friend bool operator==(const PageSetup&, const PageSetup&) = default;
+};
+
+// The margins that hold: the usual ones for all 0.
+PageMargins MarginsOf(const PageSetup& setup);
+
+// For a settings file: orientation, paper and the four margins as numbers, "2 9 1500 1500 1500 1500".
+std::string TextOf(const PageSetup& setup);
+
+// A text that is none of these gives what holds without a choice.
+PageSetup PageSetupOf(std::string_view text);
+
+}  // namespace publishing

@@ -1,0 +1,29 @@
+#include "publishing/core/page_setup.h"
+
+#include <gtest/gtest.h>
+
+namespace publishing {
+namespace {
+
+TEST(PageSetup, ItsTextGivesItBack) {
+  const PageSetup setup = {PaperOrientation::kLandscape, 9, {1500, 1600, 0, 1800}};
+  EXPECT_EQ(TextOf(setup), "2 9 1500 1600 0 1800");
+  EXPECT_EQ(PageSetupOf(TextOf(setup)), setup);
+  EXPECT_EQ(PageSetupOf(TextOf({})), PageSetup{});
+}
+
+TEST(PageSetup, AnyOtherTextIsNoChoice) {
+  for (const char* text : {"", "2", "3 9 0 0 0 0", "-1 9 0 0 0 0", "2 9 1500 1500 1500", "2 9 1500 1500 1500 1500 7",
+                           "2 9 1500 1500 1500 x", "2 9 1500 1500 1500 20001", "2 65536 1 1 1 1", "2 9 -1 1 1 1",
+                           "2,9,1,1,1,1", "2 99999999999 1 1 1 1"}) {
+    EXPECT_EQ(PageSetupOf(text), PageSetup{}) << text;
+  }
+}
+
+TEST(PageSetup, WithoutMarginsThoseOfThreeQuartersOfAnInchHold) {
+  EXPECT_EQ(MarginsOf({}), (PageMargins{1905, 1905, 1905, 1905}));
+  EXPECT_EQ(MarginsOf({.margins = {0, 0, 0, 500}}), (PageMargins{0, 0, 0, 500}));
+}
+
+}  // namespace
+}  // namespace publishing
