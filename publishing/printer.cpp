@@ -154,6 +154,7 @@ void Printer::MeasureSheet(HDC dc) {
   const auto caps = [dc](int index) { return GetDeviceCaps(dc, index); };
   const int width = static_cast<int>(caps(PHYSICALWIDTH) / scale.x);
   const int height = static_cast<int>(caps(PHYSICALHEIGHT) / scale.y);
+  if (width <= kLeastBody || height <= kLeastBody) return TakeUsualPaper();
   const RECT printable = {static_cast<LONG>(-scale.corner.x / scale.x), static_cast<LONG>(-scale.corner.y / scale.y),
                           static_cast<LONG>((caps(HORZRES) - scale.corner.x) / scale.x),
                           static_cast<LONG>((caps(VERTRES) - scale.corner.y) / scale.y)};
