@@ -12,9 +12,17 @@ constexpr int kPointsInAnInch = 72;
 constexpr int kLeastHeight = 4 * kDotsPerInch / kPointsInAnInch;
 constexpr int kMostHeight = 72 * kDotsPerInch / kPointsInAnInch;
 
-constexpr double kTitleSize = 1.4;  // of the texts' size
+// Of the texts' size.
+constexpr double kTitleSize = 1.4;
+constexpr double kSmallSize = 0.85;
+constexpr double kLargeSize = 1.25;
 
 constexpr int kRuleDots = kDotsPerInch / 150;
+constexpr int kHairDots = kDotsPerInch / 300;
+constexpr COLORREF kHairColor = RGB(176, 176, 176);
+
+// Fonts that are kept for when they are wanted again.
+constexpr std::size_t kMostFonts = 64;
 
 // A device rounds the widths of small letters up. Texts may then go on for a third of the gap to the next column, and
 // those for which this is not enough are drawn smaller; widths that jump from size to size need more
@@ -28,6 +36,21 @@ int Rounded(double value) {
 
 const wchar_t* Wide(std::u16string_view text) {
   return reinterpret_cast<const wchar_t*>(text.data());  // UTF-16 both
+}
+
+double SizeOf(PageFont font) {
+  switch (font) {
+    case PageFont::kTitle: return kTitleSize;
+    case PageFont::kSmall: return kSmallSize;
+    case PageFont::kLarge: return kLargeSize;
+    case PageFont::kHeading:
+    case PageFont::kText: return 1;
+  }
+  return 1;
+}
+
+bool IsBold(PageFont font) {
+  return font != PageFont::kText && font != PageFont::kSmall;
 }
 
 int WidthIn(HDC dc, std::u16string_view text) {
@@ -74,16 +97,20 @@ int DcSurface::DeviceY(int y) const {
 
 // With the sign of LOGFONT's lfHeight.
 int DcSurface::DeviceHeight(PageFont font) const {
-  const double height = font_.lfHeight * scale_.y * (font == PageFont::kTitle ? kTitleSize : 1);
+  const double height = font_.lfHeight * scale_.y * SizeOf(font) * size_ / kUsualSize;
   return std::abs(height) < 1 ? -1 : Rounded(height);
 }
 
 void DcSurface::Select(PageFont font, int height) {
   auto found = fonts_.find({font, height});
   if (found == fonts_.end()) {
+    if (fonts_.size() >= kMostFonts) {
+      SelectObject(dc_, GetStockObject(SYSTEM_FONT));  // what is selected cannot be deleted
+      fonts_.clear();
+    }
     LOGFONTW description = font_;
     description.lfHeight = height;
-    if (font != PageFont::kText) description.lfWeight = std::max<LONG>(description.lfWeight, FW_BOLD);
+    if (IsBold(font)) description.lfWeight = std::max<LONG>(description.lfWeight, FW_BOLD);
     found = fonts_.try_emplace({font, height}, CreateFontIndirectW(&description)).first;
   }
   if (found->second.get()) SelectObject(dc_, found->second.get());
@@ -129,10 +156,13 @@ void DcSurface::DrawLine(const PageBox& box, std::u16string_view text, const Lin
               static_cast<UINT>(text.size()), nullptr);
 }
 
-void DcSurface::DrawRule(int x, int y, int width) {
+void DcSurface::DrawRule(int x, int y, int width, Rule rule) {
+  const bool isHair = rule == Rule::kHair;
   const int top = DeviceY(y);
-  const RECT rule = {DeviceX(x), top, DeviceX(x + width), std::max(DeviceY(y + kRuleDots), top + 1)};
-  FillRect(dc_, &rule, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+  const int bottom = DeviceY(y + (isHair ? kHairDots : kRuleDots));
+  const RECT box = {DeviceX(x), top, DeviceX(x + width), std::max(bottom, top + 1)};
+  SetDCBrushColor(dc_, isHair ? kHairColor : RGB(0, 0, 0));
+  FillRect(dc_, &box, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
 }  // namespace publishing

@@ -39,10 +39,11 @@ class DcSurface : public PageSurface {
   DcSurface(HDC dc, const LOGFONTW& font, const DeviceScale& scale);
   ~DcSurface() override;
 
+  void SetSize(int size) override { size_ = size; }
   int LineHeight(PageFont font) override;
   int Width(PageFont font, std::u16string_view text) override;
   void DrawLine(const PageBox& box, std::u16string_view text, const LineStyle& style) override;
-  void DrawRule(int x, int y, int width) override;
+  void DrawRule(int x, int y, int width, Rule rule) override;
 
  private:
   int DeviceX(int x) const;
@@ -55,6 +56,7 @@ class DcSurface : public PageSurface {
   LOGFONTW font_;
   DeviceScale scale_;
   int saved_;
+  int size_ = kUsualSize;
   std::map<std::pair<PageFont, int>, ScopedGdiObject<HFONT>> fonts_;  // by their height in the device's units
 };
 

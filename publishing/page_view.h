@@ -5,7 +5,7 @@
 #include <windows.h>
 
 #include "publishing/core/page_on_screen.h"
-#include "publishing/core/table_pages.h"
+#include "publishing/core/pages.h"
 
 namespace publishing {
 
@@ -14,9 +14,9 @@ bool RegisterPageView(HINSTANCE module);
 void UnregisterPageView(HINSTANCE module);
 
 struct ShownPage {
-  const TablePages* pages = nullptr;  // lives as long as the view shows it
-  LOGFONTW font = {};                 // of PageFontOf
-  int page = 0;                       // from 0
+  const Pages* pages = nullptr;  // lives as long as the view shows it
+  LOGFONTW font = {};            // of PageFontOf
+  int page = 0;                  // from 0
   Zoom zoom = Zoom::kWholePage;
 };
 

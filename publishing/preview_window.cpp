@@ -3,11 +3,9 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <memory>
 #include <new>
 
-#include "publishing/core/table_pages.h"
-#include "publishing/dc_surface.h"
+#include "publishing/laid_out_pages.h"
 #include "publishing/module.h"
 #include "publishing/page_view.h"
 #include "publishing/preview_ids.h"
@@ -24,38 +22,43 @@ constexpr UINT_PTR kLeafingKeys = 1;  // of the subclass
 constexpr int kWidthPercent = 65;
 constexpr int kHeightPercent = 90;
 
-constexpr const wchar_t* kZoomNames[] = {L"Whole page", L"Page width", L"100 %"};
+// In the order of Zoom.
+constexpr const wchar_t* kZoomNames[] = {L"Whole page", L"Page width", L"75 %", L"100 %", L"150 %", L"200 %"};
 
 // Buttons that leaf, which have keys too.
 constexpr int kLeafingButtons[] = {IDC_PREVIEW_FIRST, IDC_PREVIEW_PREVIOUS, IDC_PREVIEW_NEXT, IDC_PREVIEW_LAST};
 
+constexpr INT_PTR kShown = 1;  // of the dialog; 0 when it could not be made
+
 class Preview {
  public:
-  explicit Preview(const PrintedTable& printed) : printed_(printed), font_(PageFontOf(printed.font)) {
-    LayOut();
-    // Wide tables lie across, as long as the user does not choose otherwise in the print dialog.
-    const Sheet& sheet = printer_.sheet();
-    if (pages_->IsNarrowed() && sheet.width < sheet.height && printer_.TurnPaper()) LayOut();
-  }
+  Preview(const PrintedTable& printed, PageSetup& setup)
+      : printed_(printed), setup_(setup), printer_(setup), laidOut_(printed) {}
+
+  // Before it is shown. False: the user cancelled, or has been told why there is nothing to show.
+  bool LayOutFirst(HWND owner);
 
   INT_PTR Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
-  void LayOut();
+  bool LayOutAgain(const PageSetup& before);
   void OnInitDialog(HWND dialog);
   void OnSize() const;
   void OnMinMaxInfo(MINMAXINFO& limits) const;
   bool OnCommand(int control, int notification);
   void GoTo(int page);
   void ShowCurrent();
+  void OnSetup();
   void OnPrint();
+  void PrintChosen(const Printer::Choice& choice);
   void SetStartSize() const;
+  int PageCount() const { return laidOut_.pages().Count(); }
   HWND Control(int id) const { return GetDlgItem(dialog_, id); }
 
   const PrintedTable& printed_;
-  LOGFONTW font_;
+  PageSetup& setup_;
   Printer printer_;
-  std::unique_ptr<TablePages> pages_;
+  LaidOutPages laidOut_;
   HWND dialog_ = nullptr;
   SIZE least_ = {};  // of the window
   int pageTop_ = 0;  // of the view, in the client area
@@ -63,11 +66,41 @@ class Preview {
   Zoom zoom_ = Zoom::kWholePage;
 };
 
-void Preview::LayOut() {
-  const ScopedWaitCursor wait;
-  const OwnedContext memory(CreateCompatibleDC(nullptr));
-  DcSurface surface(memory.get(), font_, {});
-  pages_ = std::make_unique<TablePages>(printed_.table, printer_.sheet(), kDotsPerInch, surface);
+void ShowNoRoom(HWND owner) {
+  MessageBoxW(owner,
+              L"The table is too long for one page. Choose fewer days or columns, larger paper or smaller margins, or "
+              L"print it on several pages.",
+              L"Error", MB_OK | MB_ICONSTOP);
+}
+
+bool Preview::LayOutFirst(HWND owner) {
+  LayingOut done = laidOut_.LayOut(owner, printer_.sheet());
+  const Sheet& sheet = printer_.sheet();
+  // Wide tables lie across, as long as the user does not choose otherwise.
+  const bool mayTurn = setup_.orientation == PaperOrientation::kAutomatic && sheet.width < sheet.height;
+  if (done == LayingOut::kNarrowed && mayTurn && printer_.TurnPaper()) {
+    done = laidOut_.LayOut(owner, printer_.sheet());
+  }
+  if (done == LayingOut::kNoRoom) ShowNoRoom(owner);
+  return done == LayingOut::kDone || done == LayingOut::kNarrowed;
+}
+
+// For the paper as it is now. The preview closes when the user cancels, and keeps to the paper of before when this one
+// is too small. Whether it has been done.
+bool Preview::LayOutAgain(const PageSetup& before) {
+  const LayingOut done = laidOut_.LayOut(dialog_, printer_.sheet());
+  if (done == LayingOut::kCancelled) {
+    EndDialog(dialog_, kShown);
+    return false;
+  }
+  if (done == LayingOut::kNoRoom) {
+    ShowNoRoom(dialog_);
+    printer_.Use(before);
+    return false;
+  }
+  page_ = std::min(page_, PageCount() - 1);
+  ShowCurrent();
+  return true;
 }
 
 // The buttons know the keys of the page too, so that these leaf wherever the focus is but in the list of sizes.
@@ -85,8 +118,8 @@ void Preview::OnInitDialog(HWND dialog) {
     SendMessageW(Control(IDC_PREVIEW_ZOOM), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
   }
   SendMessageW(Control(IDC_PREVIEW_ZOOM), CB_SETCURSEL, static_cast<WPARAM>(zoom_), 0);
-  for (const int id :
-       {IDC_PREVIEW_PRINT, IDC_PREVIEW_FIRST, IDC_PREVIEW_PREVIOUS, IDC_PREVIEW_NEXT, IDC_PREVIEW_LAST, IDCANCEL}) {
+  for (const int id : {IDC_PREVIEW_PRINT, IDC_PREVIEW_SETUP, IDC_PREVIEW_FIRST, IDC_PREVIEW_PREVIOUS, IDC_PREVIEW_NEXT,
+                       IDC_PREVIEW_LAST, IDCANCEL}) {
     SetWindowSubclass(Control(id), LeafingButtonProc, kLeafingKeys, 0);
   }
   RECT window{};
@@ -129,19 +162,20 @@ void Preview::OnMinMaxInfo(MINMAXINFO& limits) const {
 }
 
 void Preview::GoTo(int page) {
-  page = std::clamp(page, 0, pages_->Count() - 1);
+  page = std::clamp(page, 0, PageCount() - 1);
   if (page == page_) return;
   page_ = page;
   ShowCurrent();
 }
 
 void Preview::ShowCurrent() {
-  ShowPage(Control(IDC_PREVIEW_PAGE), {.pages = pages_.get(), .font = font_, .page = page_, .zoom = zoom_});
-  const std::wstring number = L"Page " + std::to_wstring(page_ + 1) + L" of " + std::to_wstring(pages_->Count());
+  ShowPage(Control(IDC_PREVIEW_PAGE),
+           {.pages = &laidOut_.pages(), .font = laidOut_.font(), .page = page_, .zoom = zoom_});
+  const std::wstring number = L"Page " + std::to_wstring(page_ + 1) + L" of " + std::to_wstring(PageCount());
   SetWindowTextW(Control(IDC_PREVIEW_NUMBER), number.c_str());
   for (const int id : kLeafingButtons) {
     const bool isBack = id == IDC_PREVIEW_FIRST || id == IDC_PREVIEW_PREVIOUS;
-    const bool isUsable = isBack ? page_ > 0 : page_ < pages_->Count() - 1;
+    const bool isUsable = isBack ? page_ > 0 : page_ < PageCount() - 1;
     // A button that can no longer be pressed must not keep the focus.
     if (!isUsable && GetFocus() == Control(id)) {
       SendMessageW(dialog_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(IDC_PREVIEW_PAGE)), TRUE);
@@ -150,25 +184,31 @@ void Preview::ShowCurrent() {
   }
 }
 
+void Preview::OnSetup() {
+  const PageSetup before = setup_;
+  if (printer_.AskSetup(dialog_)) LayOutAgain(before);
+}
+
 void Preview::OnPrint() {
-  const Printer::Choice choice = printer_.Ask(dialog_, pages_->Count());
-  if (!choice.dc) return;
+  const PageSetup before = setup_;
+  const Printer::Choice choice = printer_.Ask(dialog_, PageCount());
   // Another printer may have other paper.
-  LayOut();
-  page_ = std::min(page_, pages_->Count() - 1);
-  ShowCurrent();
-  const int last = choice.allPages ? pages_->Count() : std::min(choice.lastPage, pages_->Count());
+  if (choice.dc && LayOutAgain(before)) PrintChosen(choice);
+}
+
+void Preview::PrintChosen(const Printer::Choice& choice) {
+  const int last = choice.allPages ? PageCount() : std::min(choice.lastPage, PageCount());
   const int first = choice.allPages ? 1 : std::max(choice.firstPage, 1);
   if (first <= last) {
     Print(dialog_, {.printer = choice.dc.get(),
-                    .pages = *pages_,
-                    .font = font_,
+                    .pages = laidOut_.pages(),
+                    .font = laidOut_.font(),
                     .documentName = printed_.documentName,
                     .toFile = choice.toFile,
                     .firstPage = first - 1,
                     .lastPage = last - 1});
   } else {
-    const std::wstring text = L"On this paper the table has " + std::to_wstring(pages_->Count()) +
+    const std::wstring text = L"On this paper the table has " + std::to_wstring(PageCount()) +
                               L" pages, and none of those that you chose. Choose among these and print again.";
     MessageBoxW(dialog_, text.c_str(), L"Error", MB_OK | MB_ICONSTOP);
   }
@@ -177,11 +217,12 @@ void Preview::OnPrint() {
 bool Preview::OnCommand(int control, int notification) {
   switch (control) {
     case IDC_PREVIEW_PRINT: OnPrint(); return true;
+    case IDC_PREVIEW_SETUP: OnSetup(); return true;
     case IDC_PREVIEW_FIRST: GoTo(0); return true;
     case IDC_PREVIEW_PREVIOUS: GoTo(page_ - 1); return true;
     case IDC_PREVIEW_NEXT: GoTo(page_ + 1); return true;
-    case IDC_PREVIEW_LAST: GoTo(pages_->Count() - 1); return true;
-    case IDCANCEL: EndDialog(dialog_, IDCANCEL); return true;
+    case IDC_PREVIEW_LAST: GoTo(PageCount() - 1); return true;
+    case IDCANCEL: EndDialog(dialog_, kShown); return true;
     case IDC_PREVIEW_ZOOM:
       if (notification != CBN_SELCHANGE) return false;
       zoom_ = static_cast<Zoom>(SendMessageW(Control(IDC_PREVIEW_ZOOM), CB_GETCURSEL, 0, 0));
@@ -223,13 +264,14 @@ void PreviewTable(HWND owner, const PrintedTable& printed) {
   PreviewTable(owner, printed, setup);
 }
 
-void PreviewTable(HWND owner, const PrintedTable& printed, PageSetup&) {
+void PreviewTable(HWND owner, const PrintedTable& printed, PageSetup& setup) {
   bool isShown = false;
   try {
-    Preview preview(printed);
+    Preview preview(printed, setup);
     const auto state = reinterpret_cast<LPARAM>(&preview);
     isShown = RegisterPageView(ThisModule()) &&
-              DialogBoxParamW(ThisModule(), MAKEINTRESOURCEW(IDD_PREVIEW), owner, PreviewProc, state) > 0;
+              (!preview.LayOutFirst(owner) ||
+               DialogBoxParamW(ThisModule(), MAKEINTRESOURCEW(IDD_PREVIEW), owner, PreviewProc, state) == kShown);
   } catch (const std::bad_alloc&) {
   }
   UnregisterPageView(ThisModule());

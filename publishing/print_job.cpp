@@ -1,77 +1,14 @@
 #include "publishing/print_job.h"
 
 #include "publishing/dc_surface.h"
-#include "publishing/module.h"
-#include "publishing/preview_ids.h"
 #include "publishing/printer.h"
+#include "publishing/progress_box.h"
 
 namespace publishing {
 namespace {
 
 // Answers of the spooler below this one are failures.
 constexpr int kFirstSuccess = 1;
-
-// The dialog that is shown meanwhile, and what the user wants.
-class Progress {
- public:
-  explicit Progress(HWND owner) : owner_(owner) {
-    current_ = this;
-    EnableWindow(owner_, FALSE);
-    dialog_ = CreateDialogParamW(ThisModule(), MAKEINTRESOURCEW(IDD_PRINTING), owner_, Handle, 0);
-  }
-  ~Progress() {
-    Close();
-    current_ = nullptr;
-  }
-  Progress(const Progress&) = delete;
-  Progress& operator=(const Progress&) = delete;
-
-  bool IsCancelled() const { return isCancelled_; }
-
-  void Show(const std::wstring& text) {
-    SetDlgItemTextW(dialog_, IDC_PRINTING_PAGE, text.c_str());
-    HandleMessages();
-  }
-
-  // Before a box of the owner's. The owner first, lest another program's window comes to the front.
-  void Close() {
-    EnableWindow(owner_, TRUE);
-    if (dialog_) DestroyWindow(dialog_);
-    dialog_ = nullptr;
-  }
-
-  static BOOL CALLBACK AbortProc(HDC, int) {
-    if (current_) current_->HandleMessages();
-    return !current_ || !current_->isCancelled_;
-  }
-
- private:
-  void HandleMessages() {
-    MSG message;
-    while (!isCancelled_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-      if (message.message == WM_QUIT) {
-        // The program ends: the loops around this one are to see that too.
-        PostQuitMessage(static_cast<int>(message.wParam));
-        isCancelled_ = true;
-      } else if (!dialog_ || !IsDialogMessageW(dialog_, &message)) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-      }
-    }
-  }
-
-  static INT_PTR CALLBACK Handle(HWND, UINT message, WPARAM wParam, LPARAM) {
-    if (message == WM_INITDIALOG) return TRUE;
-    if (message != WM_COMMAND || LOWORD(wParam) != IDCANCEL) return FALSE;
-    if (current_) current_->isCancelled_ = true;
-    return TRUE;
-  }
-
-  static inline Progress* current_ = nullptr;  // the abort procedure is told nothing
-  HWND owner_;
-  HWND dialog_ = nullptr;
-  bool isCancelled_ = false;
-};
 
 std::wstring SystemText(DWORD error) {
   wchar_t text[512] = {};
@@ -104,7 +41,7 @@ int StartDocument(const PrintJob& job) {
 }
 
 // The spooler's answer for the last of its calls that was made.
-int PrintPages(const PrintJob& job, Progress& progress) {
+int PrintPages(const PrintJob& job, ProgressBox& progress) {
   const std::wstring last = std::to_wstring(job.lastPage + 1);
   int answer = kFirstSuccess;
   for (int page = job.firstPage; page <= job.lastPage && answer >= kFirstSuccess; ++page) {
@@ -125,8 +62,8 @@ int PrintPages(const PrintJob& job, Progress& progress) {
 }  // namespace
 
 bool Print(HWND owner, const PrintJob& job) {
-  Progress progress(owner);
-  SetAbortProc(job.printer, Progress::AbortProc);
+  ProgressBox progress(owner, L"Printing");
+  SetAbortProc(job.printer, ProgressBox::AbortProc);
   SetLastError(ERROR_SUCCESS);
   int answer = StartDocument(job);
   const bool isStarted = answer >= kFirstSuccess;

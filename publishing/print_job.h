@@ -5,13 +5,13 @@
 
 #include <string>
 
-#include "publishing/core/table_pages.h"
+#include "publishing/core/pages.h"
 
 namespace publishing {
 
 struct PrintJob {
   HDC printer;
-  const TablePages& pages;
+  const Pages& pages;
   LOGFONTW font;  // of PageFontOf
   std::wstring documentName;
   bool toFile;    // the system then asks for the file

@@ -13,20 +13,38 @@
 namespace publishing {
 namespace {
 
-constexpr int kMargin = kDotsPerInch * 3 / 4;
+// Parts of an inch, of which the margins have 1/100 mm.
+constexpr int kHundredthsInAnInch = 2540;
 
 constexpr double kMillimetre = kDotsPerInch / 25.4;
+
+// What margins have to leave of a sheet each way, unless it has less: 5 cm.
+constexpr int kLeastBody = 5000 * kDotsPerInch / kHundredthsInAnInch;
 
 int Dots(double millimetres) {
   return static_cast<int>(millimetres * kMillimetre);
 }
 
-PageBox BodyIn(int width, int height, const RECT& printable) {
-  const int left = std::max<int>(kMargin, printable.left);
-  const int top = std::max<int>(kMargin, printable.top);
-  const int right = std::min<int>(width - kMargin, printable.right);
-  const int bottom = std::min<int>(height - kMargin, printable.bottom);
+int DotsOfHundredths(int hundredths) {
+  return MulDiv(hundredths, kDotsPerInch, kHundredthsInAnInch);
+}
+
+PageBox BodyIn(int width, int height, const RECT& printable, const PageMargins& margins) {
+  const int left = std::max<int>(DotsOfHundredths(margins.left), printable.left);
+  const int top = std::max<int>(DotsOfHundredths(margins.top), printable.top);
+  const int right = std::min<int>(width - DotsOfHundredths(margins.right), printable.right);
+  const int bottom = std::min<int>(height - DotsOfHundredths(margins.bottom), printable.bottom);
   return {left, top, std::max(right - left, 1), std::max(bottom - top, 1)};
+}
+
+bool LeaveRoom(const PageBox& body, int width, int height) {
+  return body.width >= std::min(kLeastBody, width / 2) && body.height >= std::min(kLeastBody, height / 2);
+}
+
+bool HasInches() {
+  wchar_t system[2] = {};
+  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IMEASURE, system, static_cast<int>(std::size(system)));
+  return system[0] == L'1';
 }
 
 OwnedContext CreateInformationContext(HGLOBAL mode, HGLOBAL names) {
@@ -51,7 +69,7 @@ void ShowNoPrinter(HWND owner, DWORD error) {
   const bool hasNone = error == PDERR_NODEFAULTPRN || error == PDERR_NODEVICES;
   const std::wstring text =
       hasNone
-          ? L"No printer is installed. Install one in the system's settings, under Printers, and print again."
+          ? L"No printer is installed. Install one in the system's settings, under Printers, and try again."
           : L"The printer does not answer. See in the system's settings, under Printers, whether it is still there, "
             L"or choose another one.";
   MessageBoxW(owner, text.c_str(), L"Error", MB_OK | MB_ICONSTOP);
@@ -65,21 +83,68 @@ DeviceScale ScaleOf(HDC printer) {
           {-GetDeviceCaps(printer, PHYSICALOFFSETX), -GetDeviceCaps(printer, PHYSICALOFFSETY)}};
 }
 
-Printer::Printer() {
+Printer::Printer(PageSetup& setup) : setup_(setup) {
   const ScopedWaitCursor wait;  // a printer of the network may take its time
   PRINTDLGW defaults{};
   defaults.lStructSize = sizeof defaults;
-  defaults.Flags = PD_RETURNDEFAULT | PD_RETURNIC | PD_NOWARNING;
-  const bool hasDefault = PrintDlgW(&defaults) != FALSE;
-  const OwnedContext dc(hasDefault ? defaults.hDC : nullptr);
+  defaults.Flags = PD_RETURNDEFAULT | PD_NOWARNING;
+  PrintDlgW(&defaults);
   mode_ = defaults.hDevMode;
   names_ = defaults.hDevNames;
-  MeasureSheet(dc.get());
+  Use(setup);
 }
 
 Printer::~Printer() {
   if (mode_) GlobalFree(mode_);
   if (names_) GlobalFree(names_);
+}
+
+void Printer::Use(const PageSetup& setup) {
+  setup_ = setup;
+  SetPaper(setup.paper, setup.orientation);
+  Measure();
+}
+
+// What is not chosen stays as it is.
+void Printer::SetPaper(int paper, PaperOrientation orientation) {
+  const ScopedGlobalLock<DEVMODEW> mode(mode_);
+  if (!mode) return;
+  if (paper != 0 && (mode->dmFields & DM_PAPERSIZE)) {
+    mode->dmPaperSize = static_cast<short>(paper);
+    mode->dmFields &= ~static_cast<DWORD>(DM_PAPERWIDTH | DM_PAPERLENGTH | DM_FORMNAME);  // which would name another
+  }
+  if (orientation != PaperOrientation::kAutomatic && (mode->dmFields & DM_ORIENTATION)) {
+    mode->dmOrientation = orientation == PaperOrientation::kLandscape ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
+  }
+}
+
+Printer::Paper Printer::PaperNow() const {
+  const ScopedGlobalLock<const DEVMODEW> mode(mode_);
+  if (!mode) return {};
+  return {(mode->dmFields & DM_PAPERSIZE) ? static_cast<WORD>(mode->dmPaperSize) : 0,
+          (mode->dmFields & DM_ORIENTATION) ? mode->dmOrientation : 0};
+}
+
+// What a dialog has left as it was is no choice.
+void Printer::StorePaper(const Paper& before) {
+  const Paper now = PaperNow();
+  if (now.size != before.size) setup_.paper = now.size;
+  if (now.orientation != before.orientation) {
+    setup_.orientation =
+        now.orientation == DMORIENT_LANDSCAPE ? PaperOrientation::kLandscape : PaperOrientation::kPortrait;
+  }
+}
+
+void Printer::Measure() {
+  const OwnedContext dc(CreateInformationContext(mode_, names_));
+  MeasureSheet(dc.get());
+}
+
+Sheet Printer::WithMargins(int width, int height, const RECT& printable) const {
+  PageBox body = BodyIn(width, height, printable, MarginsOf(setup_));
+  // They may be meant for other paper.
+  if (!LeaveRoom(body, width, height)) body = BodyIn(width, height, printable, kUsualMargins);
+  return {width, height, body};
 }
 
 void Printer::MeasureSheet(HDC dc) {
@@ -89,27 +154,32 @@ void Printer::MeasureSheet(HDC dc) {
   const auto caps = [dc](int index) { return GetDeviceCaps(dc, index); };
   const int width = static_cast<int>(caps(PHYSICALWIDTH) / scale.x);
   const int height = static_cast<int>(caps(PHYSICALHEIGHT) / scale.y);
-  if (width <= 2 * kMargin || height <= 2 * kMargin) return TakeUsualPaper();
+  if (width <= kLeastBody || height <= kLeastBody) return TakeUsualPaper();
   const RECT printable = {static_cast<LONG>(-scale.corner.x / scale.x), static_cast<LONG>(-scale.corner.y / scale.y),
                           static_cast<LONG>((caps(HORZRES) - scale.corner.x) / scale.x),
                           static_cast<LONG>((caps(VERTRES) - scale.corner.y) / scale.y)};
-  sheet_ = {width, height, BodyIn(width, height, printable)};
+  const Sheet sheet = WithMargins(width, height, printable);
+  if (!LeaveRoom(sheet.body, width, height)) return TakeUsualPaper();
+  sheet_ = sheet;
 }
 
 void Printer::TakeUsualPaper() {
   // LOCALE_IPAPERSIZE: 1 letter, 5 legal, 8 A3, 9 A4. Whoever is used to legal or A3 prints tables on its smaller form.
-  wchar_t paper[3] = {};
-  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IPAPERSIZE, paper, static_cast<int>(std::size(paper)));
-  const bool isLetter = paper[0] == L'1' || paper[0] == L'5';
-  const int width = isLetter ? kDotsPerInch * 17 / 2 : Dots(210);
-  const int height = isLetter ? kDotsPerInch * 11 : Dots(297);
-  sheet_ = {width, height, BodyIn(width, height, {0, 0, width, height})};
+  wchar_t usual[3] = {};
+  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IPAPERSIZE, usual, static_cast<int>(std::size(usual)));
+  const bool isUsuallyLetter = usual[0] == L'1' || usual[0] == L'5';
+  const bool isLetter = setup_.paper == DMPAPER_LETTER || (isUsuallyLetter && setup_.paper != DMPAPER_A4);
+  int width = isLetter ? kDotsPerInch * 17 / 2 : Dots(210);
+  int height = isLetter ? kDotsPerInch * 11 : Dots(297);
+  if (setup_.orientation == PaperOrientation::kLandscape) std::swap(width, height);
+  sheet_ = WithMargins(width, height, {0, 0, width, height});
 }
 
 bool Printer::TurnPaper() {
   if (!names_) {  // without a printer
-    std::swap(sheet_.width, sheet_.height);
-    sheet_.body = BodyIn(sheet_.width, sheet_.height, {0, 0, sheet_.width, sheet_.height});
+    const int width = sheet_.height;
+    const int height = sheet_.width;
+    sheet_ = WithMargins(width, height, {0, 0, width, height});
     return true;
   }
   {
@@ -117,10 +187,57 @@ bool Printer::TurnPaper() {
     if (!mode || !(mode->dmFields & DM_ORIENTATION)) return false;
     mode->dmOrientation = DMORIENT_LANDSCAPE;
   }
-  const OwnedContext dc(CreateInformationContext(mode_, names_));
-  if (!dc) return false;
-  MeasureSheet(dc.get());
+  Measure();
   return true;
+}
+
+bool Printer::HasRoom() const {
+  const PageBox body = BodyIn(sheet_.width, sheet_.height, {0, 0, sheet_.width, sheet_.height}, MarginsOf(setup_));
+  return LeaveRoom(body, sheet_.width, sheet_.height);
+}
+
+bool Printer::AskSetup(HWND owner) {
+  if (!HasPrinters()) {
+    ShowNoPrinter(owner, PDERR_NODEVICES);
+    return false;
+  }
+  const Paper before = PaperNow();
+  const PageSetup setupBefore = setup_;
+  const int unitsInAnInch = HasInches() ? 1000 : kHundredthsInAnInch;
+  const auto toDialog = [&](int hundredths) { return MulDiv(hundredths, unitsInAnInch, kHundredthsInAnInch); };
+  const auto fromDialog = [&](LONG units) {
+    return std::clamp(MulDiv(units, kHundredthsInAnInch, unitsInAnInch), 0, kMostMargin);
+  };
+  for (;;) {
+    const PageMargins margins = MarginsOf(setup_);
+    PAGESETUPDLGW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = owner;
+    dialog.hDevMode = mode_;
+    dialog.hDevNames = names_;
+    dialog.Flags = PSD_MARGINS | PSD_NOWARNING |
+                   static_cast<DWORD>(HasInches() ? PSD_INTHOUSANDTHSOFINCHES : PSD_INHUNDREDTHSOFMILLIMETERS);
+    dialog.rtMargin = {toDialog(margins.left), toDialog(margins.top), toDialog(margins.right),
+                       toDialog(margins.bottom)};
+    const bool chosen = PageSetupDlgW(&dialog) != FALSE;
+    mode_ = dialog.hDevMode;
+    names_ = dialog.hDevNames;
+    if (!chosen) {
+      if (const DWORD error = CommDlgExtendedError()) ShowNoPrinter(owner, error);
+      if (setup_ != setupBefore) Use(setupBefore);
+      return false;
+    }
+    const RECT& told = dialog.rtMargin;
+    setup_.margins = {fromDialog(told.left), fromDialog(told.top), fromDialog(told.right), fromDialog(told.bottom)};
+    if (setup_.margins == kUsualMargins) setup_.margins = {};
+    StorePaper(before);
+    Measure();
+    if (HasRoom()) return true;
+    MessageBoxW(owner,
+                L"The margins leave no room for the table on this paper. Choose margins that leave at least 5 cm "
+                L"(2 inches) each way.",
+                L"Error", MB_OK | MB_ICONSTOP);
+  }
 }
 
 Printer::Choice Printer::Ask(HWND owner, int pageCount) {
@@ -128,6 +245,7 @@ Printer::Choice Printer::Ask(HWND owner, int pageCount) {
     ShowNoPrinter(owner, PDERR_NODEVICES);
     return {};
   }
+  const Paper before = PaperNow();
   constexpr int kMostPages = 0xFFFF;  // that the dialog can count
   PRINTDLGW dialog{};
   dialog.lStructSize = sizeof dialog;
@@ -144,6 +262,7 @@ Printer::Choice Printer::Ask(HWND owner, int pageCount) {
     if (const DWORD error = CommDlgExtendedError()) ShowNoPrinter(owner, error);
     return {};
   }
+  StorePaper(before);
   MeasureSheet(dialog.hDC);
   return {.dc = OwnedContext(dialog.hDC),
           .firstPage = dialog.nFromPage,

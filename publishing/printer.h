@@ -3,16 +3,18 @@
 
 #include <windows.h>
 
+#include "publishing/core/page_setup.h"
 #include "publishing/core/page_surface.h"
 #include "publishing/dc_surface.h"
 
 namespace publishing {
 
-// What the system's print dialog keeps from one time to the next: printer, paper, its orientation and more. Without a
-// printer, the paper that is usual where the user lives.
+// What the system's dialogs keep from one time to the next: printer, paper, its orientation and more. Without a
+// printer, the paper that was chosen, or that is usual where the user lives.
 class Printer {
  public:
-  Printer();
+  // setup: what holds at first. The dialogs' choices are stored there.
+  explicit Printer(PageSetup& setup);
   ~Printer();
   Printer(const Printer&) = delete;
   Printer& operator=(const Printer&) = delete;
@@ -20,8 +22,15 @@ class Printer {
   // The paper with its margins, in dots of the page.
   const Sheet& sheet() const { return sheet_; }
 
-  // Lays the paper across. False where the printer does not know how.
+  // Takes the paper, orientation and margins.
+  void Use(const PageSetup& setup);
+
+  // Lays the paper across, until the user chooses otherwise. False where the printer does not know how.
   bool TurnPaper();
+
+  // Runs the page setup dialog until its margins leave room. Whether anything was chosen; else the user cancelled, or
+  // was told why there is no choice.
+  bool AskSetup(HWND owner);
 
   struct Choice {
     OwnedContext dc = {};  // null when the user cancelled, or was told why there is no printing
@@ -34,9 +43,22 @@ class Printer {
   Choice Ask(HWND owner, int pageCount);
 
  private:
+  // Paper and orientation in the printer's settings, as numbers of the system.
+  struct Paper {
+    int size = 0;
+    int orientation = 0;
+    friend bool operator==(const Paper&, const Paper&) = default;
+  };
+  Paper PaperNow() const;
+  void StorePaper(const Paper& before);
+  void SetPaper(int paper, PaperOrientation orientation);
+  void Measure();
   void MeasureSheet(HDC dc);
   void TakeUsualPaper();
+  Sheet WithMargins(int width, int height, const RECT& printable) const;
+  bool HasRoom() const;
 
+  PageSetup& setup_;
   HGLOBAL mode_ = nullptr;
   HGLOBAL names_ = nullptr;
   Sheet sheet_ = {};

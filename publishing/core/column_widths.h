@@ -10,4 +10,8 @@ namespace publishing {
 // equal share each, and the rest in proportion to what they lack.
 std::vector<int> ColumnWidths(const std::vector<int>& own, int room);
 
+// The same with widths that the columns need at least, none more than its own: where all of these together have room,
+// no column gets less.
+std::vector<int> ColumnWidths(const std::vector<int>& own, const std::vector<int>& least, int room);
+
 }  // namespace publishing

@@ -29,12 +29,26 @@ PageOnScreen AtScale(double scale, const Sheet& sheet, const ScreenRoom& room) {
   return {scale, page, {std::max(needed.width, visible.width), std::max(needed.height, visible.height)}, visible};
 }
 
+// Of the sheet's own size; 0 where the window says how large it is.
+int PercentOf(Zoom zoom) {
+  switch (zoom) {
+    case Zoom::kThreeQuarters: return 75;
+    case Zoom::kActualSize: return 100;
+    case Zoom::kOneAndAHalf: return 150;
+    case Zoom::kDouble: return 200;
+    case Zoom::kWholePage:
+    case Zoom::kPageWidth: return 0;
+  }
+  return 0;
+}
+
 }  // namespace
 
 PageOnScreen ShowOnScreen(Zoom zoom, const Sheet& sheet, int dotsPerInch, const ScreenRoom& room) {
   const double byWidth = ScaleFor(room.window.width, sheet.width);
   const double byHeight = ScaleFor(room.window.height, sheet.height);
-  if (zoom == Zoom::kActualSize) return AtScale(static_cast<double>(room.dotsPerInch) / dotsPerInch, sheet, room);
+  if (const int percent = PercentOf(zoom))
+    return AtScale(percent / 100.0 * room.dotsPerInch / dotsPerInch, sheet, room);
   if (zoom == Zoom::kWholePage || byWidth <= byHeight) return AtScale(std::min(byWidth, byHeight), sheet, room);
   return AtScale(ScaleFor(room.window.width - room.bars.width, sheet.width), sheet, room);
 }

@@ -7,7 +7,7 @@
 
 namespace publishing {
 
-enum class Zoom : uint8_t { kWholePage, kPageWidth, kActualSize };
+enum class Zoom : uint8_t { kWholePage, kPageWidth, kThreeQuarters, kActualSize, kOneAndAHalf, kDouble };
 
 struct PixelExtent {
   int width;

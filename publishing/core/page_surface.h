@@ -25,9 +25,23 @@ struct Sheet {
   PageBox body;  // inside the margins
 };
 
-enum class PageFont : uint8_t { kTitle, kHeading, kText };
+enum class PageFont : uint8_t {
+  kTitle,
+  kHeading,  // bold, as large as a text
+  kText,
+  kSmall,
+  kLarge,  // bold
+};
+
+// What a surface's fonts have before it is told otherwise, in thousandths.
+constexpr int kUsualSize = 1000;
 
 enum class Place : uint8_t { kLeft, kCenter, kRight };
+
+enum class Rule : uint8_t {
+  kThin,  // black
+  kHair,  // finer, and grey
+};
 
 // How a line stands in its box.
 struct LineStyle {
@@ -45,13 +59,16 @@ class PageSurface {
   PageSurface& operator=(const PageSurface&) = delete;
   virtual ~PageSurface() = default;
 
+  // Of all fonts from then on, in thousandths of their usual size.
+  virtual void SetSize(int size) = 0;
+
   virtual int LineHeight(PageFont font) = 0;
   virtual int Width(PageFont font, std::u16string_view text) = 0;
 
   // The text is no wider than the box by Width.
   virtual void DrawLine(const PageBox& box, std::u16string_view text, const LineStyle& style) = 0;
-  // A thin line across the page from the left to the right.
-  virtual void DrawRule(int x, int y, int width) = 0;
+  // A line across the page from the left to the right.
+  virtual void DrawRule(int x, int y, int width, Rule rule) = 0;
 };
 
 }  // namespace publishing

@@ -1,9 +1,12 @@
 #include "publishing/core/table_pages.h"
 
 #include <algorithm>
-#include <utility>
+#include <cstdint>
+#include <limits>
+#include <numeric>
 
 #include "publishing/core/column_widths.h"
+#include "publishing/core/printed_text.h"
 #include "publishing/core/unicode.h"
 #include "publishing/core/wrapped_text.h"
 
@@ -14,195 +17,242 @@ namespace {
 constexpr int kGapsInAnInch = 8;
 constexpr int kRowGapsInAnInch = 48;
 
-// The share of a page that title and headings get at most, so that rows have room whatever they say.
+// Letters are made smaller until every word has room, down to lines of 7 points, which is about 6 for the letters.
+constexpr int kLeastLinePoints = 7;
+constexpr int kPointsInAnInch = 72;
+
+// Small letters are rounded: of a width that has been reckoned from a larger size this much may be lacking.
+constexpr int kRoundingPercent = 2;
+
+// Words wider than this part of the page do not make the letters small; they are broken where they must.
+constexpr int kWideWords = 4;
+
+// The share of a page that title, headings and a row's group get at most, so that rows have room whatever they say.
 constexpr int kTitleShare = 2;
 constexpr int kHeadingShare = 3;
 
-// In UTF-16, with LF for whatever ends a line and blanks for what cannot be drawn.
-std::u16string PrintedText(const std::string& text) {
-  std::u16string printed;
-  bool afterReturn = false;
-  for (const char16_t unit : Utf16Of(text)) {
-    if (!(unit == u'\n' && afterReturn)) {
-      const bool isLineEnd = unit == u'\n' || unit == u'\r';
-      const bool isControl = unit < u' ' || unit == 0x7F;
-      printed += isLineEnd ? u'\n' : isControl ? u' ' : unit;
-    }
-    afterReturn = unit == u'\r';
-  }
-  return printed;
+// Rows between two calls of the progress.
+constexpr std::size_t kRowsInAStep = 64;
+
+int Scaled(int length, int size) {
+  return static_cast<int>(static_cast<int64_t>(length) * size / kUsualSize);
 }
 
-MeasureText MeasureWith(PageSurface& surface, PageFont font) {
-  return [&surface, font](std::u16string_view text) { return text.empty() ? 0 : surface.Width(font, text); };
-}
-
-template <typename Cells>
-int MostLines(const Cells& cells) {
-  std::size_t most = 1;
-  for (const auto& cell : cells) most = std::max(most, cell.lines.size());
-  return static_cast<int>(most);
+int Sum(const std::vector<int>& numbers) {
+  const int64_t sum = std::accumulate(numbers.begin(), numbers.end(), int64_t{0});
+  return static_cast<int>(std::min<int64_t>(sum, std::numeric_limits<int>::max()));
 }
 
 }  // namespace
 
-TablePages::TablePages(const Table& table, const Sheet& sheet, int dotsPerInch, PageSurface& surface)
-    : sheet_(sheet),
+TablePages::TablePages(const Table& table, const Sheet& sheet, int dotsPerInch, PageSurface& surface,
+                       const Progress& progress)
+    : table_(table),
+      measuring_(surface),
+      textWidths_(surface, PageFont::kText),
+      boldWidths_(surface, PageFont::kHeading),
+      sheet_(sheet),
+      dotsPerInch_(dotsPerInch),
       gap_(std::max(dotsPerInch / kGapsInAnInch, 1)),
       rowGap_(dotsPerInch / kRowGapsInAnInch),
-      titleLine_(std::max(surface.LineHeight(PageFont::kTitle), 1)),
-      headingLine_(std::max(surface.LineHeight(PageFont::kHeading), 1)),
-      textLine_(std::max(surface.LineHeight(PageFont::kText), 1)),
       hasTitle_(!table.title.empty()) {
-  PlaceColumns(table, surface);
-  WrapHeadings(table, surface);
-  WrapTitle(table, surface);
-  WrapRows(table, surface);
-  Plan();
+  measuring_.SetSize(kUsualSize);
+  MeasureRows(progress);
+  if (isCancelled_) return;
+  PlaceColumns();
+  const auto line = [this](PageFont font) { return std::max(measuring_.LineHeight(font), 1); };
+  textLine_ = std::max(line(PageFont::kText), line(PageFont::kHeading));
+  titleLine_ = line(PageFont::kTitle);
+  smallLine_ = line(PageFont::kSmall);
+  WrapHeadings();
+  WrapTitle();
+  WrapNotes();
+  CountLines(progress);
+  if (!isCancelled_) Plan();
 }
 
-void TablePages::PlaceColumns(const Table& table, PageSurface& surface) {
-  const MeasureText ofHeading = MeasureWith(surface, PageFont::kHeading);
-  const MeasureText ofText = MeasureWith(surface, PageFont::kText);
-  std::vector<int> own;
-  for (const Column& column : table.columns) {
-    own.push_back(WidthUnwrapped(PrintedText(column.heading), ofHeading) + gap_);
+// Widths of all texts, and what kind each row is.
+void TablePages::MeasureRows(const Progress& progress) {
+  for (const Column& column : table_.columns) {
+    const TextWidth width = boldWidths_.Of(column.heading);
+    own_.push_back(width.whole);
+    least_.push_back(width.widestWord);
   }
-  ForEachRow(table, [&](const Row& row) {
-    for (std::size_t column = 0; column < own.size(); ++column) {
-      own[column] = std::max(own[column], WidthUnwrapped(PrintedText(CellOf(row, column)), ofText) + gap_);
+  const std::size_t count = table_.rows->Count();
+  rows_.reserve(count);
+  Row row;
+  for (std::size_t index = 0; index < count && !isCancelled_; ++index) {
+    if (progress && index % kRowsInAStep == 0) isCancelled_ = !progress(index, 2 * count);
+    table_.rows->Read(index, row);
+    rows_.push_back({1, row.kind == RowKind::kGroup, row.beginsPage});
+    if (row.kind == RowKind::kGroup) continue;
+    TextWidths& widths = row.isBold ? boldWidths_ : textWidths_;
+    for (std::size_t column = 0; column < own_.size(); ++column) {
+      const TextWidth width = widths.Of(CellOf(row, column));
+      own_[column] = std::max(own_[column], width.whole);
+      least_[column] = std::max(least_[column], width.widestWord);
+      haveLineEnds_ = haveLineEnds_ || !width.isOneLine;
     }
-  });
+  }
+}
+
+// Until all words have room, if they can. least: the columns' widths without gaps.
+void TablePages::ShrinkLetters(const std::vector<int>& least) {
+  const int columns = static_cast<int>(least.size());
   // Behind the last column there is no gap to keep.
-  const std::vector<int> widths = ColumnWidths(own, std::max(sheet_.body.width + gap_, 0));
-  isNarrowed_ = widths != own;
-  int x = sheet_.body.x;
-  for (std::size_t column = 0; column < widths.size(); ++column) {
-    columns_.push_back({x, std::max(widths[column] - gap_, 1), table.columns[column].align});
-    x += widths[column];
+  const auto lacks = [&] { return Sum(least) + (columns - 1) * gap_ > sheet_.body.width; };
+  if (!lacks()) return;
+  gap_ = std::max(gap_ / 2, 1);
+  if (!lacks()) return;
+  const int needed = std::max(Sum(least) / 100 * (100 + kRoundingPercent) + (columns - 1) * gap_, 1);
+  const int line = std::max(measuring_.LineHeight(PageFont::kText), 1);
+  const int smallest = kUsualSize * kLeastLinePoints * dotsPerInch_ / kPointsInAnInch / line;
+  const auto fitting = static_cast<int>(int64_t{kUsualSize} * sheet_.body.width / needed);
+  size_ = std::clamp(fitting, std::min(smallest, kUsualSize), kUsualSize);
+  gap_ = std::max(Scaled(gap_, size_), 1);
+  rowGap_ = Scaled(rowGap_, size_);
+  measuring_.SetSize(size_);
+  textWidths_.Forget();
+  boldWidths_.Forget();
+}
+
+void TablePages::PlaceColumns() {
+  std::vector<int> least = least_;
+  for (int& width : least) width = std::min(width, sheet_.body.width / kWideWords);
+  if (Sum(own_) + (static_cast<int>(own_.size()) - 1) * gap_ > sheet_.body.width) ShrinkLetters(least);
+  const auto withGap = [this](int width) {
+    const int rounding = size_ == kUsualSize ? 0 : width / 100 * kRoundingPercent;
+    return Scaled(width + rounding, size_) + gap_;
+  };
+  std::vector<int> own = own_;
+  std::transform(own_.begin(), own_.end(), own.begin(), withGap);
+  std::transform(least.begin(), least.end(), least.begin(), withGap);
+  const std::vector<int> widths = ColumnWidths(own, least, std::max(sheet_.body.width + gap_, 0));
+  isNarrowed_ = widths != own || size_ != kUsualSize;
+  int x = 0;
+  for (const int width : widths) {
+    const int inner = std::max(width - gap_, 1);
+    const int left = table_.rightToLeft ? std::max(sheet_.body.width - x - inner, 0) : x;
+    columns_.push_back({sheet_.body.x + left, inner});
+    x += width;
   }
 }
 
-void TablePages::WrapHeadings(const Table& table, PageSurface& surface) {
-  const MeasureText measure = MeasureWith(surface, PageFont::kHeading);
-  const auto most = static_cast<std::size_t>(std::max(sheet_.body.height / kHeadingShare / headingLine_, 1));
+TablePages::Block TablePages::Wrapped(const std::string& text, PageFont font, int width, std::size_t mostLines) const {
+  const MeasureText measure = [this, font](std::u16string_view line) {
+    return line.empty() ? 0 : measuring_.Width(font, line);
+  };
+  const std::u16string printed = PrintedText(text);
+  return {FirstLines(WrappedText(printed, width, measure), mostLines, width, measure), IsRightToLeft(text),
+          StartOf(text, table_.rightToLeft)};
+}
+
+void TablePages::WrapHeadings() {
+  const auto most = static_cast<std::size_t>(std::max(sheet_.body.height / kHeadingShare / textLine_, 1));
   for (std::size_t column = 0; column < columns_.size(); ++column) {
-    const std::string& heading = table.columns[column].heading;
-    const std::u16string text = PrintedText(heading);
-    const int width = columns_[column].width;
-    headings_.push_back({FirstLines(WrappedText(text, width, measure), most, width, measure), IsRightToLeft(heading)});
+    const Column& form = table_.columns[column];
+    Block block = Wrapped(form.heading, PageFont::kHeading, columns_[column].width, most);
+    block.place = PlaceIn(form, block.rightToLeft, table_.rightToLeft);
+    headings_.push_back(std::move(block));
   }
 }
 
-void TablePages::WrapTitle(const Table& table, PageSurface& surface) {
+void TablePages::WrapTitle() {
   int room = sheet_.body.height / kTitleShare;
   const auto add = [&](const std::string& text, PageFont font, int lineHeight) {
     if (room < lineHeight && !title_.empty()) return;
-    const MeasureText measure = MeasureWith(surface, font);
-    const std::u16string printed = PrintedText(text);
-    const int width = sheet_.body.width;
-    const auto most = static_cast<std::size_t>(std::max(room / lineHeight, 1));
-    title_.push_back({FirstLines(WrappedText(printed, width, measure), most, width, measure), IsRightToLeft(text)});
+    title_.push_back(Wrapped(text, font, sheet_.body.width, static_cast<std::size_t>(std::max(room / lineHeight, 1))));
     room -= static_cast<int>(title_.back().lines.size()) * lineHeight;
   };
-  if (hasTitle_) add(table.title, PageFont::kTitle, titleLine_);
-  for (const std::string& remark : table.remarks) add(remark, PageFont::kText, textLine_);
+  if (hasTitle_) add(table_.title, PageFont::kTitle, titleLine_);
+  for (const std::string& remark : table_.remarks) add(remark, PageFont::kText, textLine_);
 }
 
-void TablePages::WrapRows(const Table& table, PageSurface& surface) {
-  const MeasureText measure = MeasureWith(surface, PageFont::kText);
-  ForEachRow(table, [&](const Row& row) {
-    Cells cells;
-    for (std::size_t column = 0; column < columns_.size(); ++column) {
-      const std::u16string text = PrintedText(CellOf(row, column));
-      const auto lines = WrappedText(text, columns_[column].width, measure);
-      cells.push_back({{lines.begin(), lines.end()}, IsRightToLeft(CellOf(row, column))});
+void TablePages::WrapNotes() {
+  for (const std::string& note : table_.notes) {
+    const Block block = Wrapped(note, PageFont::kText, sheet_.body.width, std::numeric_limits<std::size_t>::max());
+    for (const std::u16string& line : block.lines) notes_.push_back({{line}, block.rightToLeft, block.place});
+  }
+}
+
+TablePages::Cells TablePages::CellsOf(const Row& row) const {
+  if (row.kind == RowKind::kGroup) {
+    const auto most = static_cast<std::size_t>(std::max(sheet_.body.height / kHeadingShare / textLine_, 1));
+    return {Wrapped(CellOf(row, 0), PageFont::kHeading, TableWidth(), most)};
+  }
+  const TextWidths& widths = row.isBold ? boldWidths_ : textWidths_;
+  const MeasureText measure = [&widths](std::u16string_view text) { return widths.Measure(text); };
+  Cells cells;
+  for (std::size_t column = 0; column < columns_.size(); ++column) {
+    const std::string& text = CellOf(row, column);
+    const Column& form = table_.columns[column];
+    const std::u16string printed = PrintedText(text);
+    const auto lines = WrappedText(printed, columns_[column].width, measure);
+    const bool rightToLeft = IsRightToLeftIn(form, text);
+    cells.push_back({{lines.begin(), lines.end()}, rightToLeft, PlaceIn(form, rightToLeft, table_.rightToLeft)});
+  }
+  return cells;
+}
+
+int TablePages::LinesOf(const Row& row) {
+  if (row.kind == RowKind::kGroup) return static_cast<int>(CellsOf(row).front().lines.size());
+  TextWidths& widths = row.isBold ? boldWidths_ : textWidths_;
+  const MeasureText measure = [&widths](std::u16string_view text) { return widths.Measure(text); };
+  std::size_t most = 1;
+  for (std::size_t column = 0; column < columns_.size(); ++column) {
+    const std::string& text = CellOf(row, column);
+    const TextWidth width = widths.Of(text);
+    if (width.isOneLine && width.whole <= columns_[column].width) continue;
+    const std::u16string printed = PrintedText(text);
+    most = std::max(most, WrappedText(printed, columns_[column].width, measure).size());
+  }
+  return static_cast<int>(most);
+}
+
+void TablePages::CountLines(const Progress& progress) {
+  const bool haveWrapped = isNarrowed_ || haveLineEnds_;
+  Row row;
+  for (std::size_t index = 0; index < rows_.size(); ++index) {
+    if (progress && index % kRowsInAStep == 0 && !progress(rows_.size() + index, 2 * rows_.size())) {
+      isCancelled_ = true;
+      return;
     }
-    rows_.push_back(std::move(cells));
-  });
+    if (!haveWrapped && !rows_[index].isGroup) continue;
+    table_.rows->Read(index, row);
+    rows_[index].lineCount = LinesOf(row);
+  }
+}
+
+PageRoom TablePages::Room() const {
+  const auto from = [this](int page) { return BodyBottom() - BodyTop(page) - HeadingHeight(); };
+  return {.onFirst = from(0), .onOthers = from(1), .lineHeight = textLine_, .rowGap = rowGap_, .groupGap = gap_ / 2};
 }
 
 void TablePages::Plan() {
-  std::vector<int> lineCounts;
-  for (const Cells& row : rows_) lineCounts.push_back(MostLines(row));
-  const int room = BodyBottom() - sheet_.body.y - HeadingHeight();
-  pages_ = PlanPages(lineCounts,
-                     {.onFirst = room - TitleHeight(), .onOthers = room, .lineHeight = textLine_, .rowGap = rowGap_});
+  pages_ = PlanPages(rows_, Room());
+  PlanNotes();
 }
 
-int TablePages::BodyBottom() const {
-  return sheet_.body.Bottom() - textLine_ - gap_;
-}
-
-int TablePages::HeadingHeight() const {
-  return MostLines(headings_) * headingLine_ + 2 * rowGap_;
-}
-
-int TablePages::TitleHeight() const {
-  int height = title_.empty() ? 0 : gap_;
-  for (std::size_t text = 0; text < title_.size(); ++text) {
-    const int line = hasTitle_ && text == 0 ? titleLine_ : textLine_;
-    height += static_cast<int>(title_[text].lines.size()) * line;
+// Together, below the last row or on a page more; several pages only when one is too small.
+void TablePages::PlanNotes() {
+  const PageRoom room = Room();
+  const bool isFirst = pages_.size() == 1;
+  const int left = (isFirst ? room.onFirst : room.onOthers) - HeightOf(pages_.back(), rows_, room) - gap_;
+  if (static_cast<int>(notes_.size()) <= left / textLine_) {
+    lastNotes_ = {0, notes_.size()};
+    return;
   }
-  return height;
-}
-
-void TablePages::Draw(PageSurface& surface, int page) const {
-  int y = page == 0 ? DrawTitle(surface) : sheet_.body.y;
-  y = DrawHeadings(surface, y);
-  for (const RowSlice& slice : pages_[static_cast<std::size_t>(page)]) {
-    DrawCells(surface, rows_[slice.row], PageFont::kText, slice, y);
-    y += slice.lineCount * textLine_ + rowGap_;
-  }
-  DrawNumber(surface, page);
-}
-
-int TablePages::DrawTitle(PageSurface& surface) const {
-  int y = sheet_.body.y;
-  for (std::size_t text = 0; text < title_.size(); ++text) {
-    const bool isTitle = hasTitle_ && text == 0;
-    const int height = isTitle ? titleLine_ : textLine_;
-    const bool rightToLeft = title_[text].rightToLeft;
-    for (const std::u16string& line : title_[text].lines) {
-      surface.DrawLine({sheet_.body.x, y, sheet_.body.width, height}, line,
-                       {.font = isTitle ? PageFont::kTitle : PageFont::kText,
-                        .place = rightToLeft ? Place::kRight : Place::kLeft,
-                        .rightToLeft = rightToLeft});
-      y += height;
-    }
-  }
-  return sheet_.body.y + TitleHeight();
-}
-
-int TablePages::DrawHeadings(PageSurface& surface, int y) const {
-  DrawCells(surface, headings_, PageFont::kHeading, {0, 0, MostLines(headings_)}, y);
-  if (!columns_.empty()) {
-    const int right = columns_.back().x + columns_.back().width;
-    surface.DrawRule(sheet_.body.x, y + HeadingHeight() - rowGap_, right - sheet_.body.x);
-  }
-  return y + HeadingHeight();
-}
-
-void TablePages::DrawCells(PageSurface& surface, const Cells& cells, PageFont font, const RowSlice& slice,
-                           int y) const {
-  const int height = font == PageFont::kHeading ? headingLine_ : textLine_;
-  for (std::size_t column = 0; column < cells.size(); ++column) {
-    const Block& cell = cells[column];
-    const bool atRight = cell.rightToLeft || columns_[column].align == Align::kEnd;
-    const LineStyle style = {font, atRight ? Place::kRight : Place::kLeft, cell.rightToLeft};
-    for (int line = 0; line < slice.lineCount; ++line) {
-      const auto index = static_cast<std::size_t>(slice.firstLine + line);
-      if (index >= cell.lines.size()) break;
-      const PageBox box = {columns_[column].x, y + line * height, columns_[column].width, height};
-      if (!cell.lines[index].empty()) surface.DrawLine(box, cell.lines[index], style);
-    }
+  const auto onPage = static_cast<std::size_t>(std::max((BodyBottom() - BodyTop(1)) / textLine_, 1));
+  for (std::size_t first = 0; first < notes_.size(); first += onPage) {
+    notePages_.push_back({first, std::min(onPage, notes_.size() - first)});
   }
 }
 
-void TablePages::DrawNumber(PageSurface& surface, int page) const {
-  const std::u16string text = Utf16Of("Page " + std::to_string(page + 1) + " of " + std::to_string(Count()));
-  surface.DrawLine({sheet_.body.x, sheet_.body.Bottom() - textLine_, sheet_.body.width, textLine_}, text,
-                   {.font = PageFont::kText, .place = Place::kCenter, .rightToLeft = false});
+int TablePages::TableWidth() const {
+  if (columns_.empty()) return sheet_.body.width;
+  const ColumnPlace& first = columns_.front();
+  const ColumnPlace& last = columns_.back();
+  return std::max(first.x + first.width, last.x + last.width) - std::min(first.x, last.x);
 }
 
 }  // namespace publishing

@@ -1,72 +1,108 @@
-// A table on pages: title and remarks on the first, its headings and "Page 2 of 5" on each. What is measured once is
-// drawn alike on every surface.
+// A table on pages: title and remarks on the first, running head on the others, its headings and "Page 2 of 5" on each,
+// notes behind the last row. Of each row only its lines are kept; rows are read again when their page is drawn.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "publishing/core/page_plan.h"
-#include "publishing/core/page_surface.h"
+#include "publishing/core/pages.h"
+#include "publishing/core/progress.h"
 #include "publishing/core/table.h"
+#include "publishing/core/text_widths.h"
 
 namespace publishing {
 
-class TablePages {
+class TablePages : public Pages {
  public:
-  // surface: measures, and is not needed afterwards.
-  // dotsPerInch: of the sheet's lengths.
-  TablePages(const Table& table, const Sheet& sheet, int dotsPerInch, PageSurface& surface);
+  // table and surface, which measures, live as long as the pages. dotsPerInch: of the sheet's lengths.
+  TablePages(const Table& table, const Sheet& sheet, int dotsPerInch, PageSurface& surface,
+             const Progress& progress = {});
 
-  int Count() const { return static_cast<int>(pages_.size()); }
+  int Count() const override { return static_cast<int>(pages_.size()) + static_cast<int>(notePages_.size()); }
+  const Sheet& sheet() const override { return sheet_; }
+  void Draw(PageSurface& surface, int page) const override;
+
+  // The progress had enough; there are no pages to draw.
+  bool IsCancelled() const { return isCancelled_; }
 
   // Whether columns had to be made narrower than their texts.
   bool IsNarrowed() const { return isNarrowed_; }
-
-  const Sheet& sheet() const { return sheet_; }
-
-  // page: from 0.
-  void Draw(PageSurface& surface, int page) const;
 
  private:
   // A text in lines.
   struct Block {
     std::vector<std::u16string> lines;
     bool rightToLeft;
+    Place place;
   };
   struct ColumnPlace {
     int x;
     int width;
-    Align align;
   };
   using Cells = std::vector<Block>;
+  // Lines of the notes on a page.
+  struct NoteLines {
+    std::size_t first;
+    std::size_t count;
+  };
 
-  void PlaceColumns(const Table& table, PageSurface& surface);
-  void WrapHeadings(const Table& table, PageSurface& surface);
-  void WrapTitle(const Table& table, PageSurface& surface);
-  void WrapRows(const Table& table, PageSurface& surface);
+  void MeasureRows(const Progress& progress);
+  void ShrinkLetters(const std::vector<int>& least);
+  void PlaceColumns();
+  void WrapHeadings();
+  void WrapTitle();
+  void WrapNotes();
+  void CountLines(const Progress& progress);
   void Plan();
+  void PlanNotes();
 
+  PageRoom Room() const;
+  int BodyTop(int page) const;
   int BodyBottom() const;  // of the rows; below stands the number of the page
   int HeadingHeight() const;
   int TitleHeight() const;
-  int DrawTitle(PageSurface& surface) const;
+  int TableWidth() const;
+  bool IsBold(const Row& row) const { return row.isBold || row.kind == RowKind::kGroup; }
+  Block Wrapped(const std::string& text, PageFont font, int width, std::size_t mostLines) const;
+  Cells CellsOf(const Row& row) const;
+  int LinesOf(const Row& row);
+
+  void DrawTitle(PageSurface& surface) const;
+  void DrawRunningHead(PageSurface& surface) const;
   int DrawHeadings(PageSurface& surface, int y) const;
+  int DrawRows(PageSurface& surface, const PlannedPage& page, int y) const;
   void DrawCells(PageSurface& surface, const Cells& cells, PageFont font, const RowSlice& slice, int y) const;
+  void DrawBlock(PageSurface& surface, const Block& block, PageFont font, const RowSlice& slice, PageBox box) const;
+  void DrawNotes(PageSurface& surface, const NoteLines& lines, int y) const;
   void DrawNumber(PageSurface& surface, int page) const;
 
+  const Table& table_;
+  PageSurface& measuring_;
+  mutable TextWidths textWidths_;
+  mutable TextWidths boldWidths_;
   Sheet sheet_;
-  int gap_;  // between columns, and between the parts of a page
+  int dotsPerInch_;
+  int size_ = kUsualSize;  // of the letters
+  int gap_;                // between columns, and between the parts of a page
   int rowGap_;
-  int titleLine_;
-  int headingLine_;
-  int textLine_;
+  int titleLine_ = 1;
+  int textLine_ = 1;  // and of headings
+  int smallLine_ = 1;
+  bool isCancelled_ = false;
   bool isNarrowed_ = false;
+  bool haveLineEnds_ = false;  // texts of rows
+  std::vector<int> own_;       // the columns' widths by their texts, with the gap
+  std::vector<int> least_;     // by their words
   std::vector<ColumnPlace> columns_;
   Cells title_;  // the title, unless it is empty, and the remarks
   bool hasTitle_;
   Cells headings_;
-  std::vector<Cells> rows_;
+  Cells notes_;  // of a line each
+  std::vector<RowToPlan> rows_;
   std::vector<PlannedPage> pages_;
+  NoteLines lastNotes_ = {0, 0};      // on the last page that has rows
+  std::vector<NoteLines> notePages_;  // pages more, for notes alone
 };
 
 }  // namespace publishing

@@ -43,8 +43,14 @@ TEST(PageOnScreen, ActualSizeIsThatOfTheScreensInch) {
   EXPECT_EQ(Shown(Zoom::kActualSize, 700, 887).visible, (PixelExtent{685, 887}));
 }
 
+TEST(PageOnScreen, OtherSizesAreInProportion) {
+  EXPECT_EQ(Shown(Zoom::kThreeQuarters, 2000, 2000).page, (PixelExtent{432, 648}));
+  EXPECT_EQ(Shown(Zoom::kOneAndAHalf, 2000, 2000).page, (PixelExtent{864, 1296}));
+  EXPECT_EQ(Shown(Zoom::kDouble, 2000, 2000).page, (PixelExtent{1152, 1728}));
+}
+
 TEST(PageOnScreen, AWindowWithoutRoomShowsAPixel) {
-  for (const Zoom zoom : {Zoom::kWholePage, Zoom::kPageWidth, Zoom::kActualSize}) {
+  for (const Zoom zoom : {Zoom::kWholePage, Zoom::kPageWidth, Zoom::kThreeQuarters, Zoom::kActualSize}) {
     const PageOnScreen shown = Shown(zoom, 0, 0);
     EXPECT_GE(shown.page.width, 1);
     EXPECT_GE(shown.visible.width, 1);

@@ -28,6 +28,7 @@ struct DrawnLine {
 // Characters are 10 wide and 20 high, in headings 12 wide; those of the title are 20 wide and 30 high.
 class RecordedPage : public PageSurface {
  public:
+  void SetSize(int size) override { size_ = size; }
   int LineHeight(PageFont font) override { return font == PageFont::kTitle ? 30 : 20; }
   int Width(PageFont font, std::u16string_view text) override {
     const auto count = std::count_if(text.begin(), text.end(), [](char16_t unit) { return !IsCombining(unit); });
@@ -37,7 +38,9 @@ class RecordedPage : public PageSurface {
     EXPECT_LE(Width(style.font, text), std::max(box.width, 12));
     lines.push_back({box, std::u16string(text), style});
   }
-  void DrawRule(int x, int y, int width) override { rules.push_back({x, y, width, 1}); }
+  void DrawRule(int x, int y, int width, Rule rule) override {
+    (rule == Rule::kThin ? rules : hairs).push_back({x, y, width, 1});
+  }
 
   std::vector<std::u16string> Texts() const {
     std::vector<std::u16string> texts;
@@ -47,6 +50,10 @@ class RecordedPage : public PageSurface {
 
   std::vector<DrawnLine> lines;
   std::vector<PageBox> rules;
+  std::vector<PageBox> hairs;
+
+ private:
+  int size_ = kUsualSize;
 };
 
 std::vector<RecordedPage> PagesOf(const Table& table, const Sheet& sheet = kSheet) {

@@ -28,6 +28,7 @@ int WidthOf(std::u16string_view text) {
 class CheckedPage : public PageSurface {
  public:
   explicit CheckedPage(const Sheet& sheet) : sheet_(sheet) {}
+  void SetSize(int) override {}
   int LineHeight(PageFont) override { return kHeight; }
   int Width(PageFont, std::u16string_view text) override { return WidthOf(text); }
   void DrawLine(const PageBox& box, std::u16string_view text, const LineStyle& style) override {
@@ -38,7 +39,7 @@ class CheckedPage : public PageSurface {
     FUZZ_CHECK(text.find(u'\n') == std::u16string_view::npos);
     if (style.font == PageFont::kText && text.starts_with(kLastColumn)) ++rows;
   }
-  void DrawRule(int, int, int) override {}
+  void DrawRule(int, int, int, Rule) override {}
 
   std::size_t rows = 0;
 

@@ -88,7 +88,7 @@ TEST_F(Preview, ActualSizeScrollsByKeysAndAnotherPageBeginsAtItsTop) {
   const HWND view = Control(IDC_PREVIEW_PAGE);
   EXPECT_LE(Range(view, SB_VERT), 0) << "the whole page is seen";
   SetWindowPos(preview_, nullptr, 0, 0, 700, 500, SWP_NOMOVE | SWP_NOZORDER);
-  SendMessageW(Control(IDC_PREVIEW_ZOOM), CB_SETCURSEL, 2, 0);
+  SendMessageW(Control(IDC_PREVIEW_ZOOM), CB_SETCURSEL, 3, 0);
   PostMessageW(preview_, WM_COMMAND, MAKEWPARAM(IDC_PREVIEW_ZOOM, CBN_SELCHANGE),
                reinterpret_cast<LPARAM>(Control(IDC_PREVIEW_ZOOM)));
   ASSERT_TRUE(Eventually([&] { return Range(view, SB_VERT) > 100; }));

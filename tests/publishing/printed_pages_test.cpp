@@ -141,15 +141,16 @@ class ShownPages : public testing::Test {
     LOGFONTW font = {};
     wcscpy(font.lfFaceName, L"Times New Roman");
     font_ = publishing::PageFontOf(font);
+    measuring_ = std::make_unique<publishing::DcSurface>(memory_.get(), font_, publishing::DeviceScale{});
   }
   publishing::TablePages LaidOut(const publishing::Table& table) {
-    const publishing::OwnedContext memory(CreateCompatibleDC(nullptr));
-    publishing::DcSurface surface(memory.get(), font_, {});
-    return publishing::TablePages(table, kSheet, publishing::kDotsPerInch, surface);
+    return publishing::TablePages(table, kSheet, publishing::kDotsPerInch, *measuring_);
   }
   // A4 with margins of 3/4 inch.
   static constexpr publishing::Sheet kSheet = {4960, 7015, {450, 450, 4060, 6115}};
   LOGFONTW font_ = {};
+  const publishing::OwnedContext memory_{CreateCompatibleDC(nullptr)};
+  std::unique_ptr<publishing::DcSurface> measuring_;
 };
 
 // However small the page is shown and however its letters are rounded.
@@ -184,8 +185,9 @@ TEST_F(ShownPages, NothingStandsInTheMarginsAtAnySize) {
 
 // The last column ends at the right of what a table of one column needs.
 TEST_F(ShownPages, AHebrewTextStandsAtTheRightOfItsColumn) {
-  const publishing::TablePages pages =
-      LaidOut({.columns = {{"A long heading over short texts"}}, .rows = publishing::ListedTexts({{"אב"}, {"ab"}})});
+  const publishing::Table table = {.columns = {{"A long heading over short texts"}},
+                                   .rows = publishing::ListedTexts({{"אב"}, {"ab"}})};
+  const publishing::TablePages pages = LaidOut(table);
   constexpr double kScale = 0.2;
   const Picture picture(static_cast<int>(kSheet.width * kScale), static_cast<int>(kSheet.height * kScale));
   publishing::DcSurface surface(picture.dc(), font_, {kScale, kScale, {}});

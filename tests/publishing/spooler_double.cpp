@@ -42,6 +42,18 @@ BOOL WINAPI FakePrintDlgW(PRINTDLGW* dialog) {
   return TRUE;
 }
 
+BOOL WINAPI FakePageSetupDlgW(PAGESETUPDLGW* dialog) {
+  if (spooler.isReal) return REAL("comdlg32", PageSetupDlgW)(dialog);
+  if (spooler.dialogError != 0) return FALSE;
+  const RECT& margins = dialog->rtMargin;
+  Record("PageSetupDlg with " + std::to_string(margins.left) + " " + std::to_string(margins.top) + " " +
+         std::to_string(margins.right) + " " + std::to_string(margins.bottom));
+  if (spooler.chosenMargins.empty()) return FALSE;
+  dialog->rtMargin = spooler.chosenMargins.front();
+  spooler.chosenMargins.erase(spooler.chosenMargins.begin());
+  return TRUE;
+}
+
 DWORD WINAPI FakeCommDlgExtendedError() {
   return spooler.isReal ? REAL("comdlg32", CommDlgExtendedError)() : spooler.dialogError;
 }
@@ -95,6 +107,7 @@ BOOL WINAPI CountedDeleteDC(HDC dc) {
 // The linker takes these pointers of the import tables before the import libraries'.
 extern "C" {
 decltype(&PrintDlgW) __imp_PrintDlgW = FakePrintDlgW;
+decltype(&PageSetupDlgW) __imp_PageSetupDlgW = FakePageSetupDlgW;
 decltype(&CommDlgExtendedError) __imp_CommDlgExtendedError = FakeCommDlgExtendedError;
 decltype(&SetAbortProc) __imp_SetAbortProc = FakeSetAbortProc;
 decltype(&StartDocW) __imp_StartDocW = FakeStartDocW;
