@@ -1,6 +1,7 @@
 #include "publishing/core/table_rtf.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "publishing/core/column_widths.h"
 #include "publishing/core/row_passes.h"
@@ -56,7 +57,7 @@ class Writer {
     WriteBeginning();
     WriteRunningLines();
     WriteTitle();
-    if (!table_.columns.empty()) WriteHeadings();
+    if (!table_.columns.empty()) BeginTable();
     const bool isWhole = passes_.ForEach([&](const Row& row, std::size_t index) {
       if (!table_.columns.empty()) WriteRow(row, index);
     });
@@ -88,8 +89,17 @@ class Writer {
     isLandscape_ = style_.orientation == Orientation::kAutomatic
                        ? ColumnWidths(own, paper_.shortEdge - 2 * kMargin) != own
                        : style_.orientation == Orientation::kLandscape;
-    widths_ = ColumnWidths(own, (isLandscape_ ? paper_.longEdge : paper_.shortEdge) - 2 * kMargin);
+    const int room = (isLandscape_ ? paper_.longEdge : paper_.shortEdge) - 2 * kMargin;
+    widths_ = table_.rightToLeft ? Filling(ColumnWidths(own, room), room) : ColumnWidths(own, room);
     return isWhole;
+  }
+
+  // Word processors do not agree about the margin at which a table that begins at the right stands; this one reaches
+  // from margin to margin.
+  static std::vector<int> Filling(std::vector<int> widths, int room) {
+    const int total = std::accumulate(widths.begin(), widths.end(), 0);
+    for (int& width : widths) width += (room - total) / static_cast<int>(widths.size());
+    return widths;
   }
 
   void WriteBeginning() {
@@ -166,27 +176,33 @@ class Writer {
     rtf += "\\row\r\n";
   }
 
+  void BeginTable() {
+    rowDefinition_ = RowDefinition("", "", widths_);
+    groupDefinition_ = RowDefinition("", "", {std::accumulate(widths_.begin(), widths_.end(), 0)});
+    WriteHeadings();
+  }
+
   void WriteHeadings() {
     file_.text() += RowDefinition("\\trhdr", "\\clbrdrb\\brdrs\\brdrw10", widths_);
     WriteCells(bold_, "\\keepn",
                [&](std::size_t column) -> std::string_view { return table_.columns[column].heading; });
-    int width = 0;
-    for (const int of : widths_) width += of;
-    rowDefinition_ = RowDefinition("", "", widths_);
-    groupDefinition_ = RowDefinition("", "", {width});
   }
 
-  // The first row begins its page in any case: the headings stand above it.
+  // Not every word processor heeds a new page within a table, so a new table begins there. The first row's page begins
+  // in any case.
   void WriteRow(const Row& row, std::size_t index) {
-    const char* const pageBreak = row.beginsPage && index > 0 ? "\\pagebb" : "";
     std::string& rtf = file_.text();
+    if (row.beginsPage && index > 0) {
+      rtf += "\\pard\\pagebb\\sl-20\\slmult0{\\fs2\\par}\r\n";
+      WriteHeadings();
+    }
     if (row.kind == RowKind::kGroup) {
-      rtf += groupDefinition_ + "\\pard\\intbl\\keepn\\sb" + std::to_string(kAboveGroup) + pageBreak;
+      rtf += groupDefinition_ + "\\pard\\intbl\\keepn\\sb" + std::to_string(kAboveGroup);
       AppendRtfParagraph(rtf, CellOf(row, 0), {.rightToLeft = table_.rightToLeft}, bold_);
       rtf += "\\cell\r\n\\row\r\n";
     } else {
       rtf += rowDefinition_;
-      WriteCells(row.isBold ? bold_ : text_, pageBreak,
+      WriteCells(row.isBold ? bold_ : text_, "",
                  [&](std::size_t column) -> std::string_view { return CellOf(row, column); });
     }
     file_.EndPart();
