@@ -17,7 +17,14 @@ constexpr int kGroupGap = 25;
 
 // How much of what is left beside and below the rows goes between them, in percent of what is there.
 constexpr int kMostColumnSpread = 120;
-constexpr int kMostLeading = 45;
+constexpr int kMostLeading = 60;
+
+// Of the title, to what it would be otherwise, in percent.
+constexpr int kTitleSize = 140;
+
+// Below title and remarks, and above notes, in percent of a line.
+constexpr int kTitleGap = 75;
+constexpr int kNotesGap = 50;
 
 // Title, remarks and notes may take this part of the page, each of them.
 constexpr int kSurroundingShare = 3;
@@ -117,14 +124,23 @@ int OnePageLayout::HeadingHeight(const Plan& plan) const {
   return lines == 0 ? 0 : static_cast<int>(lines) * plan.metrics.text + 2 * plan.metrics.rowGap;
 }
 
+// The size of a line of title and remarks.
+int OnePageLayout::TitleSize(std::size_t text, int size) const {
+  const int larger = Percent(size, kTitleSize);
+  const bool isLarger =
+      texts_.TitleFont(text) == PageFont::kTitle && WidthAtSize(texts_.title()[text].whole, larger) <= body_.width;
+  return isLarger ? larger : size;
+}
+
 int OnePageLayout::TitleHeight(const Plan& plan) const {
   int height = 0;
   for (std::size_t text = 0; text < texts_.title().size(); ++text) {
     const PageFont font = texts_.TitleFont(text);
-    const auto lines = texts_.Lines(texts_.title()[text], font, plan.form.size, body_.width).size();
-    height += static_cast<int>(lines) * texts_.LineHeight(font, plan.form.size);
+    const int size = TitleSize(text, plan.form.size);
+    const auto lines = texts_.Lines(texts_.title()[text], font, size, body_.width).size();
+    height += static_cast<int>(lines) * texts_.LineHeight(font, size);
   }
-  return height == 0 ? 0 : height + plan.metrics.text / 2;
+  return height == 0 ? 0 : height + Percent(plan.metrics.text, kTitleGap);
 }
 
 int OnePageLayout::NotesHeight(const Plan& plan) const {
@@ -133,7 +149,7 @@ int OnePageLayout::NotesHeight(const Plan& plan) const {
     const auto lines = texts_.Lines(note, PageFont::kSmall, plan.form.size, body_.width).size();
     height += static_cast<int>(lines) * texts_.LineHeight(PageFont::kSmall, plan.form.size);
   }
-  return height == 0 ? 0 : height + plan.metrics.text / 2;
+  return height == 0 ? 0 : height + Percent(plan.metrics.text, kNotesGap);
 }
 
 // Blocks of one height, and what room is left put between columns, blocks and rows.
@@ -163,12 +179,12 @@ void OnePageLayout::Spread(Plan& plan) const {
 // Puts the lines of a plan on the page, from the top on.
 class OnePageLayout::Placer {
  public:
-  Placer(const OnePageTexts& texts, const PageBox& body, const Plan& plan) : texts_(texts), body_(body), plan_(plan) {}
+  Placer(const OnePageLayout& layout, const Plan& plan)
+      : layout_(layout), texts_(layout.texts_), body_(layout.body_), plan_(plan) {}
 
   PlacedPage Placed() {
-    PlaceLines(texts_.title(), body_.y, [this](std::size_t text) { return texts_.TitleFont(text); });
-    const int notesTop = body_.Bottom() - plan_.notesHeight + plan_.metrics.text / 2;
-    PlaceLines(texts_.notes(), notesTop, [](std::size_t) { return PageFont::kSmall; });
+    PlaceTitle();
+    PlaceNotes();
     for (std::size_t block = 0; block < plan_.starts.size(); ++block) PlaceBlock(block);
     if (plan_.starts.empty()) PlaceHeadings(BlockX(0));
     return std::move(page_);
@@ -189,24 +205,32 @@ class OnePageLayout::Placer {
     return texts_.IsRightToLeft() ? blockX + plan_.blockWidth - x - plan_.columns[column] : blockX + x;
   }
 
-  template <typename Font>
-  void PlaceLines(const std::vector<MeasuredText>& texts, int y, const Font& fontOf) {
-    for (std::size_t text = 0; text < texts.size(); ++text) {
-      const PageFont font = fontOf(text);
-      const int height = texts_.LineHeight(font, plan_.form.size);
-      y += PlaceText(texts[text], font, {body_.x, y, body_.width, height}, height);
+  void PlaceTitle() {
+    int y = body_.y;
+    for (std::size_t text = 0; text < texts_.title().size(); ++text) {
+      const PageFont font = texts_.TitleFont(text);
+      const int size = layout_.TitleSize(text, plan_.form.size);
+      y += PlaceText(texts_.title()[text], font, size, {body_.x, y, body_.width, texts_.LineHeight(font, size)});
+    }
+  }
+
+  void PlaceNotes() {
+    const int size = plan_.form.size;
+    int y = body_.Bottom() - plan_.notesHeight + Percent(plan_.metrics.text, kNotesGap);
+    for (const MeasuredText& note : texts_.notes()) {
+      const int height = texts_.LineHeight(PageFont::kSmall, size);
+      y += PlaceText(note, PageFont::kSmall, size, {body_.x, y, body_.width, height});
     }
   }
 
   // box: of the first line. The height of all lines.
-  int PlaceText(const MeasuredText& text, PageFont font, PageBox box, int lineHeight) {
+  int PlaceText(const MeasuredText& text, PageFont font, int size, PageBox box, int lineHeight = 0) {
     int height = 0;
-    for (std::u16string& line : texts_.Lines(text, font, plan_.form.size, box.width)) {
-      height += lineHeight;
-      if (!line.empty()) {
-        page_.lines.push_back({plan_.form.size, box, std::move(line), {font, text.place, text.rightToLeft}});
-      }
-      box.y += lineHeight;
+    for (std::u16string& line : texts_.Lines(text, font, size, box.width)) {
+      if (!line.empty()) page_.lines.push_back({size, box, std::move(line), {font, text.place, text.rightToLeft}});
+      const int step = std::max(lineHeight, box.height);
+      height += step;
+      box.y += step;
     }
     return height;
   }
@@ -221,8 +245,8 @@ class OnePageLayout::Placer {
       const MeasuredText& heading = texts_.headings()[column];
       const int width = plan_.columns[column];
       const auto lines = texts_.Lines(heading, PageFont::kHeading, plan_.form.size, width).size();
-      PlaceText(heading, PageFont::kHeading,
-                {ColumnX(x, column), foot - static_cast<int>(lines) * height, width, height}, height);
+      const int y = foot - static_cast<int>(lines) * height;
+      PlaceText(heading, PageFont::kHeading, plan_.form.size, {ColumnX(x, column), y, width, height});
     }
     page_.rules.push_back({x, foot + plan_.metrics.rowGap, plan_.blockWidth, Rule::kThin});
     return top + plan_.headingHeight;
@@ -255,10 +279,11 @@ class OnePageLayout::Placer {
       const int height = texts_.LineHeight(font, plan_.form.size);
       // Letters of either size stand on one base line, which is about four fifths below the top of a line.
       const int top = y + std::max(line - height, 0) * 4 / 5;
-      PlaceText(row.cells[cell], font, {left, top, width, height}, line);
+      PlaceText(row.cells[cell], font, plan_.form.size, {left, top, width, height}, line);
     }
   }
 
+  const OnePageLayout& layout_;
   const OnePageTexts& texts_;
   const PageBox& body_;
   const Plan& plan_;
@@ -269,7 +294,7 @@ PlacedPage OnePageLayout::Place(const OnePageForm& form) const {
   std::optional<Plan> plan = PlanOf(form);
   if (!plan) return {};
   Spread(*plan);
-  return Placer(texts_, body_, *plan).Placed();
+  return Placer(*this, *plan).Placed();
 }
 
 }  // namespace publishing

@@ -59,6 +59,7 @@ class OnePageLayout {
   std::optional<std::vector<int>> ColumnsIn(int width, const OnePageForm& form, int columnGap) const;
   std::vector<BlockRow> RowsOf(const Plan& plan) const;
   int HeadingHeight(const Plan& plan) const;
+  int TitleSize(std::size_t text, int size) const;
   int TitleHeight(const Plan& plan) const;
   int NotesHeight(const Plan& plan) const;
   void Spread(Plan& plan) const;
