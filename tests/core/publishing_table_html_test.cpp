@@ -82,7 +82,7 @@ TEST(TableHtml, RowsStandInBodiesByGroup) {
             "</tr>\n"
             "<tr class=\"bold\">\n"
             "<td data-label=\"A\"><bdi>3</bdi></td>\n"
-            "<td data-label=\"B\"><bdi></bdi></td>\n"
+            "<td data-label=\"B\"></td>\n"
             "</tr>\n"
             "<tr class=\"bold page\">\n"
             "<td data-label=\"A\"><bdi>4</bdi></td>\n"
@@ -139,6 +139,12 @@ TEST(TableHtml, OnlyNamesOfLanguagesAreLanguages) {
   for (const char* text : {"", "-", "he-", "-he", "e\"n", "a b", "abcdefghi", "he--il"}) {
     EXPECT_FALSE(IsLanguageTag(text)) << text;
   }
+}
+
+// Empty elements are warnings of tidy's, and rows of a card that say nothing.
+TEST(TableHtml, WhereThereIsNothingToShowThereIsNoElement) {
+  EXPECT_EQ(BodyOf({.title = "\x01", .remarks = {"", "\x02"}}), "<main>\n");
+  EXPECT_EQ(OfCell({}, "\x1B"), "<td>");
 }
 
 }  // namespace
