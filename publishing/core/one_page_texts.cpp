@@ -40,7 +40,7 @@ OnePageTexts::OnePageTexts(const Table& table, PageSurface& surface, const Progr
   for (const std::string& remark : table.remarks) title_.push_back(MeasuredLine(remark, PageFont::kText));
   for (MeasuredText& line : title_) line.place = Place::kCenter;
   for (const std::string& note : table.notes) notes_.push_back(MeasuredLine(note, PageFont::kSmall));
-  ReadRows(table, progress);
+  if (!headings_.empty()) ReadRows(table, progress);  // without columns nothing of them is seen
 }
 
 void OnePageTexts::ReadRows(const Table& table, const Progress& progress) {
