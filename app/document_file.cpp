@@ -11,8 +11,8 @@
 #include "publishing/core/table_text.h"
 #include "publishing/utc_now.h"
 #include "win/file_sink.h"
-#include "win/save_dialog.h"
 #include "win/message_box.h"
+#include "win/save_dialog.h"
 #include "win/scoped.h"
 #include "win/unicode_text.h"
 

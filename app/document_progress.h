@@ -5,8 +5,8 @@
 
 #include <cstddef>
 
-// Shown over its owner once half a second has gone by. Until it ends the owner takes no input, and no other message than
-// those of its own windows is handled, so that what is written cannot change.
+// Shown over its owner once half a second has gone by. Until it ends the owner takes no input, and no other message
+// than those of its own windows is handled, so that what is written cannot change.
 class DocumentProgress {
  public:
   explicit DocumentProgress(HWND owner);

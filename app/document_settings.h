@@ -11,7 +11,6 @@
 #include "app/core/door_year.h"
 #include "publishing/core/table_rtf.h"
 
-
 // Every call of a getter reads afresh. What cannot be stored, or must not be since the file cannot be read, is not, and
 // nothing is said of it: the file or the paper is what the user wants.
 class DocumentSettings {

@@ -82,8 +82,8 @@ std::optional<uint32_t> PrintDialog::Year() const {
 
 void PrintDialog::Preview(const TakenDocument& document, publishing::PaperLayout layout) const {
   const publishing::Table table = DocumentTable(document.source(), contents_->Choice());
-  publishing::PrintedTable printed{.table = table, .font = {}, .documentName = WideOf(table.title, CP_UTF8),
-                                   .layout = layout};
+  publishing::PrintedTable printed{
+      .table = table, .font = {}, .documentName = WideOf(table.title, CP_UTF8), .layout = layout};
   lstrcpynW(printed.font.lfFaceName, kFace, LF_FACESIZE);
   printed.font.lfCharSet = DEFAULT_CHARSET;
   const std::string stored = settings_.PageSetup();
@@ -144,5 +144,6 @@ INT_PTR CALLBACK PrintDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARA
 
 void RunPrintCalendarDialog(HWND frame, HWND document) {
   PrintDialog print(document);
-  DialogBoxParamW(GetModuleHandleW(nullptr), L"PRINTCALENDAR", frame, PrintDialogProc, reinterpret_cast<LPARAM>(&print));
+  DialogBoxParamW(GetModuleHandleW(nullptr), L"PRINTCALENDAR", frame, PrintDialogProc,
+                  reinterpret_cast<LPARAM>(&print));
 }

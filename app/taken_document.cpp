@@ -185,9 +185,9 @@ int32_t TakenDocument::ZmanDayOffset(const ZmanimDay& day, uint32_t zman) const 
       HoursCalculate2(nullptr, place.latitude, place.longitude, place.zoneHours, place.zoneMinutes, date.uDay,
                       date.uMonth, date.uYear, zman, sunrise.hour, sunrise.minute, sunset.hour, sunset.minute);
   if (calculated < 0) return 0;
-  const int32_t offset = OptionalEntries.HoursGetDayOffset(
-      place.latitude, place.longitude, place.zoneHours, place.zoneMinutes, date.uDay, date.uMonth, date.uYear, zman,
-      sunrise.hour, sunrise.minute, sunset.hour, sunset.minute);
+  const int32_t offset = OptionalEntries.HoursGetDayOffset(place.latitude, place.longitude, place.zoneHours,
+                                                           place.zoneMinutes, date.uDay, date.uMonth, date.uYear, zman,
+                                                           sunrise.hour, sunrise.minute, sunset.hour, sunset.minute);
   const int32_t shown = day.times[zman].hour * kMinutesPerHour + day.times[zman].minute;
   const int32_t earlier = calculated + offset * kMinutesPerDay - shown;  // than the time on the date itself
   if (earlier > kMinutesPerDay / 2) return 1;

@@ -1,5 +1,5 @@
-// A document's blocks, brought up to date and copied: what is made of them stays itself whatever happens to the document
-// meanwhile.
+// A document's blocks, brought up to date and copied: what is made of them stays itself whatever happens to the
+// document meanwhile.
 #pragma once
 
 #include <windows.h>

@@ -13,8 +13,8 @@ struct Extension {
   DocumentType type;
 };
 
-constexpr Extension kExtensions[] = {{"html", DocumentType::kHtml}, {"htm", DocumentType::kHtml},
-                                     {"rtf", DocumentType::kRtf},   {"csv", DocumentType::kCsv},
+constexpr Extension kExtensions[] = {{"html", DocumentType::kHtml},    {"htm", DocumentType::kHtml},
+                                     {"rtf", DocumentType::kRtf},      {"csv", DocumentType::kCsv},
                                      {"ics", DocumentType::kCalendar}, {"txt", DocumentType::kText}};
 
 std::string InSmallLetters(std::string_view text) {

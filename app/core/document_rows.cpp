@@ -68,7 +68,8 @@ class DocumentRows : public publishing::Rows {
 
 DocumentRows::DocumentRows(const DocumentSource& source, const DocumentChoice& choice)
     : source_(source), choice_(choice), texts_(source.formatTime) {
-  const int32_t days = source.services.AbsoluteDay(source.range.end) - source.services.AbsoluteDay(source.range.start) + 1;
+  const int32_t days =
+      source.services.AbsoluteDay(source.range.end) - source.services.AbsoluteDay(source.range.start) + 1;
   const bool hasMonths = choice.kind == DocumentKind::kDoorPage || days > kDaysWithoutMonths;
   if (hasMonths && !choice.forSpreadsheet) AddMonths();
 }
@@ -164,10 +165,10 @@ void DocumentRows::ReadDay(const ZmanimDay& day, Row& row) const {
   row.isBold = weekday == kSaturday;
   row.cells = {Weekday(number), Date(day.date), Jewish(number)};
   if (choice_.kind == DocumentKind::kZmanim) return AddZmanim(&day, row);
-  const ShabbatTimeEntry* const ofFriday =
-      weekday == kFriday     ? ShabbatTimesOf(source_, day.date)
-      : weekday == kSaturday ? ShabbatTimesOf(source_, source_.services.Gregorian(number - 1))
-                             : nullptr;
+  const ShabbatTimeEntry* const ofFriday = weekday == kFriday ? ShabbatTimesOf(source_, day.date)
+                                           : weekday == kSaturday
+                                               ? ShabbatTimesOf(source_, source_.services.Gregorian(number - 1))
+                                               : nullptr;
   row.cells.push_back(PortionOf(source_, day.date));
   row.cells.push_back(ofFriday && weekday == kFriday ? Candles(*ofFriday) : std::string());
   AddZmanim(&day, row);
@@ -178,19 +179,16 @@ void DocumentRows::ReadReadings(const ReadingsEntry& entry, Row& row) const {
   const DocumentServices& services = source_.services;
   const int32_t number = services.AbsoluteDay(entry.date);
   std::string torah;
-  for (const char* const text : {entry.torah1, entry.torah2, entry.torah3}) AppendLine(torah, services.OfReadings(text));
+  for (const char* const text : {entry.torah1, entry.torah2, entry.torah3})
+    AppendLine(torah, services.OfReadings(text));
   std::string haftarah;
   for (const char* const text : {entry.haftarah1, entry.haftarah2, entry.haftarah3}) {
     AppendLine(haftarah, services.OfReadings(text));
   }
   AppendLine(torah, services.OfWestern(entry.extraText));
   row.isBold = WeekdayOf(number) == kSaturday;
-  row.cells = {Date(entry.date),
-               Weekday(number),
-               Jewish(number),
-               std::move(torah),
-               std::move(haftarah),
-               entry.isYizkor != 0 ? source_.yizkor : std::string()};
+  row.cells = {Date(entry.date), Weekday(number),     Jewish(number),
+               std::move(torah), std::move(haftarah), entry.isYizkor != 0 ? source_.yizkor : std::string()};
 }
 
 }  // namespace
@@ -212,7 +210,8 @@ std::vector<publishing::Column> ColumnsOfDocument(const DocumentSource& source, 
   const auto add = [&](Word word) { columns.push_back({.heading = std::string(WordOf(word, choice.language))}); };
   const auto addAll = [&](std::initializer_list<Word> words) { std::ranges::for_each(words, add); };
   const auto addZmanim = [&] {
-    for (const uint32_t zman : choice.zmanim) columns.push_back({.heading = ZmanName(source, zman, choice.hebrewZmanim)});
+    for (const uint32_t zman : choice.zmanim)
+      columns.push_back({.heading = ZmanName(source, zman, choice.hebrewZmanim)});
   };
   switch (choice.kind) {
     case DocumentKind::kShabbatTimes:

@@ -14,7 +14,8 @@ auto Order(const CalendarDate& date) {
 template <typename Entry, typename DateOf>
 const Entry* Find(std::span<const Entry> entries, const CalendarDate& date, DateOf dateOf) {
   const auto key = Order(date);
-  const auto found = std::ranges::lower_bound(entries, key, {}, [&](const Entry& entry) { return Order(dateOf(entry)); });
+  const auto found =
+      std::ranges::lower_bound(entries, key, {}, [&](const Entry& entry) { return Order(dateOf(entry)); });
   return found != entries.end() && Order(dateOf(*found)) == key ? &*found : nullptr;
 }
 
