@@ -25,6 +25,7 @@ void LookUpOptionalEntries() {
   LookUp("hours.dll", "HoursGetDefinition", entries.HoursGetDefinition);
   LookUp("hours.dll", "HoursGetFingerprint", entries.HoursGetFingerprint);
   LookUp("lections.dll", "LectionsGetChoice", entries.LectionsGetChoice);
+  LookUp("lections.dll", "LectionsGetCustomName", entries.LectionsGetCustomName);
   LookUp("lections.dll", "LectionsGetReadingsBy", entries.LectionsGetReadingsBy);
   LookUp("lections.dll", "LectionsHasOwnNumbers", entries.LectionsHasOwnNumbers);
   LookUp("lections.dll", "LectionsIsYizkorBy", entries.LectionsIsYizkorBy);

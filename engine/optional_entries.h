@@ -19,6 +19,7 @@ struct OptionalEntryPoints {
   decltype(&::LectionsGetReadingsBy) LectionsGetReadingsBy;
   decltype(&::LectionsIsYizkorBy) LectionsIsYizkorBy;
 
+  decltype(&::LectionsGetCustomName) LectionsGetCustomName;
   decltype(&::LectionsHasOwnNumbers) LectionsHasOwnNumbers;
   decltype(&::OwnHoursDoDialog) OwnHoursDoDialog;
   decltype(&::ProfileCanRead) ProfileCanRead;

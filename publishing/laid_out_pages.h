@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "publishing/core/pages.h"
+#include "publishing/core/progress.h"
 #include "publishing/dc_surface.h"
 #include "publishing/preview_window.h"
 
@@ -32,6 +33,9 @@ class LaidOutPages {
   const LOGFONTW& font() const { return font_; }
 
  private:
+  LayingOut LayOutOnSeveral(const Sheet& sheet, const Progress& progress);
+  LayingOut LayOutOnOne(const Sheet& sheet, const Progress& progress);
+
   const PrintedTable& printed_;
   LOGFONTW font_;
   OwnedContext memory_;  // its surface measures, for pages that are drawn too

@@ -33,7 +33,10 @@ constexpr INT_PTR kShown = 1;  // of the dialog; 0 when it could not be made
 class Preview {
  public:
   Preview(const PrintedTable& printed, PageSetup& setup)
-      : printed_(printed), setup_(setup), printer_(setup), laidOut_(printed) {}
+      : printed_(printed),
+        setup_(setup),
+        printer_(setup, printed.layout == PaperLayout::kOnePage ? kOnePageMargins : kUsualMargins),
+        laidOut_(printed) {}
 
   // Before it is shown. False: the user cancelled, or has been told why there is nothing to show.
   bool LayOutFirst(HWND owner);

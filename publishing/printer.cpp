@@ -83,7 +83,7 @@ DeviceScale ScaleOf(HDC printer) {
           {-GetDeviceCaps(printer, PHYSICALOFFSETX), -GetDeviceCaps(printer, PHYSICALOFFSETY)}};
 }
 
-Printer::Printer(PageSetup& setup) : setup_(setup) {
+Printer::Printer(PageSetup& setup, const PageMargins& usual) : setup_(setup), usual_(usual) {
   const ScopedWaitCursor wait;  // a printer of the network may take its time
   PRINTDLGW defaults{};
   defaults.lStructSize = sizeof defaults;
@@ -141,9 +141,9 @@ void Printer::Measure() {
 }
 
 Sheet Printer::WithMargins(int width, int height, const RECT& printable) const {
-  PageBox body = BodyIn(width, height, printable, MarginsOf(setup_));
+  PageBox body = BodyIn(width, height, printable, MarginsOf(setup_, usual_));
   // They may be meant for other paper.
-  if (!LeaveRoom(body, width, height)) body = BodyIn(width, height, printable, kUsualMargins);
+  if (!LeaveRoom(body, width, height)) body = BodyIn(width, height, printable, usual_);
   return {width, height, body};
 }
 
@@ -192,7 +192,8 @@ bool Printer::TurnPaper() {
 }
 
 bool Printer::HasRoom() const {
-  const PageBox body = BodyIn(sheet_.width, sheet_.height, {0, 0, sheet_.width, sheet_.height}, MarginsOf(setup_));
+  const PageBox body =
+      BodyIn(sheet_.width, sheet_.height, {0, 0, sheet_.width, sheet_.height}, MarginsOf(setup_, usual_));
   return LeaveRoom(body, sheet_.width, sheet_.height);
 }
 
@@ -209,7 +210,7 @@ bool Printer::AskSetup(HWND owner) {
     return std::clamp(MulDiv(units, kHundredthsInAnInch, unitsInAnInch), 0, kMostMargin);
   };
   for (;;) {
-    const PageMargins margins = MarginsOf(setup_);
+    const PageMargins margins = MarginsOf(setup_, usual_);
     PAGESETUPDLGW dialog{};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = owner;
@@ -229,7 +230,7 @@ bool Printer::AskSetup(HWND owner) {
     }
     const RECT& told = dialog.rtMargin;
     setup_.margins = {fromDialog(told.left), fromDialog(told.top), fromDialog(told.right), fromDialog(told.bottom)};
-    if (setup_.margins == kUsualMargins) setup_.margins = {};
+    if (setup_.margins == usual_) setup_.margins = {};
     StorePaper(before);
     Measure();
     if (HasRoom()) return true;

@@ -13,8 +13,8 @@ namespace publishing {
 // printer, the paper that was chosen, or that is usual where the user lives.
 class Printer {
  public:
-  // setup: what holds at first. The dialogs' choices are stored there.
-  explicit Printer(PageSetup& setup);
+  // setup: what holds at first. The dialogs' choices are stored there. usual: margins where none have been chosen.
+  Printer(PageSetup& setup, const PageMargins& usual);
   ~Printer();
   Printer(const Printer&) = delete;
   Printer& operator=(const Printer&) = delete;
@@ -59,6 +59,7 @@ class Printer {
   bool HasRoom() const;
 
   PageSetup& setup_;
+  PageMargins usual_;
   HGLOBAL mode_ = nullptr;
   HGLOBAL names_ = nullptr;
   Sheet sheet_ = {};

@@ -38,7 +38,7 @@ caption { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-pa
 th, td { padding: .4rem .75rem; text-align: start; vertical-align: top; white-space: pre-line; }
 thead th { vertical-align: bottom; border-bottom: 2px solid var(--ink); background: var(--page); }
 tbody td { border-bottom: 1px solid var(--line); }
-tbody tr:nth-child(even of :not(.group)) td { background: var(--band); }
+tbody tr:nth-child(even) td { background: var(--band); }
 .group th { padding-top: 1.5rem; font-size: 1.1rem; border-bottom: 1px solid var(--ink); }
 .bold { font-weight: bold; }
 .end { text-align: end; }
@@ -52,7 +52,7 @@ tbody tr:nth-child(even of :not(.group)) td { background: var(--band); }
   tbody tr:not(.group) { background: var(--band); }
   tbody tr.group { margin-top: 1.5rem; padding: 0; border: 0; }
   .group th { padding: 0 .1rem .25rem; border: 0; }
-  tbody tr td, tbody tr:nth-child(even of :not(.group)) td {
+  tbody tr:nth-child(n) td {
     display: flex;
     justify-content: space-between;
     gap: 1rem;
@@ -62,7 +62,7 @@ tbody tr:nth-child(even of :not(.group)) td { background: var(--band); }
   }
   td::before { content: attr(data-label); flex: none; max-width: 50%; color: var(--soft); font-weight: normal; }
   td bdi { min-width: 0; text-align: end; overflow-wrap: anywhere; }
-  td:has(bdi:empty) { display: none !important; }
+  tbody tr:nth-child(n) td:empty { display: none; }
 }
 @media print {
   :root { color-scheme: light; --ink: #000; --soft: #333; --line: #bbb; --band: transparent; --page: #fff; }

@@ -134,13 +134,13 @@ void CalendarWriter::WriteTimes(const Event& event) {
 }
 
 void CalendarWriter::WriteCategories(const std::vector<std::string>& categories) {
-  line_ = "CATEGORIES:";
-  const std::size_t empty = line_.size();
+  line_.clear();
   for (const std::string& category : categories) {
-    if (line_.size() > empty) line_ += ',';
+    if (category.empty()) continue;
+    line_ += line_.empty() ? "CATEGORIES:" : ",";
     AppendEscaped(line_, category);
   }
-  if (line_.size() > empty) WriteFolded();
+  if (!line_.empty()) WriteFolded();
 }
 
 // RFC 5545, 3.6.6: an alarm that is shown has a text of its own.

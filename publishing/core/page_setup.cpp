@@ -25,8 +25,8 @@ bool TakeNumber(std::string_view& text, int most, int& number) {
 
 }  // namespace
 
-PageMargins MarginsOf(const PageSetup& setup) {
-  return setup.margins == PageMargins{} ? kUsualMargins : setup.margins;
+PageMargins MarginsOf(const PageSetup& setup, const PageMargins& usual) {
+  return setup.margins == PageMargins{} ? usual : setup.margins;
 }
 
 std::string TextOf(const PageSetup& setup) {

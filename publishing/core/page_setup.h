@@ -18,7 +18,8 @@ struct PageMargins {
   friend bool operator==(const PageMargins&, const PageMargins&) = default;
 };
 
-constexpr PageMargins kUsualMargins = {1905, 1905, 1905, 1905};  // 3/4 inch
+constexpr PageMargins kUsualMargins = {1905, 1905, 1905, 1905};    // 3/4 inch
+constexpr PageMargins kOnePageMargins = {1270, 1270, 1270, 1270};  // 1/2 inch: the usual ones where all is on one page
 
 // No margin is wider.
 constexpr int kMostMargin = 20000;
@@ -30,8 +31,8 @@ struct PageSetup {
   friend bool operator==(const PageSetup&, const PageSetup&) = default;
 };
 
-// The margins that hold: the usual ones for all 0.
-PageMargins MarginsOf(const PageSetup& setup);
+// The margins that hold. usual: for all 0.
+PageMargins MarginsOf(const PageSetup& setup, const PageMargins& usual);
 
 // For a settings file: orientation, paper and the four margins as numbers, "2 9 1500 1500 1500 1500".
 std::string TextOf(const PageSetup& setup);

@@ -26,7 +26,7 @@ class Writer {
 
   bool Write() {
     WriteHead();
-    if (!table_.title.empty()) WriteElement("h1", table_.title);
+    WriteElement("h1", table_.title);
     for (const std::string& remark : table_.remarks) WriteElement("p", remark);
     if (!table_.columns.empty() && !WriteTable()) return false;
     for (const std::string& note : table_.notes) WriteElement("p", note);
@@ -60,13 +60,34 @@ class Writer {
 
   void WriteElement(std::string_view name, const std::string& text) {
     std::string& html = file_.text();
+    const std::size_t begin = html.size();
     html += '<';
     html += name;
-    html += "><bdi>";
-    AppendHtml(html, text);
-    html += "</bdi></";
+    html += '>';
+    const bool isThere = AppendIsolated(text, Direction::kNeutral);
+    html += "</";
     html += name;
     html += ">\n";
+    if (!isThere) html.resize(begin);
+  }
+
+  // Whether anything is there to be shown; where not, nothing is appended.
+  bool AppendIsolated(const std::string& text, Direction direction) {
+    std::string& html = file_.text();
+    const std::size_t begin = html.size();
+    html += "<bdi";
+    if (direction != Direction::kNeutral) {
+      html += " dir=\"";
+      html += NameOf(direction);
+      html += '"';
+    }
+    html += '>';
+    const std::size_t beginOfText = html.size();
+    AppendHtml(html, text);
+    const bool isThere = html.size() > beginOfText;
+    if (!isThere) html.resize(begin);
+    if (isThere) html += "</bdi>";
+    return isThere;
   }
 
   bool WriteTable() {
@@ -104,9 +125,9 @@ class Writer {
     const bool beginsPage = row.beginsPage && index > 0;
     if (isGroup) {
       html += beginsPage ? "<tr class=\"group page\">\n" : "<tr class=\"group\">\n";
-      html += "<th colspan=\"" + std::to_string(table_.columns.size()) + "\" scope=\"rowgroup\"><bdi>";
-      AppendHtml(html, CellOf(row, 0));
-      html += "</bdi></th>\n";
+      html += "<th colspan=\"" + std::to_string(table_.columns.size()) + "\" scope=\"rowgroup\">";
+      AppendIsolated(CellOf(row, 0), Direction::kNeutral);
+      html += "</th>\n";
     } else {
       constexpr const char* kBeginnings[] = {"<tr>\n", "<tr class=\"bold\">\n", "<tr class=\"page\">\n",
                                              "<tr class=\"bold page\">\n"};
@@ -128,15 +149,9 @@ class Writer {
     html += name;
     html += attributes;
     if (isTurned == (column.align == Align::kStart)) html += " class=\"end\"";
-    html += "><bdi";
-    if (column.direction != Direction::kNeutral) {
-      html += " dir=\"";
-      html += NameOf(column.direction);
-      html += '"';
-    }
     html += '>';
-    AppendHtml(html, text);
-    html += "</bdi></";
+    AppendIsolated(text, column.direction);
+    html += "</";
     html += name;
     html += ">\n";
   }

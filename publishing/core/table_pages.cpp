@@ -178,7 +178,7 @@ void TablePages::WrapNotes() {
 TablePages::Cells TablePages::CellsOf(const Row& row) const {
   if (row.kind == RowKind::kGroup) {
     const auto most = static_cast<std::size_t>(std::max(sheet_.body.height / kHeadingShare / textLine_, 1));
-    return {Wrapped(CellOf(row, 0), PageFont::kHeading, TableWidth(), most)};
+    return {Wrapped(CellOf(row, 0), PageFont::kHeading, GroupWidth(CellOf(row, 0)), most)};
   }
   const TextWidths& widths = row.isBold ? boldWidths_ : textWidths_;
   const MeasureText measure = [&widths](std::u16string_view text) { return widths.Measure(text); };
@@ -246,6 +246,12 @@ void TablePages::PlanNotes() {
   for (std::size_t first = 0; first < notes_.size(); first += onPage) {
     notePages_.push_back({first, std::min(onPage, notes_.size() - first)});
   }
+}
+
+// As wide as the table, or as the page where that is not enough.
+int TablePages::GroupWidth(const std::string& text) const {
+  const int width = TableWidth();
+  return boldWidths_.Of(text).whole <= width ? width : sheet_.body.width;
 }
 
 int TablePages::TableWidth() const {

@@ -63,6 +63,7 @@ class TablePages : public Pages {
   int HeadingHeight() const;
   int TitleHeight() const;
   int TableWidth() const;
+  int GroupWidth(const std::string& text) const;
   bool IsBold(const Row& row) const { return row.isBold || row.kind == RowKind::kGroup; }
   Block Wrapped(const std::string& text, PageFont font, int width, std::size_t mostLines) const;
   Cells CellsOf(const Row& row) const;

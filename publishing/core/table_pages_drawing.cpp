@@ -104,7 +104,9 @@ int TablePages::DrawRows(PageSurface& surface, const PlannedPage& page, int y) c
     const bool hasHair = !isFirst && !isGroup && !afterGroup && columns_.size() >= kWideTable;
     if (hasHair) surface.DrawRule(left, y - rowGap_ / 2, TableWidth(), Rule::kHair);
     if (isGroup) {
-      DrawBlock(surface, cells.front(), font, slice, {left, y, TableWidth(), textLine_});
+      const int width = GroupWidth(CellOf(row, 0));
+      const int x = table_.rightToLeft ? left + TableWidth() - width : left;
+      DrawBlock(surface, cells.front(), font, slice, {x, y, width, textLine_});
     } else {
       DrawCells(surface, cells, font, slice, y);
     }

@@ -20,9 +20,9 @@ TEST(PageSetup, AnyOtherTextIsNoChoice) {
   }
 }
 
-TEST(PageSetup, WithoutMarginsThoseOfThreeQuartersOfAnInchHold) {
-  EXPECT_EQ(MarginsOf({}), (PageMargins{1905, 1905, 1905, 1905}));
-  EXPECT_EQ(MarginsOf({.margins = {0, 0, 0, 500}}), (PageMargins{0, 0, 0, 500}));
+TEST(PageSetup, WithoutMarginsTheUsualOnesHold) {
+  EXPECT_EQ(MarginsOf({}, kUsualMargins), (PageMargins{1905, 1905, 1905, 1905}));
+  EXPECT_EQ(MarginsOf({.margins = {0, 0, 0, 500}}, kUsualMargins), (PageMargins{0, 0, 0, 500}));
 }
 
 }  // namespace

@@ -3,10 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
 #include "publishing/core/unicode.h"
+#include "tests/core/recorded_page.h"
 
 namespace publishing {
 namespace {
@@ -18,43 +18,6 @@ using testing::SizeIs;
 
 constexpr int kDotsPerInch = 80;  // gaps of 10 dots between columns, 1 between rows
 constexpr Sheet kSheet = {400, 300, {50, 40, 300, 200}};
-
-struct DrawnLine {
-  PageBox box;
-  std::u16string text;
-  LineStyle style;
-};
-
-// Characters are 10 wide and 20 high, in headings 12 wide; those of the title are 20 wide and 30 high.
-class RecordedPage : public PageSurface {
- public:
-  void SetSize(int size) override { size_ = size; }
-  int LineHeight(PageFont font) override { return font == PageFont::kTitle ? 30 : 20; }
-  int Width(PageFont font, std::u16string_view text) override {
-    const auto count = std::count_if(text.begin(), text.end(), [](char16_t unit) { return !IsCombining(unit); });
-    return static_cast<int>(count) * (font == PageFont::kTitle ? 20 : font == PageFont::kHeading ? 12 : 10);
-  }
-  void DrawLine(const PageBox& box, std::u16string_view text, const LineStyle& style) override {
-    EXPECT_LE(Width(style.font, text), std::max(box.width, 12));
-    lines.push_back({box, std::u16string(text), style});
-  }
-  void DrawRule(int x, int y, int width, Rule rule) override {
-    (rule == Rule::kThin ? rules : hairs).push_back({x, y, width, 1});
-  }
-
-  std::vector<std::u16string> Texts() const {
-    std::vector<std::u16string> texts;
-    for (const DrawnLine& line : lines) texts.push_back(line.text);
-    return texts;
-  }
-
-  std::vector<DrawnLine> lines;
-  std::vector<PageBox> rules;
-  std::vector<PageBox> hairs;
-
- private:
-  int size_ = kUsualSize;
-};
 
 std::vector<RecordedPage> PagesOf(const Table& table, const Sheet& sheet = kSheet) {
   RecordedPage measuring;
@@ -142,6 +105,163 @@ TEST(TablePages, TitleAndHeadingsLeaveRoomForRows) {
 TEST(TablePages, ATableWithoutColumnsOrRowsIsAPage) {
   EXPECT_THAT(PagesOf({})[0].Texts(), ElementsAre(u"Page 1 of 1"));
   EXPECT_THAT(PagesOf({.title = "T", .columns = {{"A"}}})[0].Texts(), ElementsAre(u"T", u"A", u"Page 1 of 1"));
+}
+
+TEST(TablePages, AGroupStandsBoldAcrossTheTableAndKeepsToItsRows) {
+  Table table = TableOfRows(0);
+  std::vector<Row> rows;
+  for (int row = 1; row <= 5; ++row) rows.push_back({.cells = {"r" + std::to_string(row), "1"}});
+  rows.push_back({.cells = {"Month"}, .kind = RowKind::kGroup});
+  rows.push_back({.cells = {"r6", "2"}, .isBold = true});
+  table.rows = Listed(rows);
+  const auto pages = PagesOf(table);
+  ASSERT_EQ(pages.size(), 2u);
+  EXPECT_THAT(pages[1].Texts(), ElementsAre(u"N", u"Y", u"Month", u"r6", u"2", u"Page 2 of 2"));
+  EXPECT_EQ(pages[1].Line(u"Month").style, (LineStyle{PageFont::kHeading, Place::kLeft, false}));
+  EXPECT_EQ(pages[1].Line(u"r6").style.font, PageFont::kHeading);
+  EXPECT_EQ(pages[1].Line(u"Month").box, (PageBox{50, 62, 300, 20})) << "below headings of 22, as wide as it needs";
+}
+
+TEST(TablePages, ARowCanBeginAPage) {
+  Table table = TableOfRows(0);
+  table.rows = Listed({{.cells = {"r1", "1"}}, {.cells = {"r2", "2"}, .beginsPage = true}});
+  EXPECT_EQ(PagesOf(table).size(), 2u);
+}
+
+TEST(TablePages, OtherPagesHaveTheRunningHeadWhereTheFirstHasTheTitle) {
+  Table table = TableOfRows(7);
+  table.runningHead = "Aachen, 5787";
+  const auto pages = PagesOf(table);
+  ASSERT_EQ(pages.size(), 2u);
+  EXPECT_THAT(pages[0].Texts(), testing::Not(Contains(u"Aachen, 5787")));
+  EXPECT_EQ(pages[1].Line(u"Aachen, 5787").box, (PageBox{50, 40, 300, 16}));
+  EXPECT_EQ(pages[1].Line(u"Aachen, 5787").style.font, PageFont::kSmall);
+  EXPECT_EQ(pages[1].Line(u"N").box.y, 40 + 16 + 5) << "half a gap below it";
+}
+
+TEST(TablePages, ThePagesNumberIsInTheTablesWords) {
+  Table table = TableOfRows(1);
+  table.pageText = "עמוד %1 מתוך %2";
+  EXPECT_EQ(PagesOf(table)[0].Line(u"עמוד 1 מתוך 1").style, (LineStyle{PageFont::kText, Place::kCenter, true}));
+}
+
+// Six rows have room on the first page. A gap of 10 and a line of 20 are more than a row.
+TEST(TablePages, NotesStandTogetherBelowTheLastRow) {
+  Table table = TableOfRows(2);
+  table.notes = {"first note", "הערה"};
+  const auto one = PagesOf(table);
+  ASSERT_EQ(one.size(), 1u);
+  EXPECT_EQ(one[0].Line(u"first note").box.y, 40 + 40 + 22 + 2 * 21 + 10);
+  EXPECT_EQ(one[0].Line(u"הערה").style, (LineStyle{PageFont::kText, Place::kRight, true}));
+  table.rows = TableOfRows(5).rows;
+  const auto two = PagesOf(table);
+  ASSERT_EQ(two.size(), 2u);
+  EXPECT_THAT(two[1].Texts(), ElementsAre(u"first note", u"הערה", u"Page 2 of 2")) << "no headings without rows";
+}
+
+TEST(TablePages, NotesThatNoPageCanHoldGoOnOnTheNext) {
+  Table table = TableOfRows(1);
+  table.notes.assign(20, "note");
+  const auto pages = PagesOf(table);
+  EXPECT_EQ(pages.size(), 4u) << "eight lines of 20 to a page of 170";
+  std::size_t notes = 0;
+  for (const RecordedPage& page : pages) {
+    for (const DrawnLine& line : page.lines) notes += line.text == u"note" ? 1 : 0;
+  }
+  EXPECT_EQ(notes, 20u);
+}
+
+TEST(TablePages, TheFirstColumnOfATableFromRightToLeftIsAtTheRight) {
+  Table table = {.title = "לוח", .columns = {{"תאריך"}, {"שעה"}, {"סוף", Align::kEnd}}, .rightToLeft = true};
+  table.rows = ListedTexts({{"אב", "12:30", "5"}});
+  const auto pages = PagesOf(table);
+  const DrawnLine date = pages[0].Line(u"אב");
+  const DrawnLine time = pages[0].Line(u"12:30");
+  EXPECT_EQ(date.box.Right(), kSheet.body.Right());
+  EXPECT_EQ(time.box.Right(), date.box.x - 10) << "a gap";
+  EXPECT_EQ(time.style, (LineStyle{PageFont::kText, Place::kRight, false}));
+  EXPECT_EQ(pages[0].Line(u"5").style.place, Place::kLeft) << "the end is where the table ends";
+  EXPECT_EQ(pages[0].rules.at(0).Right(), kSheet.body.Right());
+  EXPECT_EQ(pages[0].Line(u"לוח").style.place, Place::kRight);
+}
+
+TEST(TablePages, AColumnsDirectionIsThatOfAllItsTexts) {
+  const Table table = {.columns = {{.heading = "N", .direction = Direction::kLeftToRight},
+                                   {.heading = "S", .direction = Direction::kRightToLeft}},
+                       .rows = ListedTexts({{"משה", "12:30"}})};
+  const auto pages = PagesOf(table);
+  EXPECT_EQ(pages[0].Line(u"משה").style, (LineStyle{PageFont::kText, Place::kLeft, false}));
+  EXPECT_EQ(pages[0].Line(u"12:30").style, (LineStyle{PageFont::kText, Place::kRight, true}));
+}
+
+// Eight columns of five characters are 400 dots and their gaps 70, of 300: with half the gaps and letters of 62 % all
+// words are whole.
+TEST(TablePages, LettersGetSmallerBeforeWordsAreBroken) {
+  Table table;
+  std::vector<std::string> times;
+  for (int column = 0; column < 8; ++column) {
+    table.columns.push_back({"T"});
+    times.push_back("12:3" + std::to_string(column));
+  }
+  table.rows = ListedTexts({times, times});
+  const auto pages = PagesOf(table);
+  for (const std::string& time : times) {
+    const DrawnLine line = pages[0].Line(Utf16Of(time));
+    EXPECT_LT(line.size, kUsualSize);
+    EXPECT_GT(line.size, 550);
+    EXPECT_LE(line.box.Right(), kSheet.body.Right());
+  }
+  EXPECT_THAT(pages[0].hairs, SizeIs(1)) << "between the rows";
+}
+
+TEST(TablePages, AWordThatNoPageCanHoldDoesNotMakeAllOthersSmall) {
+  Table table = TableOfRows(1);
+  table.columns.push_back({"Remark"});
+  table.rows = ListedTexts({{"r1", "1", std::string(100, 'x')}});
+  EXPECT_EQ(PagesOf(table)[0].Line(u"r1").size, kUsualSize);
+}
+
+TEST(TablePages, TheProgressCanEndTheLayingOut) {
+  const Table table = TableOfRows(500);
+  RecordedPage measuring;
+  std::size_t last = 0;
+  std::size_t all = 0;
+  const Progress goOn = [&](std::size_t done, std::size_t total) {
+    EXPECT_GE(done, last);
+    EXPECT_LE(done, total);
+    last = done;
+    all = total;
+    return true;
+  };
+  EXPECT_FALSE(TablePages(table, kSheet, kDotsPerInch, measuring, goOn).IsCancelled());
+  EXPECT_GT(last, all * 9 / 10);
+  for (std::size_t limit = 0; limit < all; limit += 100) {
+    const Progress end = [limit](std::size_t done, std::size_t) { return done < limit; };
+    EXPECT_TRUE(TablePages(table, kSheet, kDotsPerInch, measuring, end).IsCancelled()) << limit;
+  }
+}
+
+// Rows that tell how often they are read.
+class CountedRows : public Rows {
+ public:
+  std::size_t Count() const override { return 1000; }
+  void Read(std::size_t index, Row& row) const override {
+    ++reads;
+    row = {.cells = {std::to_string(index)}};
+  }
+  mutable std::size_t reads = 0;
+};
+
+TEST(TablePages, OnlyTheRowsOfAPageAreReadForIt) {
+  const auto rows = std::make_shared<CountedRows>();
+  const Table table = {.columns = {{"N"}}, .rows = rows};
+  RecordedPage measuring;
+  const TablePages pages(table, kSheet, kDotsPerInch, measuring);
+  EXPECT_LE(rows->reads, 2000u);
+  rows->reads = 0;
+  RecordedPage page;
+  pages.Draw(page, 100);
+  EXPECT_EQ(rows->reads, 7u) << "that have room on a page";
 }
 
 // Tables of every shape on sheets of every size: each row once and in order, nothing outside the body, no two texts on

@@ -28,13 +28,13 @@ void PreviewTest::TearDown() {
   if (run_) Close();
 }
 
-HWND PreviewTest::Open(publishing::Table table) {
+HWND PreviewTest::Open(publishing::Table table, publishing::PaperLayout layout) {
   table_ = std::move(table);
-  run_ = std::make_unique<DialogDriver>([this](HWND owner) {
+  run_ = std::make_unique<DialogDriver>([this, layout](HWND owner) {
     LOGFONTW font = {};
     font.lfHeight = -13;
     wcscpy(font.lfFaceName, L"Times New Roman");
-    publishing::PreviewTable(owner, {table_, font, L"Names"});
+    publishing::PreviewTable(owner, {table_, font, L"Names", layout}, setup_);
     return 0;
   });
   preview_ = run_->WaitFor(L"Names - Print Preview");

@@ -19,7 +19,7 @@ class PreviewTest : public testing::Test {
   void TearDown() override;
 
   // Opens the preview of a table and waits for it.
-  HWND Open(publishing::Table table);
+  HWND Open(publishing::Table table, publishing::PaperLayout layout = publishing::PaperLayout::kTable);
   void Close();
 
   // As a key is pressed there, until the page has this number: "Page 2 of 5".
@@ -30,4 +30,5 @@ class PreviewTest : public testing::Test {
   std::unique_ptr<DialogDriver> run_;
   HWND preview_ = nullptr;
   publishing::Table table_;
+  publishing::PageSetup setup_;  // what the preview is given, and what it leaves
 };

@@ -10,6 +10,7 @@
 #include "publishing/dc_surface.h"
 #include "tests/contract/picker_driver.h"
 #include "tests/publishing/preview_fixture.h"
+#include "tests/publishing/year_table.h"
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -90,6 +91,72 @@ TEST_F(PrintedPages, EveryNameIsPrintedOnceInEveryScript) {
     const std::string expected = "Page " + std::to_string(page) + " of " + std::to_string(pages);
     EXPECT_EQ(CountOf(text, expected), 1u) << expected;
   }
+}
+
+// Every week of the year in its own line, on one page.
+class PrintedYear : public PrintedPages {
+ protected:
+  std::string Print(const YearWords& words, publishing::PaperOrientation orientation, int paper) {
+    setup_.orientation = orientation;
+    setup_.paper = paper;
+    Open(YearTable(words), publishing::PaperLayout::kOnePage);
+    EXPECT_EQ(Number(), L"Page 1 of 1");
+    Press(preview_, IDC_PREVIEW_PRINT);
+    Press(run_->WaitFor(L"Print"), IDOK);
+    return Printed();
+  }
+
+  void ExpectTheYear(const std::string& text) {
+    EXPECT_EQ(CountOf(text, "\f"), 1u) << "pages";
+    publishing::ForEachRow(table_, [&](const publishing::Row& row) {
+      const auto& cells = row.cells;
+      if (row.kind == publishing::RowKind::kGroup) return;
+      EXPECT_EQ(CountOf(text, cells[2]), 1u) << cells[2];
+      EXPECT_THAT(LineWith(text, cells[2]), AllOf(HasSubstr(cells[0]), HasSubstr(cells[3])));
+    });
+  }
+};
+
+TEST_F(PrintedYear, EnglishOnA4) {
+  const std::string text = Print(EnglishYear(), publishing::PaperOrientation::kPortrait, DMPAPER_A4);
+  ExpectTheYear(text);
+  EXPECT_THAT(LineWith(text, "16:01"), HasSubstr("Pesach Shabbat Chol ha-Moed"));
+}
+
+TEST_F(PrintedYear, EnglishOnLetterAcross) {
+  const std::string text = Print(EnglishYear(), publishing::PaperOrientation::kLandscape, DMPAPER_LETTER);
+  ExpectTheYear(text);
+  EXPECT_THAT(LineWith(text, "16:02"), HasSubstr("Acharei Mot-Kedoshim"));
+}
+
+TEST_F(PrintedYear, HebrewOnLetter) {
+  const std::string text = Print(HebrewYear(), publishing::PaperOrientation::kPortrait, DMPAPER_LETTER);
+  ExpectTheYear(text);
+  EXPECT_THAT(LineWith(text, "16:05"), HasSubstr("חיי שרה"));
+}
+
+TEST_F(PrintedYear, HebrewOnA4Across) {
+  const std::string text = Print(HebrewYear(), publishing::PaperOrientation::kLandscape, DMPAPER_A4);
+  ExpectTheYear(text);
+}
+
+TEST_F(PrintedYear, RussianOnA4) {
+  const std::string text = Print(RussianYear(), publishing::PaperOrientation::kPortrait, DMPAPER_A4);
+  ExpectTheYear(text);
+  EXPECT_THAT(LineWith(text, "16:01"), HasSubstr("Песах, Шаббат Холь а-Моэд"));
+}
+
+TEST_F(PrintedYear, HebrewOnSeveralPages) {
+  publishing::Table table = YearTable(HebrewYear());
+  table.runningHead = "ירושלים תשפ״ז";
+  table.pageText = "עמוד %1 מתוך %2";
+  Open(std::move(table));
+  EXPECT_EQ(Number(), L"Page 1 of 2");
+  Press(preview_, IDC_PREVIEW_PRINT);
+  Press(run_->WaitFor(L"Print"), IDOK);
+  const std::string text = Printed();
+  EXPECT_EQ(CountOf(text, "\f"), 2u);
+  EXPECT_EQ(CountOf(text, "הדלקת נרות"), 3u) << "headings and the note";
 }
 
 // A picture of dots, white at first.

@@ -129,7 +129,7 @@ std::string CalendarOfTimes(const Table& table) {
                       .end = MomentOf(date, row.cells[last]),
                       .summary = row.cells[1],
                       .location = "Jerusalem, ירושלים; Israel",
-                      .categories = {"Shabbat, times", "שבת"},
+                      .categories = {"Shabbat", "שבת; זמנים"},
                       .alarmMinutesBefore = 18});
   });
   return CalendarOf("Shabbat times", events, {{2026, 11, 2}, 7, 5, 9});
