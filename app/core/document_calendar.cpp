@@ -127,6 +127,7 @@ void Calendar::AddWeek(const ShabbatTimeEntry& entry) {
 }
 
 void Calendar::AddZmanim(const ZmanimDay& day) {
+  const std::string about = About(day.date);
   for (const uint32_t zman : choice_.zmanim) {
     ClockTime time = day.times[zman];
     if (!IsTime(time)) continue;
@@ -134,7 +135,7 @@ void Calendar::AddZmanim(const ZmanimDay& day) {
     AddMoment(day.date, time,
               {.uid = Uid(day.date, kZman + source_.zmanim[zman].english),
                .summary = ZmanName(source_, zman, choice_.hebrewZmanim),
-               .description = About(day.date),
+               .description = about,
                .categories = {"Zmanim"}});
   }
 }
