@@ -93,6 +93,18 @@ TEST_F(PrintedPages, EveryNameIsPrintedOnceInEveryScript) {
   }
 }
 
+TEST_F(PrintedPages, TheMarginsHoldForThePrinterToo) {
+  setup_.margins = {6000, 6000, 6000, 6000};
+  Open(TableOfNames(300));
+  const std::wstring number = Number();
+  Press(preview_, IDC_PREVIEW_PRINT);
+  Press(run_->WaitFor(L"Print"), IDOK);
+  const std::string text = Printed();
+  EXPECT_EQ(number, L"Page 1 of " + std::to_wstring(CountOf(text, "\f")));
+  EXPECT_GT(CountOf(text, "\f"), 6u) << "the pages with the usual margins";
+  EXPECT_EQ(CountOf(text, "ראובן"), 300u);
+}
+
 // Every week of the year in its own line, on one page.
 class PrintedYear : public PrintedPages {
  protected:

@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int kHundredthsInAnInch = 2540;
+
 SpoolerScript spooler;
 std::mutex callsMutex;  // the test looks at them while the job runs
 std::vector<std::string> calls;
@@ -45,11 +47,16 @@ BOOL WINAPI FakePrintDlgW(PRINTDLGW* dialog) {
 BOOL WINAPI FakePageSetupDlgW(PAGESETUPDLGW* dialog) {
   if (spooler.isReal) return REAL("comdlg32", PageSetupDlgW)(dialog);
   if (spooler.dialogError != 0) return FALSE;
-  const RECT& margins = dialog->rtMargin;
-  Record("PageSetupDlg with " + std::to_string(margins.left) + " " + std::to_string(margins.top) + " " +
-         std::to_string(margins.right) + " " + std::to_string(margins.bottom));
+  const int inch = (dialog->Flags & PSD_INTHOUSANDTHSOFINCHES) ? 1000 : kHundredthsInAnInch;
+  std::string call = "PageSetupDlg with";
+  for (const LONG margin :
+       {dialog->rtMargin.left, dialog->rtMargin.top, dialog->rtMargin.right, dialog->rtMargin.bottom}) {
+    call += " " + std::to_string(MulDiv(margin, kHundredthsInAnInch, inch));
+  }
+  Record(call);
   if (spooler.chosenMargins.empty()) return FALSE;
-  dialog->rtMargin = spooler.chosenMargins.front();
+  const int chosen = MulDiv(spooler.chosenMargins.front(), inch, kHundredthsInAnInch);
+  dialog->rtMargin = {chosen, chosen, chosen, chosen};
   spooler.chosenMargins.erase(spooler.chosenMargins.begin());
   return TRUE;
 }
