@@ -10,6 +10,7 @@
 #include "benchmarks/kinship_bench.h"
 #include "benchmarks/languages_bench.h"
 #include "benchmarks/measured.h"
+#include "benchmarks/pages_bench.h"
 #include "benchmarks/start_up_bench.h"
 #include "benchmarks/zmanim_bench.h"
 #include "companion/profile.h"
@@ -165,6 +166,7 @@ int main() {
     MeasureExports(home);
     MeasureLanguages(home);
     MeasureKinship(home);
+    MeasurePages();
   }
   return MeasureStartUp() ? 0 : 1;
 }
