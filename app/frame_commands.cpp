@@ -8,8 +8,10 @@
 #include "app/export_commands.h"
 #include "app/open_document.h"
 #include "app/own_times_dialog.h"
+#include "app/print_calendar_dialog.h"
 #include "app/program.h"
 #include "app/range_dialog.h"
+#include "app/save_document_dialog.h"
 #include "app/sunset_dialog.h"
 #include "companion/candles.h"
 #include "companion/guide.h"
@@ -162,6 +164,14 @@ void Print(HWND frame) {
   if (document && IsPaneVisible(document, IDC_ZMANIM_PANE)) PrintZmanim(frame, document);
 }
 
+void SaveAsDocument(HWND frame) {
+  if (const HWND document = ActiveDocument()) RunSaveDocumentDialog(frame, document);
+}
+
+void PrintACalendar(HWND frame) {
+  if (const HWND document = ActiveDocument()) RunPrintCalendarDialog(frame, document);
+}
+
 void ShowHelp(HWND frame) {
   GuideGo(frame, "Start");
 }
@@ -201,6 +211,8 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_EXPORT_TEXT, ExportText},
     {IDM_EXPORT_RTF, ExportRtf},
     {IDM_PRINT, Print},
+    {IDM_SAVE_DOCUMENT, SaveAsDocument},
+    {IDM_PRINT_CALENDAR, PrintACalendar},
     {IDM_PRINTER_SETUP, PrinterSetup},
     {IDM_EXIT, Exit},
     {IDM_KINSHIP_FONT, KinshipFontDialog},

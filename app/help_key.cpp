@@ -15,6 +15,7 @@ constexpr char kReadings[] = "Readings";
 constexpr char kPersons[] = "Persons";
 constexpr char kExports[] = "Exports and printing";
 constexpr char kSettings[] = "Settings";
+constexpr char kDocuments[] = "Documents";
 
 struct HelpTopic {
   unsigned id;
@@ -35,6 +36,9 @@ constexpr HelpTopic kDialogTopics[] = {
     {HELPID_PRINTING, kExports},
     {HELPID_EDIT_ZMAN, kZmanim},
     {HELPID_DAF_YOMI, kPersons},
+    {HELPID_SAVE_DOCUMENT, kDocuments},
+    {HELPID_PRINT_CALENDAR, kDocuments},
+    {HELPID_SAVING_DOCUMENT, kDocuments},
     {HELPID_CANDLES, kShabbatTimes},
     {HELPID_CANDLES_ENTRY, kShabbatTimes},
     {HELPID_HOURS_SELECTION, kZmanim},

@@ -61,8 +61,9 @@ uint32_t DatefilterGetHolidayFirstYear(uint32_t index);
 
 /* The name of a month of a year in a language into name, a buffer of size bytes; reserved is 0. Languages: 1 English,
  * 3 German, 4 Hebrew, 5 French, 6 Danish, 7 Finnish, 8 Swedish, 9 Dutch, 10 Spanish, 11 Norwegian, 12 Portuguese, 14
- * Hungarian, 20 Italian, 21 Polish; any other answers the English name. Names are in windows-1252, Hungarian and Polish
- * ones in windows-1250, Hebrew ones in windows-1255. Size 0 or a null buffer does nothing. */
+ * Hungarian, 15 Czech, 16 Greek, 17 Russian, 20 Italian, 21 Polish; any other answers the English name. Names are in
+ * windows-1252, Hungarian, Czech and Polish ones in windows-1250, Hebrew ones in windows-1255, Greek ones in
+ * windows-1253, Russian ones in windows-1251. Size 0 or a null buffer does nothing. */
 void DatefilterGetMonthNameEx(uint32_t month, uint32_t reserved, char* name, uint32_t size, uint32_t year,
                               uint32_t language);
 

@@ -50,6 +50,12 @@ int32_t HoursCalculate2(HWND document, int32_t latitude, int32_t longitude, int3
                         uint32_t day, uint32_t month, uint32_t year, uint32_t index, int32_t sunriseHour,
                         int32_t sunriseMinute, int32_t sunsetHour, int32_t sunsetMinute);
 
+/* On which civil day HoursCalculate2's answer to the same question is: 0 on the date itself, 1 on the next one, -1 on
+ * the one before; 0 for a zman that does not occur. The library may be older than this entry: look it up by name. */
+int32_t HoursGetDayOffset(int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes, uint32_t day,
+                          uint32_t month, uint32_t year, uint32_t index, int32_t sunriseHour, int32_t sunriseMinute,
+                          int32_t sunsetHour, int32_t sunsetMinute);
+
 /* The modal dialog in which the user chooses zmanim, orders them and makes zmanim of their own; the times that it shows
  * are those of today at the given place, in the form of times that the user has chosen. owner may be null. OK writes
  * the choice at once and whole, joined with what another process has stored since the dialog opened; the user is asked

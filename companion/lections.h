@@ -59,6 +59,11 @@ int32_t LectionsIsYizkorBy(uint32_t choice, uint32_t day, uint32_t month, uint32
 /* The word for Yizkor into text, a buffer of 256 bytes: windows-1252 in every language, at most 10 bytes. */
 void LectionsGetYizkor(char* text);
 
+/* The word for a custom, 0 to 2, that stands in the texts where the customs differ ("Sephardi"), into text, a buffer of
+ * 256 bytes, in the charset of LectionsGetFont2. Nonzero when there is such a custom; else text is left untouched. The
+ * library may be older than this entry: look it up by name. */
+int32_t LectionsGetCustomName(uint32_t custom, char* text);
+
 /* The font that the texts are to be drawn in. */
 void LectionsGetFont2(LectionsFont* font);
 

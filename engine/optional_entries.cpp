@@ -21,9 +21,11 @@ void LookUp(const char* library, const char* name, Function& entry) {
 void LookUpOptionalEntries() {
   OptionalEntryPoints& entries = OptionalEntries;
   LookUp("candles.dll", "CandlesDoDialogAt", entries.CandlesDoDialogAt);
+  LookUp("hours.dll", "HoursGetDayOffset", entries.HoursGetDayOffset);
   LookUp("hours.dll", "HoursGetDefinition", entries.HoursGetDefinition);
   LookUp("hours.dll", "HoursGetFingerprint", entries.HoursGetFingerprint);
   LookUp("lections.dll", "LectionsGetChoice", entries.LectionsGetChoice);
+  LookUp("lections.dll", "LectionsGetCustomName", entries.LectionsGetCustomName);
   LookUp("lections.dll", "LectionsGetReadingsBy", entries.LectionsGetReadingsBy);
   LookUp("lections.dll", "LectionsHasOwnNumbers", entries.LectionsHasOwnNumbers);
   LookUp("lections.dll", "LectionsIsYizkorBy", entries.LectionsIsYizkorBy);
@@ -36,4 +38,5 @@ void LookUpOptionalEntries() {
 void LookUpSolarEntries() {
   LookUp("solar.dll", "SolarDescribeZone", OptionalEntries.SolarDescribeZone);
   LookUp("solar.dll", "SolarDoSummerTimeDialog", OptionalEntries.SolarDoSummerTimeDialog);
+  LookUp("solar.dll", "SolarGetClockOffset", OptionalEntries.SolarGetClockOffset);
 }

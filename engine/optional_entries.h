@@ -11,6 +11,7 @@
 
 struct OptionalEntryPoints {
   decltype(&::CandlesDoDialogAt) CandlesDoDialogAt;
+  decltype(&::HoursGetDayOffset) HoursGetDayOffset;
   decltype(&::HoursGetDefinition) HoursGetDefinition;
   decltype(&::HoursGetFingerprint) HoursGetFingerprint;
   // These three are there together or not at all.
@@ -18,12 +19,14 @@ struct OptionalEntryPoints {
   decltype(&::LectionsGetReadingsBy) LectionsGetReadingsBy;
   decltype(&::LectionsIsYizkorBy) LectionsIsYizkorBy;
 
+  decltype(&::LectionsGetCustomName) LectionsGetCustomName;
   decltype(&::LectionsHasOwnNumbers) LectionsHasOwnNumbers;
   decltype(&::OwnHoursDoDialog) OwnHoursDoDialog;
   decltype(&::ProfileCanRead) ProfileCanRead;
   decltype(&::ProfileGetFolder) ProfileGetFolder;
   decltype(&::SolarDescribeZone) SolarDescribeZone;
   decltype(&::SolarDoSummerTimeDialog) SolarDoSummerTimeDialog;
+  decltype(&::SolarGetClockOffset) SolarGetClockOffset;
 };
 
 extern OptionalEntryPoints OptionalEntries;

@@ -158,3 +158,10 @@ bool RenewReadings(HWND document) {
   }
   return true;
 }
+
+HGLOBAL MakeReadings(const DateRange& range, uint32_t choice) {
+  const auto built = Build(range, LongRange::kCutSilently, choice);
+  if (!built) return nullptr;
+  if (built->form) GlobalFree(built->form);
+  return built->readings;
+}

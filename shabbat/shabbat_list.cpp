@@ -66,8 +66,9 @@ void ComputeEntry(const Location& place, const CandleOverrideRecord& candles, in
   Store(EndOfShabbat(place, saturday, sunset), entry.endHour, entry.endMinute);
 }
 
-// Null when there is no memory for it.
-HGLOBAL BuildList(const Location& place, const DateRange& range, const CandleOverrideRecord& candles) {
+}  // namespace
+
+HGLOBAL MakeShabbatTimes(const Location& place, const DateRange& range, const CandleOverrideRecord& candles) {
   const int32_t firstDay = AbsoluteFromDate(range.start);
   const FridayCount fridays = CountFridays(firstDay, AbsoluteFromDate(range.end));
   if (fridays.tooMany) ShowStop(nullptr, TableString(IDS_TOO_MANY_SHABBAT_TIMES), TableString(IDS_TITLE));
@@ -82,9 +83,7 @@ HGLOBAL BuildList(const Location& place, const DateRange& range, const CandleOve
   return block;
 }
 
-}  // namespace
-
 void ComputeShabbatTimes(HWND document, const Location& place, const DateRange& range,
                          const CandleOverrideRecord& candles) {
-  ReplaceBlockProperty(document, property::kShabbatTimes, BuildList(place, range, candles));
+  ReplaceBlockProperty(document, property::kShabbatTimes, MakeShabbatTimes(place, range, candles));
 }

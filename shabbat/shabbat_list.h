@@ -9,3 +9,6 @@
 // on the rest. Too many Fridays are reported, and the list is cut.
 void ComputeShabbatTimes(HWND document, const Location& place, const DateRange& range,
                          const CandleOverrideRecord& candles);
+
+// The same as a block of its own, which the caller frees; null without memory.
+HGLOBAL MakeShabbatTimes(const Location& place, const DateRange& range, const CandleOverrideRecord& candles);

@@ -7,7 +7,7 @@ wine_packages="wine wine64 fonts-wine xvfb xauth imagemagick"
 # The installer, the signing of files, and a certificate to try it with.
 packaging_packages="nsis osslsigncode openssl python3-minimal"
 test_packages="g++ googletest zlib1g-dev python3-minimal clang libclang-rt-14-dev
-  libreoffice-writer-nogui libreoffice-calc-nogui fontconfig poppler-utils python3-icalendar"
+  libreoffice-writer-nogui libreoffice-calc-nogui fontconfig poppler-utils python3-icalendar python3-vobject tidy"
 # A print server of the tests' own, and what turns its jobs into files and text.
 printing_packages="cups-daemon ghostscript poppler-utils"
 benchmark_packages="g++ libbenchmark-dev zlib1g-dev"

@@ -10,7 +10,10 @@
 // only when all of it is on the disk: until then an older file stays whole, and without Commit nothing is left behind.
 class FileSink : public TextSink {
  public:
+  // In the system's 8-bit characters, and no longer than their functions take.
   explicit FileSink(const char* path);
+  // In any script, of any length.
+  explicit FileSink(const wchar_t* path);
   ~FileSink() override;
   FileSink(const FileSink&) = delete;
   FileSink& operator=(const FileSink&) = delete;
@@ -22,12 +25,13 @@ class FileSink : public TextSink {
   bool Commit();
 
  private:
-  void Open(const char* path);
+  void Open(const std::wstring& path, const std::wstring& folder);
+  void CreateBeside(const std::wstring& folder);
   void WriteBuffer();
   void CloseFile();
 
-  std::string path_;    // whole, as the system reads the name
-  std::string beside_;  // while it is there
+  std::wstring path_;    // whole, as the system reads the name
+  std::wstring beside_;  // while it is there
   HANDLE file_ = INVALID_HANDLE_VALUE;
   std::string buffer_;
   bool failed_ = false;

@@ -10,15 +10,21 @@ namespace calendar {
 namespace {
 
 // The byte of a letter beyond ASCII: the codes of Latin-1 stand in both Latin code pages, and the further letters that
-// the names below need have one code each, wherever they occur. Hebrew letters are those of windows-1255.
+// the names below need have one code each, wherever they occur. Hebrew letters are those of windows-1255, Greek ones
+// those of windows-1253, Cyrillic ones those of windows-1251.
 consteval char ByteOf(char32_t letter) {
   switch (letter) {
     case U'š': return '\x9A';  // windows-1252 and -1250
     case U'ń': return '\xF1';  // windows-1250
     case U'ź': return '\x9F';  // windows-1250
+    case U'č': return '\xE8';  // windows-1250
+    case U'ě': return '\xEC';  // windows-1250
+    case U'ř': return '\xF8';  // windows-1250
     case U'׳': return '\xD7';  // geresh, windows-1255
     default:
       if (letter >= U'א' && letter <= U'ת') return static_cast<char>(letter - U'א' + 0xE0);
+      if (letter >= U'Έ' && letter <= U'ώ') return static_cast<char>(letter - U'Έ' + 0xB8);
+      if (letter >= U'А' && letter <= U'я') return static_cast<char>(letter - U'А' + 0xC0);
       return letter <= 0xFF ? static_cast<char>(letter) : throw "a letter without a byte";
   }
 }
@@ -34,7 +40,8 @@ struct Name {
   }
 };
 
-// Forms and spellings: Unicode CLDR 48, except the English ones, which are those customary in prayer books.
+// Forms and spellings: Unicode CLDR 48, except the English ones, which are those customary in prayer books, and the
+// Jewish months in Czech, Greek and Russian, which are those of the readings.
 struct GregorianNames {
   uint32_t language;
   Name months[12];
@@ -72,6 +79,12 @@ constexpr GregorianNames kGregorianNames[] = {
           U"julho", U"agosto", U"setembro", U"outubro", U"novembro", U"dezembro"}},
     {14, {U"január", U"február", U"március", U"április", U"május", U"június",
           U"július", U"augusztus", U"szeptember", U"október", U"november", U"december"}},
+    {15, {U"leden", U"únor", U"březen", U"duben", U"květen", U"červen",
+          U"červenec", U"srpen", U"září", U"říjen", U"listopad", U"prosinec"}},
+    {16, {U"Ιανουάριος", U"Φεβρουάριος", U"Μάρτιος", U"Απρίλιος", U"Μάιος", U"Ιούνιος",
+          U"Ιούλιος", U"Αύγουστος", U"Σεπτέμβριος", U"Οκτώβριος", U"Νοέμβριος", U"Δεκέμβριος"}},
+    {17, {U"январь", U"февраль", U"март", U"апрель", U"май", U"июнь",
+          U"июль", U"август", U"сентябрь", U"октябрь", U"ноябрь", U"декабрь"}},
     {20, {U"gennaio", U"febbraio", U"marzo", U"aprile", U"maggio", U"giugno",
           U"luglio", U"agosto", U"settembre", U"ottobre", U"novembre", U"dicembre"}},
     {21, {U"styczeń", U"luty", U"marzec", U"kwiecień", U"maj", U"czerwiec",
@@ -103,6 +116,12 @@ constexpr JewishNames kJewishNames[] = {
           U"Heshvan", U"Kislev", U"Tevet", U"Shevat", U"Adar", U"Adar I", U"Adar II"}},
     {14, {U"Niszán", U"Ijár", U"Sziván", U"Tamuz", U"Áv", U"Elul", U"Tisri",
           U"Hesván", U"Kiszlév", U"Tévész", U"Svát", U"Ádár", U"Ádár I", U"Ádár II"}},
+    {15, {U"nisan", U"ijar", U"sivan", U"tamuz", U"av", U"elul", U"tišri",
+          U"chešvan", U"kislev", U"tevet", U"ševat", U"adar", U"adar I", U"adar II"}},
+    {16, {U"Νισάν", U"Ιγιάρ", U"Σιβάν", U"Ταμούζ", U"Αβ", U"Έλουλ", U"Τισρί",
+          U"Χεσβάν", U"Κισλέφ", U"Τέβετ", U"Σεβάτ", U"Αντάρ", U"Αντάρ I", U"Αντάρ II"}},
+    {17, {U"Нисан", U"Ияр", U"Сиван", U"Тамуз", U"Ав", U"Элул", U"Тишрей",
+          U"Хешван", U"Кислев", U"Тевет", U"Шват", U"Адар", U"Адар I", U"Адар II"}},
     {20, {U"Nisan", U"Iyar", U"Sivan", U"Tamuz", U"Av", U"Elul", U"Tishri",
           U"Heshvan", U"Kislev", U"Tevet", U"Shevat", U"Adar", U"Adar I", U"Adar II"}},
     {21, {U"Nisan", U"Ijar", U"Siwan", U"Tamuz", U"Aw", U"Elul", U"Tiszri",

@@ -10,6 +10,7 @@ constexpr Topic kTopics[] = {
     {"Places", "places.html"},     {"Accuracy", "accuracy.html"},
     {"Zmanim", "zmanim.html"},     {"Readings", "readings.html"},
     {"Persons", "persons.html"},   {"Exports and printing", "exports.html"},
+    {"Documents", "documents.html"},
     {"Settings", "settings.html"},
 };
 

@@ -64,6 +64,20 @@ hours::ZmanDay& DayFor(const DayQuestion& question) {
   return *known.zmanim;
 }
 
+constexpr int64_t kMinutesPerDay = 24 * 60;
+
+// A zman of the selection on the clock in force, in minutes after midnight of 1970-01-01; nothing when it does not
+// occur or there is no such zman.
+std::optional<int64_t> ClockMinute(const DayQuestion& question, uint32_t index) {
+  const hours::SelectionLock selection;
+  if (index >= selection.Zmanim().size()) return std::nullopt;
+  return DayFor(question).ClockMinute(selection.Zmanim()[index].definition);
+}
+
+hours::ShownSun ShownSunOf(int32_t sunriseHour, int32_t sunriseMinute, int32_t sunsetHour, int32_t sunsetMinute) {
+  return {int64_t{sunriseHour} * 60 + sunriseMinute, int64_t{sunsetHour} * 60 + sunsetMinute};
+}
+
 // The text that one of the zmanim has; 0 when there is no such zman.
 int32_t Answer(uint32_t index, std::string hours::AnsweredZman::*text, char* buffer) {
   if (!buffer) return 0;
@@ -122,16 +136,25 @@ void HoursGetFingerprint(uint32_t fingerprint[2]) try {
 int32_t HoursCalculate2(HWND, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes, uint32_t day,
                         uint32_t month, uint32_t year, uint32_t index, int32_t sunriseHour, int32_t sunriseMinute,
                         int32_t sunsetHour, int32_t sunsetMinute) try {
-  const hours::SelectionLock selection;
-  if (index >= selection.Zmanim().size()) return HOURS_NONE;
-  const hours::ShownSun shown = {int64_t{sunriseHour} * 60 + sunriseMinute, int64_t{sunsetHour} * 60 + sunsetMinute};
-  hours::ZmanDay& zmanim = DayFor({{latitude, longitude, zoneHours, zoneMinutes}, day, month, year, shown});
-  const std::optional<int64_t> minute = zmanim.ClockMinute(selection.Zmanim()[index].definition);
+  const hours::ShownSun shown = ShownSunOf(sunriseHour, sunriseMinute, sunsetHour, sunsetMinute);
+  const auto minute = ClockMinute({{latitude, longitude, zoneHours, zoneMinutes}, day, month, year, shown}, index);
   if (!minute) return HOURS_NONE;
-  constexpr int64_t kMinutesPerDay = 24 * 60;
   return static_cast<int32_t>((*minute % kMinutesPerDay + kMinutesPerDay) % kMinutesPerDay);
 } catch (...) {
   return HOURS_NONE;
+}
+
+int32_t HoursGetDayOffset(int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes, uint32_t day,
+                          uint32_t month, uint32_t year, uint32_t index, int32_t sunriseHour, int32_t sunriseMinute,
+                          int32_t sunsetHour, int32_t sunsetMinute) try {
+  const hours::ShownSun shown = ShownSunOf(sunriseHour, sunriseMinute, sunsetHour, sunsetMinute);
+  const auto minute = ClockMinute({{latitude, longitude, zoneHours, zoneMinutes}, day, month, year, shown}, index);
+  if (!minute) return 0;
+  const int64_t midnight = sun::UnixDayOfDate(day, month, year) * kMinutesPerDay;
+  const int64_t ofDate = *minute - midnight;
+  return static_cast<int32_t>(ofDate < 0 ? -((kMinutesPerDay - 1 - ofDate) / kMinutesPerDay) : ofDate / kMinutesPerDay);
+} catch (...) {
+  return 0;
 }
 
 void HoursDoDialogInitLoc(HWND owner, int32_t latitude, int32_t longitude, int32_t zoneHours, int32_t zoneMinutes) try {

@@ -14,25 +14,31 @@
 namespace kinship {
 namespace {
 
-publishing::RtfFont RtfFontOfChoice() {
+publishing::RtfStyle RtfStyleOfChoice() {
   const auto font = StoredFont();
   if (!font) return {"Arial"};
   return {dialogs::ToUtf8(font->lfFaceName), HalfPointsOf(*font)};
 }
 
+void WriteCalendar(const std::vector<publishing::Event>& events, TextSink& sink) {
+  publishing::CalendarWriter calendar(sink, "Birthdays and Yahrzeit", publishing::UtcNow());
+  for (const publishing::Event& event : events) calendar.Add(event);
+  calendar.Finish();
+}
+
 }  // namespace
 
 std::string ExportedText(const std::vector<persons::Person>& people, const Shown& shown, const ExportRequest& request) {
+  StringSink file;
   switch (request.choice.format) {
-    case Format::kText: return publishing::TextOf(TableOf(people, shown));
-    case Format::kRtf: return publishing::RtfOf(TableOf(people, shown), RtfFontOfChoice());
-    case Format::kCsv: return publishing::CsvOf(CsvTableOf(people, shown));
+    case Format::kText: publishing::WriteText(TableOf(people, shown), file); break;
+    case Format::kRtf: publishing::WriteRtf(TableOf(people, shown), RtfStyleOfChoice(), file); break;
+    case Format::kCsv: publishing::WriteCsv(CsvTableOf(people, shown), file); break;
     case Format::kCalendar:
-      return publishing::CalendarOf("Birthdays and Yahrzeit",
-                                    EventsOf(people, shown.ofYahrzeit, request.firstYear, request.choice.years),
-                                    publishing::UtcNow());
+      WriteCalendar(EventsOf(people, shown.ofYahrzeit, request.firstYear, request.choice.years), file);
+      break;
   }
-  return {};
+  return file.text();
 }
 
 void WriteExportedFile(HWND owner, const std::wstring& path, const std::string& text) {

@@ -56,10 +56,10 @@ std::string DescriptionOf(const Person& person, const Observance& day, const cal
 publishing::Event EventOf(const Person& person, const Observance& day, const std::string& key) {
   const calendar::Date jewish = calendar::JewishFromAbsolute(day.absoluteDay);
   const calendar::Date date = calendar::GregorianFromAbsolute(day.absoluteDay);
-  return {UidOf(key, jewish),
-          {date.year, date.month, date.day},
-          SummaryOf(person, day),
-          DescriptionOf(person, day, jewish)};
+  return {.uid = UidOf(key, jewish),
+          .date = {date.year, date.month, date.day},
+          .summary = SummaryOf(person, day),
+          .description = DescriptionOf(person, day, jewish)};
 }
 
 }  // namespace

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr size_t kYizkorBuffer = 256;
+constexpr size_t kTextBuffer = 256;
 constexpr uint32_t kStoredChoice = 0;  // no choice is 0
 
 // A number that no calendar has becomes 0, which none has either.
@@ -87,9 +87,18 @@ int32_t LectionsIsYizkorBy(uint32_t choice, uint32_t day, uint32_t month, uint32
 
 void LectionsGetYizkor(char* text) try {
   if (!text) return;
-  Copy(lections::LanguageOf(lections::StoredSettings().language).plain.yizkor, text, kYizkorBuffer);
+  Copy(lections::LanguageOf(lections::StoredSettings().language).plain.yizkor, text, kTextBuffer);
 } catch (...) {
   text[0] = '\0';
+}
+
+int32_t LectionsGetCustomName(uint32_t custom, char* text) try {
+  const lections::Language& language = lections::LanguageOf(lections::StoredSettings().language);
+  if (!text || custom >= language.words.customs.size()) return 0;
+  Copy(lections::Encoded(language.words.customs[custom], language.codePage), text, kTextBuffer);
+  return 1;
+} catch (...) {
+  return 0;
 }
 
 void LectionsGetFont2(LectionsFont* font) try {

@@ -113,8 +113,11 @@ void MajorityDialog::SaveAsCalendar() {
   const std::wstring path = AskForCalendarFile(dialog_, offered);
   if (path.empty()) return;
   calendarFile_ = path;
-  const std::string text = publishing::CalendarOf(title, events, publishing::UtcNow());
-  dialogs::WriteOrTell(dialog_, path, text, L"save again");
+  StringSink file;
+  publishing::CalendarWriter calendar(file, title, publishing::UtcNow());
+  for (const publishing::Event& event : events) calendar.Add(event);
+  calendar.Finish();
+  dialogs::WriteOrTell(dialog_, path, file.text(), L"save again");
 }
 
 }  // namespace majority

@@ -124,10 +124,15 @@ std::vector<publishing::Event> EventsOf(const Child& child, std::string_view nam
   if (!age || !IsGregorianDay(age->day)) return {};
   const std::string title = TitleOf(child, name);
   std::vector<publishing::Event> events;
-  events.push_back({UidOf(title, age->birth, "day"), CivilDateOf(age->day), title, FactsOf(child, settings, own)});
+  events.push_back({.uid = UidOf(title, age->birth, "day"),
+                    .date = CivilDateOf(age->day),
+                    .summary = title,
+                    .description = FactsOf(child, settings, own)});
   if (age->shabbat == age->day) return events;
-  events.push_back({UidOf(title, age->birth, "shabbat"), CivilDateOf(age->shabbat), title + ", Shabbat",
-                    ShabbatText(age->shabbat, settings, own)});
+  events.push_back({.uid = UidOf(title, age->birth, "shabbat"),
+                    .date = CivilDateOf(age->shabbat),
+                    .summary = title + ", Shabbat",
+                    .description = ShabbatText(age->shabbat, settings, own)});
   return events;
 }
 

@@ -78,6 +78,19 @@ void SolarGetSunsetSunrise(uint32_t day, uint32_t month, uint32_t year, uint32_t
 } catch (...) {  // the outputs stay as they are
 }
 
+int32_t SolarGetClockOffset(uint32_t day, uint32_t month, uint32_t year, int32_t minuteOfDay, int32_t latitude,
+                            int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes) try {
+  constexpr int64_t kSecondsOfMinute = 60;
+  constexpr int64_t kSecondsOfDay = 24 * 60 * kSecondsOfMinute;
+  const std::lock_guard lock(mutex);
+  const sun::PackedPlace place = {latitude, longitude, timeZoneHours, timeZoneMinutes};
+  const sun::PlaceSettings& settings = knownPlace.Read({ProfileGetInt, ProfileGetString}, place);
+  const int64_t midnight = sun::UnixDayOfDate(day, month, year) * kSecondsOfDay;
+  return sun::ClockOffsetShowing(settings.clock, midnight + minuteOfDay * kSecondsOfMinute);
+} catch (...) {
+  return 0;
+}
+
 uint32_t SolarDescribeZone(int32_t latitude, int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes,
                            char* buffer, uint32_t size) try {
   if (!buffer || size == 0) return 0;

@@ -12,6 +12,17 @@ int32_t ClockOffsetSeconds(const PlaceClock& clock, double utcSeconds) {
   return UtcOffsetSeconds(clock.zoneId.data(), unixSeconds).value_or(clock.standardOffsetSeconds);
 }
 
+int32_t ClockOffsetShowing(const PlaceClock& clock, int64_t clockSeconds) {
+  // No clock changes twice within two days and a half, and none is a day or more from UTC.
+  constexpr int64_t kDay = 24 * 60 * 60;
+  const int32_t before = ClockOffsetSeconds(clock, static_cast<double>(clockSeconds - kDay));
+  const int32_t after = ClockOffsetSeconds(clock, static_cast<double>(clockSeconds + kDay));
+  for (const int32_t offset : {before, after}) {
+    if (ClockOffsetSeconds(clock, static_cast<double>(clockSeconds - offset)) == offset) return offset;
+  }
+  return before;
+}
+
 int64_t NearestMinute(double utcSeconds, int32_t offsetSeconds) {
   return static_cast<int64_t>(std::floor((utcSeconds + offsetSeconds) / 60 + 0.5));
 }

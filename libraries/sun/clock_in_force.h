@@ -11,6 +11,11 @@ namespace sun {
 // its zone's from 1970 on, the standard offset before and where there is no zone.
 int32_t ClockOffsetSeconds(const PlaceClock& clock, double utcSeconds);
 
+// The offset from UTC, in seconds, of the clock in force when it shows a time, counted in seconds since its own
+// 1970-01-01 00:00. Of a time that it shows twice, as it is put back, the first; one that is left out, as it is put
+// forward, is told by the clock as it was before.
+int32_t ClockOffsetShowing(const PlaceClock& clock, int64_t clockSeconds);
+
 // The minute, counted since 1970-01-01 00:00 of a clock so many seconds ahead of UTC, that is nearest to a moment (half
 // a minute goes up) or the first that is not before it.
 int64_t NearestMinute(double utcSeconds, int32_t offsetSeconds);

@@ -3,6 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "publishing/core/formula_guard.h"
+#include "publishing/core/plain_text.h"
+#include "publishing/core/row_passes.h"
+#include "publishing/core/sink_buffer.h"
+
 namespace publishing {
 namespace {
 
@@ -18,11 +23,14 @@ bool NeedsQuotes(std::string_view text) {
 }
 
 void AppendField(std::string& csv, std::string_view text) {
+  const bool isGuarded = IsFormulaOrGuarded(text);
   if (!NeedsQuotes(text)) {
+    if (isGuarded) csv += kFormulaGuard;
     csv += text;
     return;
   }
   csv += kQuote;
+  if (isGuarded) csv += kFormulaGuard;
   for (const char byte : text) {
     if (byte == kQuote) csv += kQuote;
     csv += byte;
@@ -33,9 +41,10 @@ void AppendField(std::string& csv, std::string_view text) {
 // A record of one empty field has its quotes: an empty line would be no record.
 template <typename TextOfColumn>
 void AppendRecord(std::string& csv, std::size_t columns, TextOfColumn textOf) {
+  std::string room;
   for (std::size_t column = 0; column < columns; ++column) {
     if (column > 0) csv += ',';
-    const std::string& text = textOf(column);
+    const std::string_view text = ValidUtf8(textOf(column), room);
     if (columns == 1 && text.empty()) csv += "\"\"";
     AppendField(csv, text);
   }
@@ -89,6 +98,7 @@ class Reader {
       const bool isQuoted = !rest_.empty() && rest_.front() == kQuote;
       record.emplace_back();
       if (!(isQuoted ? TakeQuoted(record.back()) : TakePlain(record.back()))) return false;
+      if (record.back().starts_with(kFormulaGuard) && IsFormulaOrGuarded(record.back())) record.back().erase(0, 1);
       if (rest_.empty() || rest_.front() != separator_) return true;
       rest_.remove_prefix(1);
     }
@@ -121,14 +131,20 @@ class Reader {
 
 }  // namespace
 
-std::string CsvOf(const Table& table) {
-  std::string csv(kMark);
+bool WriteCsv(const Table& table, TextSink& sink, const Progress& progress) {
+  SinkBuffer file(sink);
   const std::size_t columns = table.columns.size();
-  AppendRecord(csv, columns, [&](std::size_t column) -> const std::string& { return table.columns[column].heading; });
-  ForEachRow(table, [&](const Row& row) {
-    AppendRecord(csv, columns, [&](std::size_t column) -> const std::string& { return CellOf(row, column); });
+  file.text() += kMark;
+  AppendRecord(file.text(), columns,
+               [&](std::size_t column) -> std::string_view { return table.columns[column].heading; });
+  RowPasses passes(table, 1, progress);
+  const bool isWhole = passes.ForEach([&](const Row& row, std::size_t) {
+    if (row.kind == RowKind::kGroup) return;
+    AppendRecord(file.text(), columns, [&](std::size_t column) -> std::string_view { return CellOf(row, column); });
+    file.EndPart();
   });
-  return csv;
+  if (isWhole) file.WriteAll();
+  return isWhole;
 }
 
 std::optional<std::vector<std::vector<std::string>>> CsvIn(std::string_view text) {

@@ -1,7 +1,6 @@
 #include "publishing/core/icalendar.h"
 
-#include <cstdio>
-#include <string_view>
+#include <cstdlib>
 
 #include "publishing/core/unicode.h"
 
@@ -29,23 +28,50 @@ CivilDate DayAfter(const CivilDate& date) {
   return {date.year + 1, 1, 1};
 }
 
-std::string TextOf(const CivilDate& date) {
-  char text[40];
-  std::snprintf(text, sizeof text, "%04d%02d%02d", date.year, date.month, date.day);
-  return text;
+void AppendDigits(std::string& text, int32_t number, std::size_t digits) {
+  text.append(digits, '0');
+  for (std::size_t at = text.size(); number > 0 && digits > 0; number /= 10, --digits) {
+    text[--at] = static_cast<char>('0' + number % 10);
+  }
 }
 
-std::string TextOf(const UtcMoment& moment) {
-  char text[40];
-  std::snprintf(text, sizeof text, "T%02d%02d%02dZ", moment.hour, moment.minute, moment.second);
-  return TextOf(moment.date) + text;
+void AppendDate(std::string& text, const CivilDate& date) {
+  AppendDigits(text, date.year, 4);
+  AppendDigits(text, date.month, 2);
+  AppendDigits(text, date.day, 2);
+}
+
+void AppendMoment(std::string& text, std::string_view property, const UtcMoment& moment) {
+  text += property;
+  AppendDate(text, moment.date);
+  text += 'T';
+  AppendDigits(text, moment.hour, 2);
+  AppendDigits(text, moment.minute, 2);
+  AppendDigits(text, moment.second, 2);
+  text += "Z\r\n";
+}
+
+void AppendDay(std::string& text, std::string_view property, const CivilDate& date) {
+  text += property;
+  AppendDate(text, date);
+  text += "\r\n";
+}
+
+// What stands in a text as it is: all of ASCII but the signs that mean something and control characters.
+bool IsPlain(char byte) {
+  return byte >= ' ' && byte < 0x7F && byte != '\\' && byte != ';' && byte != ',';
 }
 
 // RFC 5545, 3.3.11. Control characters other than tabs and line ends may not stand in a text.
-std::string Escaped(std::string_view text) {
-  std::string escaped;
+void AppendEscaped(std::string& escaped, std::string_view text) {
   char32_t before = 0;
   while (!text.empty()) {
+    std::size_t plain = 0;
+    while (plain < text.size() && IsPlain(text[plain])) ++plain;
+    escaped += text.substr(0, plain);
+    text.remove_prefix(plain);
+    if (plain > 0) before = ' ';
+    if (text.empty()) return;
     const char32_t character = TakeCharacter(text);
     const bool isLineEnd = character == '\r' || (character == '\n' && before != '\r');
     before = character;
@@ -54,56 +80,100 @@ std::string Escaped(std::string_view text) {
     } else if (character == '\\' || character == ';' || character == ',') {
       escaped += '\\';
       escaped += static_cast<char>(character);
-    } else if ((character >= ' ' || character == '\t') && character != 0x7F) {
+    } else if (!IsControl(character) || character == '\t') {
       AppendUtf8(escaped, character);
     }
   }
-  return escaped;
 }
 
-// A line, folded between characters.
-void AppendLine(std::string& calendar, std::string_view line) {
-  std::size_t octets = 0;
-  while (!line.empty()) {
-    std::string_view rest = line;
-    TakeCharacter(rest);
-    const std::size_t length = line.size() - rest.size();
-    if (octets + length > kMostOctets) {
-      calendar += "\r\n ";
-      octets = 1;
-    }
-    calendar += line.substr(0, length);
-    octets += length;
-    line = rest;
-  }
-  calendar += "\r\n";
-}
-
-void AppendEvent(std::string& calendar, const Event& event, const std::string& now) {
-  AppendLine(calendar, "BEGIN:VEVENT");
-  AppendLine(calendar, "UID:" + Escaped(event.uid));
-  AppendLine(calendar, "DTSTAMP:" + now);
-  AppendLine(calendar, "DTSTART;VALUE=DATE:" + TextOf(event.date));
-  AppendLine(calendar, "DTEND;VALUE=DATE:" + TextOf(DayAfter(event.date)));
-  AppendLine(calendar, "SUMMARY:" + Escaped(event.summary));
-  if (!event.description.empty()) AppendLine(calendar, "DESCRIPTION:" + Escaped(event.description));
-  AppendLine(calendar, "TRANSP:TRANSPARENT");
-  AppendLine(calendar, "END:VEVENT");
+bool IsWithinCharacter(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
 }  // namespace
 
-std::string CalendarOf(const std::string& name, const std::vector<Event>& events, const UtcMoment& now) {
-  std::string calendar;
-  AppendLine(calendar, "BEGIN:VCALENDAR");
-  AppendLine(calendar, "VERSION:2.0");
-  AppendLine(calendar, "PRODID:-//Times Readings//Times Readings//EN");
-  AppendLine(calendar, "CALSCALE:GREGORIAN");
-  AppendLine(calendar, "X-WR-CALNAME:" + Escaped(name));
-  const std::string stamp = TextOf(now);
-  for (const Event& event : events) AppendEvent(calendar, event, stamp);
-  AppendLine(calendar, "END:VCALENDAR");
-  return calendar;
+CalendarWriter::CalendarWriter(TextSink& sink, const std::string& name, const UtcMoment& now) : file_(sink) {
+  AppendMoment(stamp_, "DTSTAMP:", now);
+  file_.text() +=
+      "BEGIN:VCALENDAR\r\n"
+      "VERSION:2.0\r\n"
+      "PRODID:-//Times Readings//Times Readings//EN\r\n"
+      "CALSCALE:GREGORIAN\r\n";
+  WriteProperty("X-WR-CALNAME:", name);
+}
+
+void CalendarWriter::Add(const Event& event) {
+  file_.text() += "BEGIN:VEVENT\r\n";
+  WriteProperty("UID:", event.uid);
+  file_.text() += stamp_;
+  WriteTimes(event);
+  WriteProperty("SUMMARY:", event.summary);
+  WriteProperty("DESCRIPTION:", event.description);
+  WriteProperty("LOCATION:", event.location);
+  WriteCategories(event.categories);
+  file_.text() += "TRANSP:TRANSPARENT\r\n";
+  WriteAlarm(event);
+  file_.text() += "END:VEVENT\r\n";
+  file_.EndPart();
+}
+
+void CalendarWriter::Finish() {
+  file_.text() += "END:VCALENDAR\r\n";
+  file_.WriteAll();
+}
+
+void CalendarWriter::WriteTimes(const Event& event) {
+  std::string& text = file_.text();
+  if (!event.start) {
+    AppendDay(text, "DTSTART;VALUE=DATE:", event.date);
+    AppendDay(text, "DTEND;VALUE=DATE:", DayAfter(event.date));
+    return;
+  }
+  AppendMoment(text, "DTSTART:", *event.start);
+  if (event.end && *event.end > *event.start) AppendMoment(text, "DTEND:", *event.end);
+}
+
+void CalendarWriter::WriteCategories(const std::vector<std::string>& categories) {
+  line_.clear();
+  for (const std::string& category : categories) {
+    if (category.empty()) continue;
+    line_ += line_.empty() ? "CATEGORIES:" : ",";
+    AppendEscaped(line_, category);
+  }
+  if (!line_.empty()) WriteFolded();
+}
+
+// RFC 5545, 3.6.6: an alarm that is shown has a text of its own.
+void CalendarWriter::WriteAlarm(const Event& event) {
+  if (!event.alarmMinutesBefore) return;
+  const int64_t minutes = *event.alarmMinutesBefore;
+  file_.text() += "BEGIN:VALARM\r\nACTION:DISPLAY\r\nTRIGGER:";
+  file_.text() += (minutes > 0 ? "-PT" : "PT") + std::to_string(std::abs(minutes)) + "M\r\n";
+  line_ = "DESCRIPTION:";
+  AppendEscaped(line_, event.summary);
+  WriteFolded();
+  file_.text() += "END:VALARM\r\n";
+}
+
+void CalendarWriter::WriteProperty(std::string_view nameAndColon, std::string_view text) {
+  line_ = nameAndColon;
+  AppendEscaped(line_, text);
+  if (line_.size() > nameAndColon.size()) WriteFolded();
+}
+
+// Between characters.
+void CalendarWriter::WriteFolded() {
+  std::string& text = file_.text();
+  std::string_view rest = line_;
+  for (std::size_t room = kMostOctets; rest.size() > room; room = kMostOctets - 1) {
+    std::size_t length = room;
+    while (IsWithinCharacter(rest[length])) --length;
+    text += rest.substr(0, length);
+    text += "\r\n ";
+    rest.remove_prefix(length);
+  }
+  text += rest;
+  text += "\r\n";
 }
 
 }  // namespace publishing

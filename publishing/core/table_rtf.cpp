@@ -1,18 +1,29 @@
 #include "publishing/core/table_rtf.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "publishing/core/column_widths.h"
+#include "publishing/core/row_passes.h"
+#include "publishing/core/rtf_text.h"
+#include "publishing/core/sink_buffer.h"
 #include "publishing/core/unicode.h"
 
 namespace publishing {
 namespace {
 
-// Twips, 1/20 point. A4 with margins of 2 cm.
-constexpr int kShortEdge = 11906;
-constexpr int kLongEdge = 16838;
-constexpr int kMargin = 1134;
-constexpr int kCellGap = 108;  // at each side of a cell
+// Twips, 1/20 point.
+struct Paper {
+  int shortEdge;
+  int longEdge;
+};
+constexpr Paper kA4 = {11906, 16838};      // 210 x 297 mm
+constexpr Paper kLetter = {12240, 15840};  // 8.5 x 11 in
+constexpr int kMargin = 1134;              // 2 cm
+constexpr int kToRunningLines = 567;       // from the sheet's edges, 1 cm
+constexpr int kCellGap = 108;              // at each side of a cell
+constexpr int kAboveGroup = 120;
+constexpr int kAfterTitle = 120;
 
 // The room that a character takes on average in a proportional font, in twips for each half point of its size: 0.55 em.
 constexpr double kCharacterWidth = 5.5;
@@ -23,82 +34,48 @@ constexpr int kLeastHalfPoints = 2;
 constexpr int kMostHalfPoints = 400;
 
 constexpr int kTitleHalfPointsMore = 8;
+constexpr std::size_t kPasses = 2;
 
-// A character as RTF has it: signed 16-bit units, each with a mark for readers that do not know them.
-void AppendCharacter(std::string& rtf, char32_t character) {
-  if (character == '\\' || character == '{' || character == '}') rtf += '\\';
-  if (character >= ' ' && character < 0x7F) {
-    rtf += static_cast<char>(character);
-    return;
-  }
-  if (character < 0x80) return;  // control characters
-  std::u16string units;
-  AppendUtf16(units, character);
-  for (const char16_t unit : units) rtf += "\\u" + std::to_string(static_cast<int16_t>(unit)) + "?";
-}
-
-struct Form {
-  int halfPoints;
-  bool bold = false;
-};
-
-// The last of \ltrch and \rtlch is in force; what stands between is for the letters of the other kind.
-std::string FormOf(const Form& form, bool rightToLeft) {
-  const std::string size = std::to_string(form.halfPoints);
-  const std::string other = std::string("\\af0\\afs") + size + (form.bold ? "\\ab" : "");
-  const std::string own = "\\f0\\fs" + size + (form.bold ? "\\b" : "");
-  return rightToLeft ? "{\\ltrch\\fcs0" + own + "\\rtlch\\fcs1" + other + " "
-                     : "{\\rtlch\\fcs1" + other + "\\ltrch\\fcs0" + own + " ";
-}
-
-void AppendRuns(std::string& rtf, const std::string& text, const Form& form) {
-  for (const DirectedRun& run : RunsOf(InOneLine(text))) {
-    rtf += FormOf(form, run.rightToLeft);
-    for (const char32_t character : run.characters) AppendCharacter(rtf, character);
-    rtf += "}";
-  }
-}
-
-// How a paragraph stands. A text from right to left begins at the right.
-std::string ParagraphOf(const std::string& text, Align align) {
-  if (IsRightToLeft(text)) return "\\rtlpar\\qr ";
-  return align == Align::kEnd ? "\\ltrpar\\qr " : "\\ltrpar\\ql ";
-}
-
-void AppendParagraph(std::string& rtf, const std::string& text, const Form& form, int spaceAfter) {
-  rtf += "\\pard\\sa" + std::to_string(spaceAfter) + ParagraphOf(text, Align::kStart);
-  AppendRuns(rtf, text, form);
-  rtf += "\\par\r\n";
+int HalfPointsOf(const RtfStyle& style) {
+  return std::clamp(style.halfPoints, kLeastHalfPoints, kMostHalfPoints);
 }
 
 class Writer {
  public:
-  Writer(const Table& table, const RtfFont& font)
+  Writer(const Table& table, const RtfStyle& style, TextSink& sink, const Progress& progress)
       : table_(table),
-        font_(font),
-        text_{.halfPoints = std::clamp(font.halfPoints, kLeastHalfPoints, kMostHalfPoints)},
-        bold_{.halfPoints = text_.halfPoints, .bold = true} {
-    MeasureColumns();
-  }
+        style_(style),
+        halfPoints_(HalfPointsOf(style)),
+        text_(halfPoints_),
+        bold_(halfPoints_, true),
+        paper_(style.paper == PaperSize::kLetter ? kLetter : kA4),
+        passes_(table, kPasses, progress),
+        file_(sink) {}
 
-  std::string Rtf() const {
-    std::string rtf;
-    AppendBeginning(rtf);
-    const Form title{.halfPoints = text_.halfPoints + kTitleHalfPointsMore, .bold = true};
-    if (!table_.title.empty()) AppendParagraph(rtf, table_.title, title, 120);
-    for (std::size_t remark = 0; remark < table_.remarks.size(); ++remark) {
-      AppendParagraph(rtf, table_.remarks[remark], text_, remark + 1 == table_.remarks.size() ? 120 : 0);
+  bool Write() {
+    if (!MeasureColumns()) return false;
+    WriteBeginning();
+    WriteRunningLines();
+    WriteTitle();
+    if (!table_.columns.empty()) BeginTable();
+    const bool isWhole = passes_.ForEach([&](const Row& row, std::size_t index) {
+      if (!table_.columns.empty()) WriteRow(row, index);
+    });
+    if (!isWhole) return false;
+    for (std::size_t note = 0; note < table_.notes.size(); ++note) {
+      WriteParagraph(table_.notes[note], text_, note == 0 ? "\\sb120" : "");
     }
-    if (!table_.columns.empty()) AppendTable(rtf);
-    rtf += "\\pard\\par}\r\n";
-    return rtf;
+    file_.text() += "\\pard\\par}\r\n";
+    file_.WriteAll();
+    return true;
   }
 
  private:
-  void MeasureColumns() {
+  bool MeasureColumns() {
     std::vector<std::size_t> longest;
     for (const Column& column : table_.columns) longest.push_back(WidthInCharacters(column.heading));
-    ForEachRow(table_, [&](const Row& row) {
+    const bool isWhole = passes_.ForEach([&](const Row& row, std::size_t) {
+      if (row.kind == RowKind::kGroup) return;
       for (std::size_t column = 0; column < longest.size(); ++column) {
         longest[column] = std::max(longest[column], WidthInCharacters(CellOf(row, column)));
       }
@@ -107,70 +84,148 @@ class Writer {
     for (const std::size_t characterCount : longest) {
       // One more, because the average is no promise.
       const auto characters = static_cast<double>(std::min(characterCount, kMostCharacters) + 1);
-      own.push_back(static_cast<int>(characters * kCharacterWidth * text_.halfPoints) + 2 * kCellGap);
+      own.push_back(static_cast<int>(characters * kCharacterWidth * halfPoints_) + 2 * kCellGap);
     }
-    isLandscape_ = ColumnWidths(own, kShortEdge - 2 * kMargin) != own;
-    widths_ = ColumnWidths(own, (isLandscape_ ? kLongEdge : kShortEdge) - 2 * kMargin);
+    isLandscape_ = style_.orientation == Orientation::kAutomatic
+                       ? ColumnWidths(own, paper_.shortEdge - 2 * kMargin) != own
+                       : style_.orientation == Orientation::kLandscape;
+    const int room = (isLandscape_ ? paper_.longEdge : paper_.shortEdge) - 2 * kMargin;
+    widths_ = table_.rightToLeft ? Filling(ColumnWidths(own, room), room) : ColumnWidths(own, room);
+    return isWhole;
   }
 
-  void AppendBeginning(std::string& rtf) const {
+  // Word processors do not agree about the margin at which a table that begins at the right stands; this one reaches
+  // from margin to margin.
+  static std::vector<int> Filling(std::vector<int> widths, int room) {
+    const int total = std::accumulate(widths.begin(), widths.end(), 0);
+    for (int& width : widths) width += (room - total) / static_cast<int>(widths.size());
+    return widths;
+  }
+
+  void WriteBeginning() {
+    std::string& rtf = file_.text();
     rtf += "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\r\n{\\fonttbl{\\f0\\fnil\\fcharset0 ";
-    std::string_view face = font_.face;
-    while (!face.empty()) {
-      const char32_t character = TakeCharacter(face);
-      if (character != ';') AppendCharacter(rtf, character);  // which ends the name
+    std::u32string face;
+    for (std::string_view rest = style_.face; !rest.empty();) {
+      const char32_t character = TakeCharacter(rest);
+      if (character != ';') face += character;  // which ends the name
     }
+    AppendRtfCharacters(rtf, face);
     rtf += ";}}\r\n";
-    rtf += "\\paperw" + std::to_string(isLandscape_ ? kLongEdge : kShortEdge);
-    rtf += "\\paperh" + std::to_string(isLandscape_ ? kShortEdge : kLongEdge);
+    rtf += "\\paperw" + std::to_string(isLandscape_ ? paper_.longEdge : paper_.shortEdge);
+    rtf += "\\paperh" + std::to_string(isLandscape_ ? paper_.shortEdge : paper_.longEdge);
     for (const char* margin : {"\\margl", "\\margr", "\\margt", "\\margb"}) rtf += margin + std::to_string(kMargin);
-    rtf += isLandscape_ ? "\\landscape\\sectd\\lndscpsxn\r\n" : "\\sectd\r\n";
+    rtf += isLandscape_ ? "\\landscape\\sectd\\lndscpsxn" : "\\sectd";
+    for (const char* edge : {"\\headery", "\\footery"}) rtf += edge + std::to_string(kToRunningLines);
+    rtf += "\\titlepg\r\n";  // the first page has a head and a foot of its own
   }
 
-  std::string CellsDefinition(const char* border) const {
-    std::string definition;
+  void WriteRunningLines() {
+    std::string& rtf = file_.text();
+    std::string line = table_.title;
+    if (!table_.remarks.empty()) line += (line.empty() ? "" : " \u2013 ") + table_.remarks.front();
+    if (!line.empty()) {
+      rtf += "{\\header\\pard\\sa120";
+      AppendRtfParagraph(rtf, line, {.rightToLeft = table_.rightToLeft}, text_);
+      rtf += "\\par}\r\n";
+    }
+    for (const char* foot : {"{\\footerf", "{\\footer"}) {
+      rtf += foot + std::string("\\pard\\ltrpar\\qc ") + text_.Beginning(false);
+      rtf += "{\\field{\\*\\fldinst PAGE}{\\fldrslt 1}}}\\par}\r\n";
+    }
+  }
+
+  void WriteTitle() {
+    const RtfLetters title(halfPoints_ + kTitleHalfPointsMore, true);
+    const std::string after = "\\sa" + std::to_string(kAfterTitle);
+    if (!table_.title.empty()) WriteParagraph(table_.title, title, after);
+    for (std::size_t remark = 0; remark < table_.remarks.size(); ++remark) {
+      WriteParagraph(table_.remarks[remark], text_, remark + 1 == table_.remarks.size() ? after : "");
+    }
+  }
+
+  void WriteParagraph(const std::string& text, const RtfLetters& letters, const std::string& form) {
+    std::string& rtf = file_.text();
+    rtf += "\\pard" + form;
+    AppendRtfParagraph(rtf, text, {.rightToLeft = table_.rightToLeft}, letters);
+    rtf += "\\par\r\n";
+  }
+
+  // form: what the row has beside this, border: what each cell has.
+  std::string RowDefinition(const char* form, const char* border, const std::vector<int>& widths) const {
+    std::string definition = std::string("\\trowd") + form + (table_.rightToLeft ? "\\rtlrow\\taprtl" : "") +
+                             "\\trkeep\\trgaph" + std::to_string(kCellGap);
     int right = 0;
-    for (const int width : widths_) {
+    for (const int width : widths) {
       right += width;
       definition += border + std::string("\\cellx") + std::to_string(right);
     }
-    return definition;
+    return definition + "\r\n";
   }
 
   template <typename TextOfColumn>
-  void AppendRow(std::string& rtf, const Form& form, TextOfColumn textOf) const {
+  void WriteCells(const RtfLetters& letters, const char* form, TextOfColumn textOf) {
+    std::string& rtf = file_.text();
     for (std::size_t column = 0; column < widths_.size(); ++column) {
-      const std::string& text = textOf(column);
-      rtf += "\\pard\\intbl" + ParagraphOf(text, table_.columns[column].align);
-      AppendRuns(rtf, text, form);
+      const Column& of = table_.columns[column];
+      rtf += "\\pard\\intbl";
+      rtf += form;
+      AppendRtfParagraph(rtf, textOf(column), {of.direction, of.align, table_.rightToLeft}, letters);
       rtf += "\\cell\r\n";
     }
     rtf += "\\row\r\n";
   }
 
-  void AppendTable(std::string& rtf) const {
-    const std::string gap = "\\trgaph" + std::to_string(kCellGap);
-    rtf += "\\trowd\\trhdr\\trkeep" + gap + CellsDefinition("\\clbrdrb\\brdrs\\brdrw10") + "\r\n";
-    AppendRow(rtf, bold_, [&](std::size_t column) -> const std::string& { return table_.columns[column].heading; });
-    const std::string rowBeginning = "\\trowd\\trkeep" + gap + CellsDefinition("") + "\r\n";
-    ForEachRow(table_, [&](const Row& row) {
-      rtf += rowBeginning;
-      AppendRow(rtf, text_, [&](std::size_t column) -> const std::string& { return CellOf(row, column); });
-    });
+  void BeginTable() {
+    rowDefinition_ = RowDefinition("", "", widths_);
+    groupDefinition_ = RowDefinition("", "", {std::accumulate(widths_.begin(), widths_.end(), 0)});
+    WriteHeadings();
+  }
+
+  void WriteHeadings() {
+    file_.text() += RowDefinition("\\trhdr", "\\clbrdrb\\brdrs\\brdrw10", widths_);
+    WriteCells(bold_, "\\keepn",
+               [&](std::size_t column) -> std::string_view { return table_.columns[column].heading; });
+  }
+
+  // Not every word processor heeds a new page within a table, so a new table begins there. The first row's page begins
+  // in any case.
+  void WriteRow(const Row& row, std::size_t index) {
+    std::string& rtf = file_.text();
+    if (row.beginsPage && index > 0) {
+      rtf += "\\pard\\pagebb\\sl-20\\slmult0{\\fs2\\par}\r\n";
+      WriteHeadings();
+    }
+    if (row.kind == RowKind::kGroup) {
+      rtf += groupDefinition_ + "\\pard\\intbl\\keepn\\sb" + std::to_string(kAboveGroup);
+      AppendRtfParagraph(rtf, CellOf(row, 0), {.rightToLeft = table_.rightToLeft}, bold_);
+      rtf += "\\cell\r\n\\row\r\n";
+    } else {
+      rtf += rowDefinition_;
+      WriteCells(row.isBold ? bold_ : text_, "",
+                 [&](std::size_t column) -> std::string_view { return CellOf(row, column); });
+    }
+    file_.EndPart();
   }
 
   const Table& table_;
-  const RtfFont& font_;
-  Form text_;
-  Form bold_;
+  const RtfStyle& style_;
+  const int halfPoints_;
+  const RtfLetters text_;
+  const RtfLetters bold_;
+  const Paper paper_;
+  RowPasses passes_;
+  SinkBuffer file_;
   std::vector<int> widths_;
   bool isLandscape_ = false;
+  std::string rowDefinition_;
+  std::string groupDefinition_;
 };
 
 }  // namespace
 
-std::string RtfOf(const Table& table, const RtfFont& font) {
-  return Writer(table, font).Rtf();
+bool WriteRtf(const Table& table, const RtfStyle& style, TextSink& sink, const Progress& progress) {
+  return Writer(table, style, sink, progress).Write();
 }
 
 }  // namespace publishing

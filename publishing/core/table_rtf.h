@@ -1,20 +1,35 @@
 // A table as a file for word processors.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
+#include "output/text_sink.h"
+#include "publishing/core/progress.h"
 #include "publishing/core/table.h"
 
 namespace publishing {
 
-struct RtfFont {
-  std::string face;  // UTF-8
-  int halfPoints = 20;
+enum class PaperSize : uint8_t { kA4, kLetter };
+
+enum class Orientation : uint8_t {
+  kAutomatic,  // across the sheet when the columns need it
+  kPortrait,
+  kLandscape,
 };
 
-// RTF in ASCII, on A4; across the sheet when the columns need it. The row of headings is repeated on every page.
-// Texts whose first letter is Hebrew or Arabic are written and aligned from right to left, and so are such parts of
-// other texts. Line ends and tabs within a text become blanks.
-std::string RtfOf(const Table& table, const RtfFont& font);
+struct RtfStyle {
+  std::string face = {};  // of the font, UTF-8
+  int halfPoints = 20;
+  PaperSize paper = PaperSize::kA4;
+  Orientation orientation = Orientation::kAutomatic;
+};
+
+// RTF in ASCII. Title and remarks stand on the first page, title and first remark small on top of every other, a page's
+// number below each; the row of headings is repeated on every page. Texts written from right to left are aligned so,
+// and so are such parts of other texts. Line ends and tabs within a text become blanks; signs that turn the direction
+// of what follows are left out.
+// False when progress ended it; what the sink got until then is no file.
+bool WriteRtf(const Table& table, const RtfStyle& style, TextSink& sink, const Progress& progress = {});
 
 }  // namespace publishing

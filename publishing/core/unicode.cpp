@@ -159,11 +159,23 @@ std::u16string Utf16Of(std::string_view utf8) {
   return text;
 }
 
+bool IsPlainAscii(std::string_view text) {
+  // Without a way out early the compiler takes many bytes at once.
+  bool isPlain = true;
+  for (const char byte : text) isPlain &= byte >= ' ' && byte < 0x7F;
+  return isPlain;
+}
+
+bool IsControl(char32_t character) {
+  return character < ' ' || (character >= 0x7F && character < 0xA0);
+}
+
 bool IsCombining(char32_t character) {
   return character >= kCombining[0].first && IsIn(character, kCombining);
 }
 
 std::size_t WidthInCharacters(std::string_view text) {
+  if (IsPlainAscii(text)) return text.size();
   std::size_t width = 0;
   while (!text.empty()) width += IsCombining(TakeCharacter(text)) ? 0 : 1;
   return width;
@@ -189,22 +201,26 @@ Direction DirectionOf(char32_t character) {
   return IsIn(character, kRightToLeft) ? Direction::kRightToLeft : Direction::kLeftToRight;
 }
 
-bool IsRightToLeft(std::string_view text) {
+Direction FirstDirection(std::string_view text) {
   while (!text.empty()) {
     const Direction direction = DirectionOf(TakeCharacter(text));
-    if (direction != Direction::kNeutral) return direction == Direction::kRightToLeft;
+    if (direction != Direction::kNeutral) return direction;
   }
-  return false;
+  return Direction::kNeutral;
 }
 
-std::vector<DirectedRun> RunsOf(std::string_view text) {
+bool IsRightToLeft(std::string_view text) {
+  return FirstDirection(text) == Direction::kRightToLeft;
+}
+
+std::vector<DirectedRun> RunsOf(std::string_view text, Direction paragraph) {
   std::u32string characters;
   Directions directions;
   while (!text.empty()) {
     characters += TakeCharacter(text);
     directions.push_back(DirectionOf(characters.back()));
   }
-  const Direction paragraph = ParagraphDirection(directions);
+  if (paragraph == Direction::kNeutral) paragraph = ParagraphDirection(directions);
   ResolveNumbers(characters, paragraph, directions);
   ResolveNeutrals(paragraph, directions);
   std::vector<DirectedRun> runs;

@@ -19,6 +19,12 @@ void AppendUtf16(std::u16string& text, char32_t character);
 // The same text in UTF-16.
 std::u16string Utf16Of(std::string_view utf8);
 
+// Whether a text is nothing but blanks and the letters, digits and signs of ASCII.
+bool IsPlainAscii(std::string_view text);
+
+// Of C0 or C1, or DEL.
+bool IsControl(char32_t character);
+
 // Whether a character takes no room of its own: marks above and below letters, and signs that are not seen.
 bool IsCombining(char32_t character);
 
@@ -33,6 +39,9 @@ enum class Direction : uint8_t { kNeutral, kLeftToRight, kRightToLeft };
 // Which way a character is written; kNeutral for what goes with its neighbours.
 Direction DirectionOf(char32_t character);
 
+// That of the first letter; kNeutral for a text without letters.
+Direction FirstDirection(std::string_view text);
+
 // Whether the first letter is Hebrew, Arabic or another written from right to left.
 bool IsRightToLeft(std::string_view text);
 
@@ -42,8 +51,9 @@ struct DirectedRun {
   bool rightToLeft;
 };
 
-// The text in runs, in logical order, as a paragraph of its own direction has them (a short form of Unicode's
+// The text in runs, in logical order, as a paragraph of this direction has them, or where that is kNeutral, of the
+// text's own (a short form of Unicode's
 // bidirectional algorithm, UAX #9: W1, W2 and W7 for numbers and marks, N1 and N2 for what is neutral).
-std::vector<DirectedRun> RunsOf(std::string_view text);
+std::vector<DirectedRun> RunsOf(std::string_view text, Direction paragraph = Direction::kNeutral);
 
 }  // namespace publishing

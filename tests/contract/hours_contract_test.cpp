@@ -315,6 +315,29 @@ TEST_F(HoursContract, EastOfTwelveHoursTheDateIsThePlaces) {
   EXPECT_EQ(TimeOf(kApia, friday, 4), "0:36");   // of the next civil day
 }
 
+int32_t DayOffset(const Place& place, const Date& date, uint32_t index) {
+  const Shown shown = ShownSun(place, date);
+  return HoursGetDayOffset(place.latitude, place.longitude, place.zoneHours, place.zoneMinutes, date.day, date.month,
+                           date.year, index, shown.riseHour, shown.riseMinute, shown.setHour, shown.setMinute);
+}
+
+// Lulea at midsummer: the sun sets after midnight and rises at about one, so that two hours before are the day before.
+TEST_F(HoursContract, TheCivilDayOfAZmanIsTold) {
+  Choose("zman dawn-120-min\nzman sunrise\nzman sunset\nzman midnight\nzman dawn-16.1\nzman chametz-eat-gra\n");
+  constexpr Place kLulea = {6535, 2209, 1, 0};
+  const Date midsummer = {21, 6, 2026};
+  const Shown shown = ShownSun(kLulea, midsummer);
+  ASSERT_LT(shown.setHour, 1);
+  EXPECT_EQ(Calculate(kLulea, midsummer, 0, shown), shown.riseHour * 60 + shown.riseMinute + 22 * 60);
+  constexpr int32_t kExpected[] = {-1, 0, 1, 1, 0, 0};  // the last two do not occur
+  for (uint32_t index = 0; index < 6; ++index)
+    EXPECT_EQ(DayOffset(kLulea, midsummer, index), kExpected[index]) << index;
+  EXPECT_EQ(DayOffset(kJerusalem, {16, 1, 2026}, 3), 0);  // 23:49
+  EXPECT_EQ(DayOffset(kApia, {16, 1, 2026}, 3), 1);       // 0:36
+  for (uint32_t index = 0; index < 3; ++index) EXPECT_EQ(DayOffset(kJerusalem, {16, 1, 2026}, index), 0) << index;
+  EXPECT_EQ(DayOffset(kJerusalem, {16, 1, 2026}, 6), 0);
+}
+
 TEST_F(HoursContract, AnswersForAnyArguments) {
   Choose(
       "zman dawn-16.1\nzman sunrise\nzman shema-gra\nzman midday-fixed\nzman chametz-eat-gra\nzman midnight\nzman "

@@ -252,6 +252,23 @@ TEST_F(LectionsContract, AChoiceIsKeptWhileLandAndCustomsChange) {
   EXPECT_NE(LectionsIsYizkorBy(choice, 22, kNisan, 5785), 0);
 }
 
+// The words are those of the texts above, in German those of "language_german.cpp".
+TEST_F(LectionsContract, NamesTheCustoms) {
+  char text[256] = "untouched";
+  EXPECT_EQ(LectionsGetCustomName(3, text), 0);
+  EXPECT_EQ(LectionsGetCustomName(0xFFFFFFFF, text), 0);
+  EXPECT_STREQ(text, "untouched");
+  EXPECT_EQ(LectionsGetCustomName(0, nullptr), 0);
+  EXPECT_NE(LectionsGetCustomName(0, text), 0);
+  EXPECT_STREQ(text, "Ashkenazi");
+  EXPECT_NE(LectionsGetCustomName(1, text), 0);
+  EXPECT_STREQ(text, "Sephardi");
+  EXPECT_NE(LectionsGetCustomName(2, text), 0);
+  EXPECT_STREQ(text, "Chabad");
+  Write("Language", "3");
+  EXPECT_TRUE(Eventually([&] { return LectionsGetCustomName(1, text) != 0 && std::string(text) == "Sefardim"; }));
+}
+
 TEST_F(LectionsContract, TellsWhetherVersesAreNumberedAsInTheLanguagesBibles) {
   EXPECT_EQ(LectionsHasOwnNumbers(), 0);
   const uint32_t choice = LectionsGetChoice();

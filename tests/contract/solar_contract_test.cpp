@@ -66,6 +66,26 @@ TEST_F(SolarContract, ChangesTheClockOnTheDayOfTheChange) {
   EXPECT_EQ(Sunset(kAachen, 2026, 10, 25), "17:24");  // 17:23:31
 }
 
+int32_t ClockOffset(const Place& place, uint32_t year, uint32_t month, uint32_t day, int32_t minuteOfDay) {
+  return SolarGetClockOffset(day, month, year, minuteOfDay, place.latitude, place.longitude, place.zoneHours,
+                             place.zoneMinutes);
+}
+
+// European summer time begins and ends at 1:00 UTC.
+TEST_F(SolarContract, TellsTheClocksOffset) {
+  EXPECT_EQ(ClockOffset(kAachen, 2026, 3, 28, 26 * 60 + 59), 3600);  // left out on the 29th
+  EXPECT_EQ(ClockOffset(kAachen, 2026, 3, 28, 27 * 60), 7200);
+  EXPECT_EQ(ClockOffset(kAachen, 2026, 10, 25, 2 * 60 + 30), 7200);  // the first of two
+  EXPECT_EQ(ClockOffset(kAachen, 2026, 10, 25, 3 * 60), 3600);
+  EXPECT_EQ(ClockOffset(kAachen, 2026, 10, 26, -22 * 60), 7200);
+  EXPECT_EQ(ClockOffset(kAachen, 1950, 6, 26, 12 * 60), 3600);
+  EXPECT_EQ(ClockOffset({4735, -5245, -3, 30}, 2026, 7, 1, 12 * 60), -(2 * 3600 + 1800));
+  EXPECT_EQ(ClockOffset({2743, 8519, 5, 45}, 2026, 7, 1, 12 * 60), 5 * 3600 + 2700);
+  ProfileWriteString("SummerTime", "Mode", "Off", "solar.ini");
+  EXPECT_EQ(ClockOffset(kAachen, 2026, 7, 1, 12 * 60), 3600);
+  ClockOffset({kLeast, kMost, kLeast, kMost}, 0, 99, 4000000000, kLeast);
+}
+
 TEST_F(SolarContract, AnswersInStandardTimeBefore1970) {
   EXPECT_EQ(Sunset(kAachen, 1950, 6, 26), "20:53");   // 20:53:02
   EXPECT_EQ(Sunset(kAachen, 1969, 12, 21), "16:32");  // 16:32:10

@@ -14,6 +14,9 @@ constexpr uint32_t kGerman = 3;
 constexpr uint32_t kHebrew = 4;
 constexpr uint32_t kFinnish = 7;
 constexpr uint32_t kDutch = 9;
+constexpr uint32_t kCzech = 15;
+constexpr uint32_t kGreek = 16;
+constexpr uint32_t kRussian = 17;
 constexpr uint32_t kPolish = 21;
 
 TEST(MonthNames, TheTwelfthJewishMonthIsAdarOrAdarI) {
@@ -45,6 +48,10 @@ TEST(MonthNames, LettersBeyondAsciiAreBytesOfTheLanguagesCodePage) {
   EXPECT_STREQ(GregorianMonthName(9, 2024, kPolish), "wrzesie\xF1");
   EXPECT_STREQ(JewishMonthName(kTishri, 5784, kHebrew), "\xFA\xF9\xF8\xE9");
   EXPECT_STREQ(JewishMonthName(kAdar, 5784, kHebrew), "\xE0\xE3\xF8 \xE0\xD7");
+  EXPECT_STREQ(GregorianMonthName(9, 2024, kCzech), "z\xE1\xF8\xED");
+  EXPECT_STREQ(GregorianMonthName(10, 2024, kGreek), "\xCF\xEA\xF4\xFE\xE2\xF1\xE9\xEF\xF2");
+  EXPECT_STREQ(JewishMonthName(kElul, 5784, kGreek), "\xB8\xEB\xEF\xF5\xEB");
+  EXPECT_STREQ(JewishMonthName(kTishri, 5784, kRussian), "\xD2\xE8\xF8\xF0\xE5\xE9");
 }
 
 TEST(MonthNames, AnUnknownLanguageAnswersEnglish) {
@@ -55,7 +62,7 @@ TEST(MonthNames, AnUnknownLanguageAnswersEnglish) {
 }
 
 TEST(MonthNames, EveryLanguageOfTheExportsNamesEveryMonth) {
-  for (const uint32_t language : {1u, 3u, 4u, 5u, 6u, 7u, 8u, 9u, 10u, 11u, 12u, 14u, 20u, 21u}) {
+  for (const uint32_t language : {1u, 3u, 4u, 5u, 6u, 7u, 8u, 9u, 10u, 11u, 12u, 14u, 15u, 16u, 17u, 20u, 21u}) {
     for (int32_t month = 1; month <= 13; ++month) {
       EXPECT_GE(std::strlen(JewishMonthName(month, 5784, language)), 2u) << language << ' ' << month;
     }

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,7 @@ TEST(HelpTopics, AreFoundWhateverTheirCase) {
   EXPECT_EQ(guide::TopicNamed("Places").page, "places.html");
   EXPECT_EQ(guide::TopicNamed("start").page, "index.html");
   EXPECT_EQ(guide::TopicNamed("settings").page, "settings.html");
+  EXPECT_EQ(guide::TopicNamed("documents").page, "documents.html");
 }
 
 TEST(HelpTopics, UnknownAndEmptyOnesAreTheGeneralPage) {
@@ -86,10 +88,29 @@ TEST(HelpPages, LinksLeadToPagesAndPlacesInThemThatExist) {
   }
 }
 
+TEST(HelpPages, PicturesAreThereAndToldInWords) {
+  std::set<std::string> shown;
+  for (const fs::path& page : Pages()) {
+    const std::string text = TextOf(page);
+    const std::vector<std::string> pictures = Values(text, "src");
+    for (const std::string& picture : pictures) {
+      EXPECT_TRUE(fs::is_regular_file(page.parent_path() / picture)) << page << " shows " << picture;
+      shown.insert(picture);
+    }
+    const std::vector<std::string> words = Values(text, "alt");
+    EXPECT_EQ(words.size(), pictures.size()) << page;
+    EXPECT_THAT(words, testing::Each(testing::Not(""))) << page;
+  }
+  for (const auto& entry : fs::directory_iterator(ProgramFolder() / "help")) {
+    const fs::path& file = entry.path();
+    EXPECT_TRUE(file.extension() != ".png" || shown.contains(file.filename().string())) << file;
+  }
+}
+
 TEST(HelpPages, NeedNoNetworkAndNoScript) {
   for (const fs::path& page : Pages()) {
     const std::string text = TextOf(page);
-    for (const char* foreign : {"<script", "http:", "https:", "src=", "@import"}) {
+    for (const char* foreign : {"<script", "http:", "https:", "@import"}) {
       EXPECT_EQ(text.find(foreign), std::string::npos) << page << " has " << foreign;
     }
   }

@@ -6,8 +6,8 @@
 #include "libraries/kinship/date_words.h"
 #include "libraries/kinship/person_table.h"
 #include "libraries/kinship/person_texts.h"
-#include "publishing/core/csv.h"
 #include "tests/core/kinship_people.h"
+#include "tests/core/written_files.h"
 
 namespace kinship {
 namespace {
@@ -36,17 +36,36 @@ std::vector<Person> People() {
 }
 
 TEST(PersonsCsv, WhatIsWrittenIsReadAgain) {
-  const Import import = ImportedFrom(publishing::CsvOf(CsvTableOf(People(), In2026())), {});
+  const Import import = ImportedFrom(written::CsvOf(CsvTableOf(People(), In2026())), {});
   EXPECT_EQ(import.problem, "");
   EXPECT_THAT(import.faults, IsEmpty());
   EXPECT_EQ(import.added, People());
+}
+
+// A spreadsheet would run such names; see formula_guard.h.
+TEST(PersonsCsv, NamesLikeFormulasAreWrittenHarmlessAndReadAgain) {
+  std::vector<Person> people(4, People().back());
+  people[0].name = "=cmd|' /C calc'!A0";
+  people[1].name = "'=1+1";
+  people[2].name = "@Ruth";
+  people[3].name = "'Aharon'";
+  const std::string csv = written::CsvOf(CsvTableOf(people, In2026()));
+  EXPECT_THAT(csv, HasSubstr("\n'=cmd|' /C calc'!A0,"));
+  EXPECT_THAT(csv, HasSubstr("\n'Aharon',"));
+  EXPECT_EQ(ImportedFrom(csv, {}).added, people);
+}
+
+// Other programs write an apostrophe where they mean one.
+TEST(PersonsCsv, AnApostropheBeforeALetterStays) {
+  const Import import = ImportedFrom("Name,Occasion,Date\n'Tal,Birthday,16.02.1950\n", {});
+  EXPECT_THAT(import.added, ElementsAre(Gregorian(Kind::kBirthday, "'Tal", {16, 2, 1950})));
 }
 
 TEST(PersonsCsv, WhatIsThereAlreadyIsPassedOver) {
   std::vector<Person> present = People();
   present.pop_back();
   present[0].notes += "\n ";  // blanks that the table does not keep
-  const Import import = ImportedFrom(publishing::CsvOf(CsvTableOf(People(), In2026())), present);
+  const Import import = ImportedFrom(written::CsvOf(CsvTableOf(People(), In2026())), present);
   EXPECT_THAT(import.added, ElementsAre(People().back()));
   EXPECT_EQ(import.alreadyThere, 3u);
 }

@@ -2,12 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "publishing/core/csv.h"
+#include "tests/core/written_files.h"
 
 namespace publishing {
 namespace {
 
 using testing::ElementsAre;
 using testing::Optional;
+using written::CsvOf;
 using Records = std::vector<std::vector<std::string>>;
 
 const Table kTable = {
@@ -89,6 +91,50 @@ TEST(Csv, AMegabyteOfAnythingIsRead) {
   }
   const auto read = CsvIn(rubbish);
   EXPECT_TRUE(!read || !read->empty());
+}
+
+std::string Written(const std::string& text) {
+  const std::string mark = "\xEF\xBB\xBF,\r\n";
+  const std::string csv = CsvOf({.columns = {{}, {}}, .rows = ListedTexts({{text, ""}})});
+  return csv.substr(mark.size(), csv.size() - mark.size() - 3);
+}
+
+TEST(Csv, WhatASpreadsheetWouldRunHasAnApostropheBeforeIt) {
+  for (const char* const text : {"=cmd|' /C calc'!A0", "+1+1", "-1-1", "@SUM(A1)", "'=1", "''=1", "-", "\uFF1D1",
+                                 "\uFF0B1", "\uFF0D1", "\uFF201", "-a", "+", "-3:4", "--3"}) {
+    const bool isRun = std::string_view(text) != "-";
+    EXPECT_EQ(Written(text), (isRun ? "'" : "") + std::string(text));
+  }
+  EXPECT_EQ(Written("\tx"), "\"'\tx\"");
+  EXPECT_EQ(Written("\rx"), "\"'\rx\"");
+  EXPECT_EQ(Written("=\"a\",b"), "\"'=\"\"a\"\",b\"");
+}
+
+TEST(Csv, NumbersHyphensAndOtherTextsStandAsTheyAre) {
+  for (const char* const text : {"-3", "+2", "-1.500", "-3.14", "---", "a=b", "'tis", "'", "''", "5-3", "16:05"}) {
+    EXPECT_EQ(Written(text), text);
+  }
+  EXPECT_EQ(Written("-3,5"), "\"-3,5\"");
+}
+
+TEST(Csv, HeadingsAreGuardedToo) {
+  EXPECT_EQ(CsvOf({.columns = {{"=a"}, {"b"}}}), "\xEF\xBB\xBF'=a,b\r\n");
+}
+
+TEST(Csv, OnlyAnApostropheOfTheGuardIsTakenOff) {
+  EXPECT_EQ(CsvIn("'=a,'tis,''+b,\"'@c\",'-3,'\r\n"), (Records{{"=a", "'tis", "'+b", "@c", "'-3", "'"}}));
+}
+
+TEST(Csv, GroupsAreNoRecords) {
+  const Table table = {.columns = {{"H"}},
+                       .rows = Listed({{.cells = {"G"}, .kind = RowKind::kGroup}, {.cells = {"x"}, .isBold = true}}),
+                       .notes = {"N"}};
+  EXPECT_EQ(CsvOf(table), "\xEF\xBB\xBFH\r\nx\r\n");
+}
+
+TEST(Csv, WhatIsNoTextIsReplaced) {
+  EXPECT_EQ(Written(std::string("a\0b\xFF\xC3", 5)), "ab\uFFFD\uFFFD");
+  EXPECT_EQ(Written(std::string("\0=1", 3)), "'=1");
 }
 
 }  // namespace

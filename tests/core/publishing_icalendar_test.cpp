@@ -7,21 +7,25 @@
 #include <algorithm>
 #include <sstream>
 
+#include "tests/core/written_files.h"
+
 namespace publishing {
 namespace {
 
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
+using written::CalendarOf;
 
 constexpr UtcMoment kNow = {{2026, 11, 2}, 7, 5, 9};
 
 std::string OfText(const std::string& summary, const std::string& description = {}) {
-  return CalendarOf("c", {{"u", {2026, 1, 1}, summary, description}}, kNow);
+  return CalendarOf("c", {{.uid = "u", .date = {2026, 1, 1}, .summary = summary, .description = description}}, kNow);
 }
 
 TEST(ICalendar, AnEventLastsAWholeDay) {
-  EXPECT_EQ(CalendarOf("Birthdays", {{"1@x", {2026, 3, 9}, "Moshe", "in Nisan"}}, kNow),
+  EXPECT_EQ(CalendarOf("Birthdays",
+                       {{.uid = "1@x", .date = {2026, 3, 9}, .summary = "Moshe", .description = "in Nisan"}}, kNow),
             "BEGIN:VCALENDAR\r\n"
             "VERSION:2.0\r\n"
             "PRODID:-//Times Readings//Times Readings//EN\r\n"
@@ -45,7 +49,8 @@ TEST(ICalendar, TheDayAfterTheLastOfAMonthIsTheFirst) {
                                                      {{2000, 2, 28}, "20000229"}, {{2026, 4, 30}, "20260501"},
                                                      {{2026, 12, 31}, "20270101"}};
   for (const auto& [date, end] : cases) {
-    EXPECT_THAT(CalendarOf("", {{"u", date, "s", ""}}, kNow), HasSubstr(std::string("DTEND;VALUE=DATE:") + end + "\r"));
+    EXPECT_THAT(CalendarOf("", {{.uid = "u", .date = date}}, kNow),
+                HasSubstr(std::string("DTEND;VALUE=DATE:") + end + "\r"));
   }
 }
 
@@ -90,6 +95,53 @@ TEST(ICalendar, ALineOf75OctetsIsNotFolded) {
   const std::string name = "SUMMARY:";
   EXPECT_THAT(OfText(std::string(75 - name.size(), 'x')), HasSubstr("x\r\nTRANSP"));
   EXPECT_THAT(OfText(std::string(76 - name.size(), 'x')), HasSubstr("x\r\n x\r\nTRANSP"));
+}
+
+TEST(ICalendar, ATimedEventBeginsAndEndsAtMoments) {
+  const Event event = {.uid = "u",
+                       .start = UtcMoment{{2026, 3, 9}, 5, 6, 7},
+                       .end = UtcMoment{{2026, 3, 10}, 0, 0, 0},
+                       .summary = "s",
+                       .location = "Jerusalem, Israel",
+                       .categories = {"a,b", "", "c"},
+                       .alarmMinutesBefore = 18};
+  EXPECT_THAT(CalendarOf("c", {event}, kNow), HasSubstr("BEGIN:VEVENT\r\n"
+                                                        "UID:u\r\n"
+                                                        "DTSTAMP:20261102T070509Z\r\n"
+                                                        "DTSTART:20260309T050607Z\r\n"
+                                                        "DTEND:20260310T000000Z\r\n"
+                                                        "SUMMARY:s\r\n"
+                                                        "LOCATION:Jerusalem\\, Israel\r\n"
+                                                        "CATEGORIES:a\\,b,c\r\n"
+                                                        "TRANSP:TRANSPARENT\r\n"
+                                                        "BEGIN:VALARM\r\n"
+                                                        "ACTION:DISPLAY\r\n"
+                                                        "TRIGGER:-PT18M\r\n"
+                                                        "DESCRIPTION:s\r\n"
+                                                        "END:VALARM\r\n"
+                                                        "END:VEVENT\r\n"));
+}
+
+// RFC 5545, 3.6.1 and 3.8.2.2: the end is later than the beginning; an event may be without one.
+TEST(ICalendar, AnEventThatEndsWhereItBeginsHasNoEnd) {
+  const UtcMoment moment = {{2026, 3, 9}, 5, 6, 7};
+  EXPECT_THAT(CalendarOf("c", {{.uid = "u", .start = moment}}, kNow), Not(HasSubstr("DTEND")));
+  EXPECT_THAT(CalendarOf("c", {{.uid = "u", .start = moment, .end = moment}}, kNow), Not(HasSubstr("DTEND")));
+}
+
+TEST(ICalendar, AnAlarmMayBeAtTheBeginningOrAfterIt) {
+  const auto withAlarm = [](int32_t minutes) {
+    return CalendarOf("c", {{.uid = "u", .date = {2026, 1, 1}, .alarmMinutesBefore = minutes}}, kNow);
+  };
+  EXPECT_THAT(withAlarm(0), HasSubstr("TRIGGER:PT0M\r\nDESCRIPTION:\r\n"));
+  EXPECT_THAT(withAlarm(-5), HasSubstr("TRIGGER:PT5M\r\n"));
+  EXPECT_THAT(withAlarm(INT32_MIN), HasSubstr("TRIGGER:PT2147483648M\r\n"));
+}
+
+TEST(ICalendar, WhatIsEmptyIsLeftOut) {
+  EXPECT_THAT(OfText(""), Not(HasSubstr("SUMMARY")));
+  EXPECT_THAT(CalendarOf("c", {{.uid = "u", .date = {2026, 1, 1}, .categories = {""}}}, kNow),
+              AllOf(Not(HasSubstr("LOCATION")), Not(HasSubstr("CATEGORIES")), Not(HasSubstr("VALARM"))));
 }
 
 }  // namespace

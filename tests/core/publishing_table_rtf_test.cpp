@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "publishing/core/column_widths.h"
+#include "tests/core/written_files.h"
 
 namespace publishing {
 namespace {
@@ -15,8 +16,9 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
+using written::RtfOf;
 
-const RtfFont kFont = {.face = "Times New Roman", .halfPoints = 20};
+const RtfStyle kFont = {.face = "Times New Roman", .halfPoints = 20};
 
 std::string OfCell(const std::string& text, Align align = Align::kStart) {
   return RtfOf({.columns = {{"H", align}}, .rows = ListedTexts({{text}})}, kFont);
@@ -113,6 +115,85 @@ TEST(ColumnWidths, NoColumnIsWiderThanItsOwnNorTheTableThanTheRoom) {
     }
     EXPECT_LE(total, room);
   }
+}
+
+TEST(TableRtf, PaperAndOrientationAreTheUsersOwn) {
+  const auto of = [](PaperSize size, Orientation orientation) {
+    return RtfOf({.columns = {{"H"}}}, {.face = "F", .paper = size, .orientation = orientation});
+  };
+  EXPECT_THAT(of(PaperSize::kLetter, Orientation::kAutomatic), HasSubstr("\\paperw12240\\paperh15840"));
+  EXPECT_THAT(of(PaperSize::kLetter, Orientation::kLandscape),
+              AllOf(HasSubstr("\\paperw15840\\paperh12240"), HasSubstr("\\lndscpsxn")));
+  EXPECT_THAT(of(PaperSize::kA4, Orientation::kLandscape), HasSubstr("\\paperw16838\\paperh11906"));
+  EXPECT_THAT(RtfOf({.columns = {{std::string(500, 'x')}}}, {.face = "F", .orientation = Orientation::kPortrait}),
+              AllOf(HasSubstr("\\paperw11906\\paperh16838"), Not(HasSubstr("lndscpsxn")), HasSubstr("\\cellx9638")));
+}
+
+TEST(TableRtf, EachPageHasItsNumberAndAllButTheFirstTheTitle) {
+  const std::string rtf = RtfOf({.title = "T", .remarks = {"R", "S"}, .columns = {{"H"}}}, kFont);
+  EXPECT_THAT(rtf, AllOf(HasSubstr("\\titlepg"), HasSubstr("{\\footerf"), HasSubstr("{\\footer\\"),
+                         HasSubstr("{\\field{\\*\\fldinst PAGE}"), HasSubstr(" T \\u8211? R}\\par}"),
+                         Not(HasSubstr("{\\headerf"))));
+  EXPECT_THAT(RtfOf({.columns = {{"H"}}}, kFont), Not(HasSubstr("{\\header")));
+}
+
+TEST(TableRtf, AGroupIsOneCellAcrossTheTable) {
+  const Table table = {
+      .columns = {{"abc"}, {"d"}},
+      .rows = Listed({{.cells = {"Group that is longer than all"}, .kind = RowKind::kGroup}, {{"x"}}})};
+  const std::string rtf = RtfOf(table, kFont);
+  EXPECT_THAT(RightEdges(rtf), ElementsAre(656, 1092, 1092, 656, 1092));
+  EXPECT_THAT(rtf, HasSubstr("\\cellx1092\r\n\\pard\\intbl\\keepn\\sb120\\ltrpar\\ql "
+                             "{\\rtlch\\fcs1\\af0\\afs20\\ab\\ltrch\\fcs0\\f0\\fs20\\b Group that is longer than all}"
+                             "\\cell\r\n\\row"));
+}
+
+TEST(TableRtf, BoldRowsAreBold) {
+  const Table table = {.columns = {{"H"}}, .rows = Listed({{.cells = {"x"}, .isBold = true}, {.cells = {"y"}}})};
+  EXPECT_THAT(RtfOf(table, kFont), AllOf(HasSubstr("\\fs20\\b x}"), HasSubstr("\\fs20 y}")));
+}
+
+std::size_t CountOf(const std::string& text, const std::string& part) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+TEST(TableRtf, APageBeginsWithATableOfItsOwnButNotTheFirst) {
+  const Table table = {.columns = {{"H"}},
+                       .rows = Listed({{.cells = {"x"}, .beginsPage = true}, {.cells = {"y"}, .beginsPage = true}})};
+  const std::string rtf = RtfOf(table, kFont);
+  EXPECT_EQ(CountOf(rtf, "\\pagebb"), 1u);
+  EXPECT_EQ(CountOf(rtf, "\\trhdr"), 2u);
+  EXPECT_THAT(rtf, HasSubstr("\\row\r\n\\pard\\pagebb"));
+}
+
+// A4 has 9638 twips between margins of 2 cm.
+TEST(TableRtf, ATableFromTheRightReachesFromMarginToMargin) {
+  const std::string rtf =
+      RtfOf({.columns = {{"א"}, {"ב"}}, .rows = ListedTexts({{"16:05", "x"}}), .rightToLeft = true}, kFont);
+  EXPECT_NEAR(RightEdges(rtf)[1], 9638, 1);
+  EXPECT_THAT(rtf, AllOf(HasSubstr("\\trowd\\trhdr\\rtlrow\\taprtl"), HasSubstr("\\trowd\\rtlrow\\taprtl")));
+  EXPECT_THAT(rtf, HasSubstr("\\rtlpar\\qr {\\rtlch\\fcs1\\af0\\afs20\\ltrch\\fcs0\\f0\\fs20 16:05}"));
+  EXPECT_THAT(rtf, HasSubstr("\\ltrpar\\ql {\\rtlch\\fcs1\\af0\\afs20\\ltrch\\fcs0\\f0\\fs20 x}"));
+}
+
+TEST(TableRtf, AColumnMayHaveADirection) {
+  const auto inColumn = [](Direction direction, Align align, const char* text) {
+    return RtfOf({.columns = {{.align = align, .direction = direction}}, .rows = ListedTexts({{text}})}, kFont);
+  };
+  EXPECT_THAT(inColumn(Direction::kRightToLeft, Align::kStart, "ab"), HasSubstr("\\intbl\\rtlpar\\qr {"));
+  EXPECT_THAT(inColumn(Direction::kRightToLeft, Align::kEnd, "ab"), HasSubstr("\\intbl\\rtlpar\\ql {"));
+  EXPECT_THAT(inColumn(Direction::kLeftToRight, Align::kEnd, "אב"), HasSubstr("\\intbl\\ltrpar\\qr {"));
+}
+
+TEST(TableRtf, NotesStandBelowTheTable) {
+  EXPECT_THAT(RtfOf({.columns = {{"H"}}, .notes = {"N", "O"}}, kFont),
+              testing::ContainsRegex("row[^O]* N}.par[^N]* O}.par\r\n.pard.par}"));
+}
+
+TEST(TableRtf, SignsThatTurnWhatFollowsAreLeftOut) {
+  EXPECT_THAT(OfCell("a\u202Eb\u2067c\u2069"), HasSubstr(" abc}"));
 }
 
 }  // namespace

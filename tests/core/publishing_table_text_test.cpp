@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/core/written_files.h"
+
 namespace publishing {
 namespace {
+
+using written::TextOf;
 
 const std::string kMark = "\xEF\xBB\xBF";
 
@@ -34,6 +38,41 @@ TEST(TableText, WithoutTitleItBeginsWithTheHeadings) {
       .columns = {{"a"}, {"b"}},
   };
   EXPECT_EQ(TextOf(table), kMark + "a  b\r\n-  -\r\n");
+}
+
+TEST(TableText, GroupsStandInLinesOfTheirOwnAndNotesBelow) {
+  const Table table = {.columns = {{"a"}, {"b"}},
+                       .rows = Listed({{.cells = {"January of a year"}, .kind = RowKind::kGroup},
+                                       {.cells = {"1", "22"}, .isBold = true},
+                                       {.cells = {"February"}, .kind = RowKind::kGroup, .beginsPage = true},
+                                       {.cells = {"3"}}}),
+                       .notes = {"n", "o\np"}};
+  EXPECT_EQ(TextOf(table), kMark +
+                               "a  b\r\n"
+                               "-  --\r\n"
+                               "\r\n"
+                               "January of a year\r\n"
+                               "1  22\r\n"
+                               "\r\n"
+                               "February\r\n"
+                               "3\r\n"
+                               "\r\n"
+                               "n\r\n"
+                               "o p\r\n");
+}
+
+TEST(TableText, TheFirstColumnIsTheFirstInALineWhicheverSideATableBeginsAt) {
+  EXPECT_EQ(TextOf({.columns = {{"א"}, {"ב"}}, .rows = ListedTexts({{"ג", "16:05"}}), .rightToLeft = true}),
+            kMark + "א  ב\r\n-  -----\r\nג  16:05\r\n");
+}
+
+TEST(TableText, SignsThatTurnWhatFollowsAndControlCharactersAreLeftOut) {
+  const Table table = {.title = "\u202Ea\u2066", .columns = {{"b\x1B[1m"}}, .rows = ListedTexts({{"c\u2028d\xFF"}})};
+  EXPECT_EQ(TextOf(table), kMark + "a\r\n\r\nb[1m\r\n----\r\nc d\uFFFD\r\n");
+}
+
+TEST(TableText, MarksOfASingleCharacterStay) {
+  EXPECT_EQ(TextOf({.columns = {{"\u200Fa\u200E"}}}), kMark + "\u200Fa\u200E\r\n-\r\n");
 }
 
 }  // namespace

@@ -190,13 +190,21 @@ HANDLE WINAPI RefusingCreateFileA(LPCSTR name, DWORD access, DWORD share, LPSECU
   return INVALID_HANDLE_VALUE;
 }
 
+HANDLE WINAPI RefusingCreateFileW(LPCWSTR name, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                                  DWORD creation, DWORD flags, HANDLE model) {
+  static const auto real = REAL("kernel32.dll", CreateFileW);
+  if (System().createError == 0) return real(name, access, share, security, creation, flags, model);
+  SetLastError(System().createError);
+  return INVALID_HANDLE_VALUE;
+}
+
 BOOL WINAPI RefusingFlushFileBuffers(HANDLE file) {
   static const auto real = REAL("kernel32.dll", FlushFileBuffers);
   return !System().flushFails && real(file);
 }
 
-BOOL WINAPI RefusingMoveFileExA(LPCSTR from, LPCSTR to, DWORD flags) {
-  static const auto real = REAL("kernel32.dll", MoveFileExA);
+BOOL WINAPI RefusingMoveFileExW(LPCWSTR from, LPCWSTR to, DWORD flags) {
+  static const auto real = REAL("kernel32.dll", MoveFileExW);
   if (System().failingRenames == 0) return real(from, to, flags);
   --System().failingRenames;
   SetLastError(System().renameError);
@@ -338,8 +346,9 @@ decltype(&CreateWindowExA) __imp_CreateWindowExA = RefusingCreateWindowExA;
 decltype(&SetCursor) __imp_SetCursor = FakeSetCursor;
 decltype(&WriteFile) __imp_WriteFile = NotedWriteFile;
 decltype(&CreateFileA) __imp_CreateFileA = RefusingCreateFileA;
+decltype(&CreateFileW) __imp_CreateFileW = RefusingCreateFileW;
 decltype(&FlushFileBuffers) __imp_FlushFileBuffers = RefusingFlushFileBuffers;
-decltype(&MoveFileExA) __imp_MoveFileExA = RefusingMoveFileExA;
+decltype(&MoveFileExW) __imp_MoveFileExW = RefusingMoveFileExW;
 decltype(&DrawIconEx) __imp_DrawIconEx = NotedDrawIconEx;
 decltype(&GrayStringA) __imp_GrayStringA = NotedGrayStringA;
 decltype(&SetPropA) __imp_SetPropA = CountedSetPropA;

@@ -1,11 +1,14 @@
 #include <fuzzer/FuzzedDataProvider.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <sstream>
 #include <string>
 #include <string_view>
 
 #include "publishing/core/icalendar.h"
 #include "publishing/core/unicode.h"
+#include "tests/core/written_files.h"
 #include "tests/fuzz/check.h"
 
 namespace {
@@ -24,7 +27,7 @@ std::string AsTold(std::string_view text) {
     if (isSecondOfTwo) continue;
     if (character == '\r') {
       told += '\n';
-    } else if (character == '\n' || character == '\t' || (character >= ' ' && character != 0x7F)) {
+    } else if (character == '\n' || character == '\t' || !IsControl(character)) {
       AppendUtf8(told, character);
     }
   }
@@ -67,12 +70,31 @@ std::string Unescaped(const std::string& text) {
   return unescaped;
 }
 
-// The value of a property that is there once.
-std::string ValueOf(const std::string& unfolded, const std::string& property) {
+// A property that a text is told by; one without a text is not there.
+void CheckProperty(const std::string& unfolded, const std::string& property, const std::string& text) {
   const std::size_t found = ("\n" + unfolded).find("\n" + property + ":");
+  if (AsTold(text).empty()) {
+    FUZZ_CHECK(found == std::string::npos);
+    return;
+  }
   FUZZ_CHECK(found != std::string::npos);
   const std::size_t begin = found + property.size() + 1;
-  return Unescaped(unfolded.substr(begin, unfolded.find('\n', begin) - begin));
+  FUZZ_CHECK(Unescaped(unfolded.substr(begin, unfolded.find('\n', begin) - begin)) == AsTold(text));
+}
+
+// No text makes a line of its own.
+void CheckLines(const std::string& unfolded) {
+  std::istringstream lines(unfolded);
+  std::size_t events = 0;
+  for (std::string line; std::getline(lines, line);) {
+    constexpr const char* kNames[] = {"BEGIN:",  "END:",      "VERSION:", "PRODID:", "CALSCALE:",  "X-WR-CALNAME:",
+                                      "UID:",    "DTSTAMP:",  "DTSTART",  "DTEND",   "SUMMARY:",   "DESCRIPTION:",
+                                      "TRANSP:", "LOCATION:", "TRIGGER:", "ACTION:", "CATEGORIES:"};
+    FUZZ_CHECK(
+        std::any_of(std::begin(kNames), std::end(kNames), [&](const char* name) { return line.starts_with(name); }));
+    events += line == "BEGIN:VEVENT" || line == "END:VEVENT";
+  }
+  FUZZ_CHECK(events == 2);
 }
 
 }  // namespace
@@ -81,14 +103,23 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   FuzzedDataProvider input(data, size);
   const CivilDate date = {input.ConsumeIntegralInRange(1, 9998), input.ConsumeIntegralInRange(1, 12),
                           input.ConsumeIntegralInRange(1, 28)};
+  Event event = {.date = date};
+  if (input.ConsumeBool()) event.start = UtcMoment{date, input.ConsumeIntegralInRange(0, 23), 0, 0};
+  if (input.ConsumeBool()) event.end = UtcMoment{date, input.ConsumeIntegralInRange(0, 23), 0, 0};
+  if (input.ConsumeBool()) event.alarmMinutesBefore = input.ConsumeIntegral<int32_t>();
   const std::string name = input.ConsumeRandomLengthString(100);
-  const std::string uid = input.ConsumeRandomLengthString(100);
-  const std::string description = input.ConsumeRandomLengthString(300);
-  const std::string summary = input.ConsumeRemainingBytesAsString();
-  const std::string unfolded = Unfolded(CalendarOf(name, {{uid, date, summary, description}}, {date, 1, 2, 3}));
-  FUZZ_CHECK(ValueOf(unfolded, "X-WR-CALNAME") == AsTold(name));
-  FUZZ_CHECK(ValueOf(unfolded, "UID") == AsTold(uid));
-  FUZZ_CHECK(ValueOf(unfolded, "SUMMARY") == AsTold(summary));
-  if (!description.empty()) FUZZ_CHECK(ValueOf(unfolded, "DESCRIPTION") == AsTold(description));
+  event.uid = input.ConsumeRandomLengthString(100);
+  event.description = input.ConsumeRandomLengthString(300);
+  event.location = input.ConsumeRandomLengthString(100);
+  event.categories.resize(input.ConsumeIntegralInRange<std::size_t>(0, 3));
+  for (std::string& category : event.categories) category = input.ConsumeRandomLengthString(50);
+  event.summary = input.ConsumeRemainingBytesAsString();
+  const std::string unfolded = Unfolded(written::CalendarOf(name, {event}, {date, 1, 2, 3}));
+  CheckProperty(unfolded, "X-WR-CALNAME", name);
+  CheckProperty(unfolded, "UID", event.uid);
+  CheckProperty(unfolded, "SUMMARY", event.summary);
+  CheckProperty(unfolded, "LOCATION", event.location);
+  if (!event.alarmMinutesBefore) CheckProperty(unfolded, "DESCRIPTION", event.description);
+  CheckLines(unfolded);
   return 0;
 }

@@ -6,7 +6,7 @@
 #include "libraries/kinship/person_events.h"
 #include "libraries/kinship/person_table.h"
 #include "libraries/kinship/persons_csv.h"
-#include "publishing/core/csv.h"
+#include "tests/core/written_files.h"
 #include "tests/fuzz/check.h"
 
 using namespace kinship;
@@ -21,10 +21,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   for (const persons::Person& person : import.added) FUZZ_CHECK(persons::CanBeKept(person));
 
   const Shown shown = {2026, calendar::AbsoluteFromGregorian({1, 3, 2026}), persons::AdarCustom::kBoth};
-  const Import again = ImportedFrom(publishing::CsvOf(CsvTableOf(import.added, shown)), {});
+  const Import again = ImportedFrom(written::CsvOf(CsvTableOf(import.added, shown)), {});
   FUZZ_CHECK(again.problem.empty() && again.faults.empty() && again.added == import.added);
   FUZZ_CHECK(ImportedFrom(text, import.added).added.empty());
-  FUZZ_CHECK(TableOf(import.added, shown).rows.size() == import.added.size());
+  FUZZ_CHECK(TableOf(import.added, shown).rows->Count() == import.added.size());
   EventsOf(import.added, persons::AdarCustom::kBoth, 2999, 3);
   return 0;
 }

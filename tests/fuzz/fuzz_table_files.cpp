@@ -1,6 +1,4 @@
 // Tables of any texts as plain text and for word processors.
-#include <fuzzer/FuzzedDataProvider.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <string>
@@ -11,6 +9,8 @@
 #include "publishing/core/table_rtf.h"
 #include "publishing/core/table_text.h"
 #include "publishing/core/unicode.h"
+#include "tests/core/written_files.h"
+#include "tests/fuzz/any_table.h"
 #include "tests/fuzz/check.h"
 
 namespace {
@@ -28,7 +28,7 @@ bool IsRtfByte(char byte) {
 }
 
 // Groups are balanced, nothing stands after the outermost, and every row has its cells.
-void CheckRtf(const Table& table, const std::string& rtf) {
+void CheckRtf(const std::vector<Row>& rows, const std::string& rtf) {
   FUZZ_CHECK(std::all_of(rtf.begin(), rtf.end(), IsRtfByte));
   std::size_t depth = 0;
   for (std::size_t at = 0; at < rtf.size(); ++at) {
@@ -44,34 +44,37 @@ void CheckRtf(const Table& table, const std::string& rtf) {
   }
   FUZZ_CHECK(depth == 0);
   // A text's own backslash is doubled, so what begins a line is markup.
-  FUZZ_CHECK(CountOf(rtf, "\n\\row\r") == table.rows->Count() + 1);
+  std::size_t headings = 1;
+  for (std::size_t row = 1; row < rows.size(); ++row) headings += rows[row].beginsPage;
+  FUZZ_CHECK(CountOf(rtf, "\n\\row\r") == rows.size() + headings);
 }
 
-void CheckText(const Table& table, const std::string& text) {
+// Every text in its line, without anything that leaves it.
+void CheckText(const Table& table, const std::vector<Row>& rows, const std::string& text) {
   const std::size_t above = table.remarks.size() + (table.title.empty() ? 0 : 1);
-  const std::size_t lines = table.rows->Count() + 2 + above + (above > 0 ? 1 : 0);
+  const std::size_t below = table.notes.empty() ? 0 : table.notes.size() + 1;
+  std::size_t lines = rows.size() + 2 + above + (above > 0 ? 1 : 0) + below;
+  for (const Row& row : rows) lines += row.kind == RowKind::kGroup;
   FUZZ_CHECK(CountOf(text, "\n") == lines && CountOf(text, "\r") == lines && CountOf(text, "\r\n") == lines);
-  FUZZ_CHECK(CountOf(text, " \r") == 0 && CountOf(text, "\t") == 0);
+  FUZZ_CHECK(CountOf(text, " \r") == 0);
+  for (std::string_view rest = text; !rest.empty();) {
+    const bool isReplacement = rest.starts_with("\xEF\xBF\xBD");
+    const char32_t character = TakeCharacter(rest);
+    FUZZ_CHECK(character != 0xFFFD || isReplacement);
+    FUZZ_CHECK(character == '\r' || character == '\n' || !IsControl(character));
+    FUZZ_CHECK(!(character >= 0x202A && character <= 0x202E) && !(character >= 0x2066 && character <= 0x2069));
+  }
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   FuzzedDataProvider input(data, size);
-  Table table;
-  table.columns.resize(input.ConsumeIntegralInRange<std::size_t>(1, 4));
-  std::vector<std::vector<std::string>> rows(input.ConsumeIntegralInRange<std::size_t>(0, 5));
-  table.remarks.resize(input.ConsumeIntegralInRange<std::size_t>(0, 2));
-  const RtfFont font = {input.ConsumeRandomLengthString(20), input.ConsumeIntegral<int>()};
-  table.title = input.ConsumeRandomLengthString(40);
-  for (Column& column : table.columns) column = {input.ConsumeRandomLengthString(20), Align{input.ConsumeBool()}};
-  for (auto& row : rows) {
-    for (std::size_t cell = 0; cell < table.columns.size(); ++cell) row.push_back(input.ConsumeRandomLengthString(60));
-  }
-  table.rows = ListedTexts(std::move(rows));
-  for (std::string& remark : table.remarks) remark = input.ConsumeRandomLengthString(40);
-  CheckRtf(table, RtfOf(table, font));
-  CheckText(table, TextOf(table));
+  const RtfStyle style = {input.ConsumeRandomLengthString(20), input.ConsumeIntegral<int>(),
+                          PaperSize{input.ConsumeBool()}, Orientation{input.ConsumeIntegralInRange<uint8_t>(0, 2)}};
+  const auto [table, rows] = AnyTable(input);
+  CheckRtf(rows, written::RtfOf(table, style));
+  CheckText(table, rows, written::TextOf(table));
 
   // In logical order, runs are the text.
   const std::string text = input.ConsumeRemainingBytesAsString();

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <vector>
 
 #include "tests/program/program_fixture.h"
 
@@ -141,4 +142,53 @@ TEST_F(FileSinkTest, ANameWithoutAFolderIsThatOfTheCurrentFolder) {
   EXPECT_TRUE(sink.Commit());
   fs::current_path(before);
   EXPECT_EQ(Bytes(), "text");
+}
+
+// A document of any script has its name in it.
+TEST_F(FileSinkTest, ANameMayBeOfAnyScript) {
+  const fs::path file = folder_ / L"\x05E9\x05D1\x05EA \x0428\x0430\x0431\x0431\x0430\x0442 \x00C9.html";
+  {
+    FileSink sink(file.c_str());
+    sink.Write("text");
+    EXPECT_FALSE(fs::exists(file));
+    EXPECT_TRUE(sink.Commit());
+  }
+  EXPECT_EQ(fs::file_size(file), 4u);
+  EXPECT_EQ(Files(), 2);
+}
+
+TEST_F(FileSinkTest, APathMayBeLongerThanThoseOf8Bits) {
+  std::wstring folder = folder_.wstring();
+  std::vector<std::wstring> folders;
+  for (const wchar_t letter : {L'\x05D0', L'\x05D1', L'\x05D2'}) {
+    folder += L'\\' + std::wstring(100, letter);
+    folders.push_back(L"\\\\?\\" + folder);
+    ASSERT_TRUE(CreateDirectoryW(folders.back().c_str(), nullptr)) << GetLastError();
+  }
+  {
+    FileSink sink((folder + L"\\file").c_str());
+    sink.Write("text");
+    EXPECT_TRUE(sink.Commit());
+  }
+  EXPECT_TRUE(DeleteFileW((L"\\\\?\\" + folder + L"\\file").c_str())) << GetLastError();
+  for (auto of = folders.rbegin(); of != folders.rend(); ++of) EXPECT_TRUE(RemoveDirectoryW(of->c_str()));
+}
+
+TEST_F(FileSinkTest, WideNamesOfDevicesAndFoldersAreNotTaken) {
+  for (const std::wstring& name :
+       {std::wstring(L"nul"), std::wstring(L"con"), std::wstring(), (folder_ / L"").wstring(), folder_.wstring()}) {
+    FileSink sink(name.c_str());
+    EXPECT_FALSE(sink.Commit()) << fs::path(name).string();
+  }
+  ExpectOnlyTheOlderFile();
+}
+
+TEST_F(FileSinkTest, OfAWideNameTooNothingIsLeftWhenTheDiskIsFull) {
+  {
+    FileSink sink(fs::path(file_).c_str());
+    System().diskIsFull = true;
+    sink.Write("text");
+    EXPECT_FALSE(sink.Commit());
+  }
+  ExpectOnlyTheOlderFile();
 }

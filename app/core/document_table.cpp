@@ -1,0 +1,68 @@
+#include "app/core/document_table.h"
+
+#include <algorithm>
+
+#include "app/core/document_rows.h"
+#include "app/core/document_words.h"
+
+namespace {
+
+// "22.11.2026 - 23.12.2026 (12 Kislev 5787 - 13 Tevet 5787)".
+std::string RangeText(const DocumentSource& source, uint32_t language) {
+  const DateRange range = CoveredRange(source);
+  const auto jewish = [&](const CalendarDate& date) {
+    return JewishDateOf(source, source.services.AbsoluteDay(date), language);
+  };
+  return DocumentDate(range.start, false) + " - " + DocumentDate(range.end, false) + " (" + jewish(range.start) +
+         " - " + jewish(range.end) + ")";
+}
+
+bool HasMissingTimes(const DocumentSource& source, const DocumentChoice& choice) {
+  if (!HasZmanim(choice.kind)) return false;
+  return std::ranges::any_of(source.zmanimDays, [&](const ZmanimDay& day) {
+    return std::ranges::any_of(choice.zmanim, [&](uint32_t zman) { return day.times[zman].hour == kNoTimeHour; });
+  });
+}
+
+}  // namespace
+
+std::string KindName(DocumentKind kind, uint32_t language) {
+  switch (kind) {
+    case DocumentKind::kShabbatTimes:
+    case DocumentKind::kDoorPage: return std::string(WordOf(Word::kShabbatTimes, language));
+    case DocumentKind::kZmanim: return std::string(WordOf(Word::kZmanim, language));
+    case DocumentKind::kReadings: return std::string(WordOf(Word::kReadings, language));
+    case DocumentKind::kWeeks:
+    case DocumentKind::kDays: break;
+  }
+  return std::string(WordOf(Word::kCalendar, language));
+}
+
+const std::string& ZmanName(const DocumentSource& source, uint32_t zman, bool hebrew) {
+  const DocumentZman& names = source.zmanim[zman];
+  const bool hasHebrew = names.hebrew.find_first_not_of(' ') != std::string::npos;
+  return hebrew && hasHebrew ? names.hebrew : names.english;
+}
+
+// A range that is too long is cut in the document's block of zmanim.
+DateRange CoveredRange(const DocumentSource& source) {
+  if (source.zmanimDays.empty()) return source.range;
+  return {source.range.start, source.zmanimDays.back().date};
+}
+
+publishing::Table DocumentTable(const DocumentSource& source, const DocumentChoice& choice) {
+  const DateRange range = CoveredRange(source);
+  const WordsLanguage& language = WordsLanguageOf(choice.language);
+  publishing::Table table;
+  table.title = KindName(choice.kind, choice.language) + ": " + source.place;
+  table.remarks = {RangeText(source, choice.language)};
+  table.columns = ColumnsOfDocument(source, choice);
+  table.rows = RowsOfDocument(source, choice);
+  table.rightToLeft = language.rightToLeft;
+  table.language = language.tag;
+  if (choice.kind != DocumentKind::kReadings) table.notes.emplace_back(WordOf(Word::kClockNote, choice.language));
+  if (HasMissingTimes(source, choice)) table.notes.emplace_back(WordOf(Word::kNoTimeNote, choice.language));
+  table.pageText = WordOf(Word::kPageOf, choice.language);
+  table.runningHead = table.title + ", " + DocumentDate(range.start, false) + " - " + DocumentDate(range.end, false);
+  return table;
+}

@@ -1,0 +1,195 @@
+#include "app/taken_document.h"
+
+#include <cstdlib>
+#include <span>
+
+#include "app/core/display_hebrew.h"
+#include "app/document_names.h"
+#include "companion/hours.h"
+#include "companion/stamp.h"
+#include "engine/bound_entries.h"
+#include "engine/core/candle_rule.h"
+#include "engine/optional_entries.h"
+#include "engine/properties.h"
+#include "engine/sun_times.h"
+#include "readings/readings_list.h"
+#include "shabbat/shabbat_list.h"
+#include "win/scoped.h"
+#include "win/unicode_text.h"
+#include "zmanim/calculate_zmanim.h"
+#include "zmanim/core/zmanim_labels.h"
+
+namespace {
+
+constexpr UINT kWestern = 1252;
+constexpr int32_t kMinutesPerDay = kMinutesPerHour * kHoursPerDay;
+constexpr int32_t kSecondsPerMinute = 60;
+
+std::vector<ShabbatTimeEntry> EntriesOf(HGLOBAL block) {
+  const ScopedGlobalLock<const ShabbatTimesList> list(block);
+  if (!list) return {};
+  return {list->entries, list->entries + list->count};
+}
+
+std::vector<ReadingsEntry> ReadingsIn(HGLOBAL block) {
+  const ScopedGlobalLock<const ReadingsList> list(block);
+  if (!list) return {};
+  return {list->entries, list->entries + list->count};
+}
+
+std::vector<ZmanimDay> DaysIn(HGLOBAL block) {
+  const ScopedGlobalLock<const ZmanimBlock> days(block);
+  if (!days) return {};
+  return {days->days, days->days + days->count};
+}
+
+std::string Decoded(std::string_view text, UINT codePage) {
+  return Utf8Of(WideOf(text, codePage));
+}
+
+// Texts in the program's own font are windows-1252 (glyphs.h).
+UINT CodePageOf(const LectionsFont& font) {
+  if (font.UseDefaultFont != 0) return kWestern;
+  CHARSETINFO info{};
+  const DWORD_PTR charset = font.CharSet;
+  return TranslateCharsetInfo(reinterpret_cast<DWORD*>(charset), &info, TCI_SRCCHARSET) ? info.ciACP : kWestern;
+}
+
+std::vector<DocumentZman> NamesIn(const ZmanimLabels* labels) {
+  std::vector<DocumentZman> names;
+  for (uint32_t zman = 0; labels && zman < labels->count; ++zman) {
+    const ZmanLabel& label = labels->zmanim[zman];
+    names.push_back({Decoded(label.english, kWestern), LogicalHebrew(label.hebrew)});
+  }
+  return names;
+}
+
+// The standard clock; the hours' sign leads.
+int32_t StandardOffsetSeconds(const Location& place) {
+  const int32_t hours = std::abs(place.zoneHours) * kMinutesPerHour;
+  if (hours == 0) return place.zoneMinutes * kSecondsPerMinute;
+  return (hours + std::abs(place.zoneMinutes)) * (place.zoneHours < 0 ? -kSecondsPerMinute : kSecondsPerMinute);
+}
+
+}  // namespace
+
+TakenDocument::TakenDocument(HWND document)
+    : form_{}, readingsCodePage_(kWestern), source_{.services = *this, .formatTime = StampConvert} {
+  RenewZmanim(document);
+  RenewReadings(document);
+  form_ = ReadingsFormOf(document);
+  readingsCodePage_ = CodePageOf(form_.font);
+  shabbatTimes_ = EntriesOf(GetBlockProperty(document, property::kShabbatTimes));
+  zmanim_ = DaysIn(GetBlockProperty(document, property::kZmanimTimes));
+  readings_ = ReadingsIn(GetBlockProperty(document, property::kParashaReadings));
+  const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
+  zmanimFromLibrary_ = labels && labels->fromLibrary != 0;
+  source_.location = GetPlace(document);
+  source_.place = Decoded(DocumentPlace(document), kWestern);
+  source_.range = GetRangeProperties(document);
+  source_.shabbatTimes = shabbatTimes_;
+  source_.zmanimDays = zmanim_;
+  source_.readings = readings_;
+  source_.zmanim = NamesIn(labels.get());
+  source_.yizkor = Decoded(form_.yizkor, kWestern);
+}
+
+void TakenDocument::TakeRange(const DateRange& range) {
+  const ScopedWaitCursor wait;
+  const bool isCovered = AbsoluteDay(source_.range.start) <= AbsoluteDay(range.start) &&
+                         AbsoluteDay(range.end) <= AbsoluteDay(source_.range.end);
+  if (isCovered) {
+    CutTo(range);
+  } else {
+    Calculate(range);
+  }
+  zmanim_.clear();
+  source_.range = range;
+  source_.shabbatTimes = shabbatTimes_;
+  source_.zmanimDays = zmanim_;
+  source_.readings = readings_;
+}
+
+// The Shabbat after the last Friday may be the day after the range; its portion is wanted too.
+void TakenDocument::CutTo(const DateRange& range) {
+  const int32_t first = AbsoluteDay(range.start);
+  const int32_t last = AbsoluteDay(range.end);
+  const auto isOutside = [&](const CalendarDate& date, int32_t more) {
+    const int32_t day = AbsoluteDay(date);
+    return day < first || day > last + more;
+  };
+  std::erase_if(shabbatTimes_, [&](const ShabbatTimeEntry& entry) { return isOutside(FridayOf(entry), 0); });
+  std::erase_if(readings_, [&](const ReadingsEntry& entry) { return isOutside(entry.date, 1); });
+}
+
+void TakenDocument::Calculate(const DateRange& range) {
+  const HGLOBAL times = MakeShabbatTimes(source_.location, range, CandleOverrideFor(source_.location.name));
+  shabbatTimes_ = EntriesOf(times);
+  if (times) GlobalFree(times);
+  const uint32_t choice = form_.choice != 0 ? form_.choice : ReadingsChoiceNow();
+  form_ = ReadingsFormNow(choice);
+  readingsCodePage_ = CodePageOf(form_.font);
+  const HGLOBAL readings = MakeReadings({range.start, DateFromAbsolute(AbsoluteDay(range.end) + 1)}, choice);
+  readings_ = ReadingsIn(readings);
+  if (readings) GlobalFree(readings);
+}
+
+int32_t TakenDocument::AbsoluteDay(const CalendarDate& gregorian) const {
+  return AbsoluteFromDate(gregorian);
+}
+
+CalendarDate TakenDocument::Gregorian(int32_t absoluteDay) const {
+  return DateFromAbsolute(absoluteDay);
+}
+
+CalendarDate TakenDocument::Jewish(int32_t absoluteDay) const {
+  return JewishFromAbsolute(absoluteDay);
+}
+
+std::string TakenDocument::Weekday(int32_t weekday, uint32_t language) const {
+  return WeekdayName(weekday, language);
+}
+
+std::string TakenDocument::CivilMonth(const CalendarDate& gregorian, uint32_t language) const {
+  return CivilMonthName(gregorian.uMonth, gregorian.uYear, language);
+}
+
+std::string TakenDocument::JewishMonth(const CalendarDate& jewish, uint32_t language) const {
+  return JewishMonthName(jewish.uMonth, jewish.uYear, language);
+}
+
+std::string TakenDocument::OfReadings(std::string_view text) const {
+  return Decoded(text, readingsCodePage_);
+}
+
+std::string TakenDocument::OfWestern(std::string_view text) const {
+  return Decoded(text, kWestern);
+}
+
+int32_t TakenDocument::ClockOffsetSeconds(const CalendarDate& date, int32_t minuteOfDay) const {
+  const Location& place = source_.location;
+  if (!OptionalEntries.SolarGetClockOffset) return StandardOffsetSeconds(place);
+  return OptionalEntries.SolarGetClockOffset(date.uDay, date.uMonth, date.uYear, minuteOfDay, place.latitude,
+                                             place.longitude, place.zoneHours, place.zoneMinutes);
+}
+
+// The built-in zmanim have hours below 0 and from 24 on for other days. A time set by hand is on the day on which it is
+// nearest to the one that would be calculated.
+int32_t TakenDocument::ZmanDayOffset(const ZmanimDay& day, uint32_t zman) const {
+  if (!zmanimFromLibrary_ || !OptionalEntries.HoursGetDayOffset) return 0;
+  const Location& place = source_.location;
+  const CalendarDate& date = day.date;
+  const ClockTime sunrise = SunEvent(place, date, SOLAR_SUNRISE);
+  const ClockTime sunset = SunEvent(place, date, SOLAR_SUNSET);
+  const int32_t calculated =
+      HoursCalculate2(nullptr, place.latitude, place.longitude, place.zoneHours, place.zoneMinutes, date.uDay,
+                      date.uMonth, date.uYear, zman, sunrise.hour, sunrise.minute, sunset.hour, sunset.minute);
+  if (calculated < 0) return 0;
+  const int32_t offset = OptionalEntries.HoursGetDayOffset(place.latitude, place.longitude, place.zoneHours,
+                                                           place.zoneMinutes, date.uDay, date.uMonth, date.uYear, zman,
+                                                           sunrise.hour, sunrise.minute, sunset.hour, sunset.minute);
+  const int32_t shown = day.times[zman].hour * kMinutesPerHour + day.times[zman].minute;
+  const int32_t earlier = calculated + offset * kMinutesPerDay - shown;  // than the time on the date itself
+  if (earlier > kMinutesPerDay / 2) return 1;
+  return earlier < -kMinutesPerDay / 2 ? -1 : 0;
+}

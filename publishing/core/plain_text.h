@@ -1,0 +1,18 @@
+// Texts of any bytes as files can hold them. What these give is the text itself where it needs no change, else what
+// room holds then: it lives as long as both.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace publishing {
+
+// UTF-8 without nulls, at which readers stop; bytes that are no UTF-8 become U+FFFD.
+std::string_view ValidUtf8(std::string_view text, std::string& room);
+
+// Such a text in one line, as plain text and word processors show it. Line ends and tabs are blanks, a CR LF one. Other
+// control characters are left out, and so are the signs that embed, isolate or turn round what follows them: nothing
+// would end these at the end of a text.
+std::string_view PlainLine(std::string_view text, std::string& room);
+
+}  // namespace publishing
