@@ -11,6 +11,7 @@
 #include "benchmarks/kinship_bench.h"
 #include "benchmarks/languages_bench.h"
 #include "benchmarks/measured.h"
+#include "benchmarks/pages_bench.h"
 #include "benchmarks/start_up_bench.h"
 #include "benchmarks/zmanim_bench.h"
 #include "companion/profile.h"
@@ -168,6 +169,7 @@ int main() {
     MeasureDocuments(home);
     MeasureLanguages(home);
     MeasureKinship(home);
+    MeasurePages();
   }
   return MeasureStartUp() ? 0 : 1;
 }

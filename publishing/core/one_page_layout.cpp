@@ -94,7 +94,7 @@ std::optional<OnePageLayout::Plan> OnePageLayout::PlanOf(const OnePageForm& form
   const int height = body_.height - plan.titleHeight - plan.headingHeight - plan.notesHeight;
   plan.room = {form.blocks, height, plan.metrics.groupGap, form.keepsGroupsWhole};
   auto starts = FillBlocks(plan.rows, plan.room);
-  if (!starts) return std::nullopt;
+  if (!starts || height < 0) return std::nullopt;
   plan.starts = std::move(*starts);
   return plan;
 }

@@ -16,13 +16,11 @@ constexpr char kNameOfNameless[] = "Times / Readings";  // a page has a name
 constexpr std::size_t kManyColumns = 8;
 constexpr std::size_t kMostColumns = 16;
 
-// Longer ones may be broken over lines.
-constexpr std::size_t kLongestNumber = 24;
+// Longer texts may be broken over lines. Dates of either calendar and times are not.
+constexpr std::size_t kLongestWhole = 18;
 
-// Dates, and numbers with blanks or hyphens within them.
-bool IsNumber(std::string_view text, Direction direction) {
-  return direction == Direction::kNeutral && text.size() <= kLongestNumber &&
-         text.find_first_of(" -") != std::string_view::npos;
+bool IsKeptWhole(std::string_view text) {
+  return text.find_first_of(" -") != std::string_view::npos && WidthInCharacters(text) <= kLongestWhole;
 }
 
 std::string_view NameOf(Direction direction) {
@@ -166,7 +164,7 @@ class Writer {
     html += attributes;
     constexpr std::string_view kClasses[] = {"", " class=\"end\"", " class=\"whole\"", " class=\"end whole\""};
     const bool isAtEnd = isTurned == (column.align == Align::kStart);
-    html += kClasses[(isAtEnd ? 1 : 0) + (IsNumber(text, direction) ? 2 : 0)];
+    html += kClasses[(isAtEnd ? 1 : 0) + (name == "td" && IsKeptWhole(text) ? 2 : 0)];
     html += '>';
     AppendIsolated(text, column.direction);
     html += "</";

@@ -1,6 +1,7 @@
 // Pages as a real printer got them, and as they stand on the screen.
 #include <gmock/gmock.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -103,6 +104,42 @@ TEST_F(PrintedPages, TheMarginsHoldForThePrinterToo) {
   EXPECT_EQ(number, L"Page 1 of " + std::to_wstring(CountOf(text, "\f")));
   EXPECT_GT(CountOf(text, "\f"), 6u) << "the pages with the usual margins";
   EXPECT_EQ(CountOf(text, "ראובן"), 300u);
+}
+
+// A date, a remark and eighteen times.
+publishing::Table WideTable(int days) {
+  publishing::Table table = {.title = "Zmanim of Aachen", .remarks = {"1 January 2026 to 1 March 2026"}};
+  table.runningHead = "Zmanim of Aachen, 1 January 2026 to 1 March 2026";
+  table.columns = {{"Date"}, {"Portion"}};
+  const char* const names[] = {"Dawn", "Earliest tallit", "Sunrise", "Latest Shema", "Latest Shacharit", "Midday"};
+  for (int column = 0; column < 18; ++column) table.columns.push_back({names[column % 6], publishing::Align::kEnd});
+  std::vector<publishing::Row> rows;
+  for (int day = 0; day < days; ++day) {
+    if (day % 30 == 0) rows.push_back({.cells = {"Month"}, .kind = publishing::RowKind::kGroup});
+    rows.push_back({.cells = {std::to_string(1000 + day), day % 7 == 6 ? "Nitzavim-Vayeilech" : ""}});
+    rows.back().isBold = day % 7 == 6;
+    for (int column = 0; column < 18; ++column) {
+      char time[16];
+      std::snprintf(time, sizeof time, "%02d:%02d", (5 + column) % 24, (day * 7 + column) % 60);
+      rows.back().cells.push_back(time);
+    }
+  }
+  table.rows = publishing::Listed(std::move(rows));
+  return table;
+}
+
+TEST_F(PrintedPages, AWideTableLiesAcrossWithEveryTimeInTheLineOfItsDay) {
+  Open(WideTable(60));
+  Press(preview_, IDC_PREVIEW_PRINT);
+  Press(run_->WaitFor(L"Print"), IDOK);
+  const std::string text = Printed();
+  publishing::ForEachRow(table_, [&](const publishing::Row& row) {
+    if (row.kind == publishing::RowKind::kGroup) return;
+    const std::string line = LineWith(text, row.cells[0] + " ");
+    for (const std::string& cell : row.cells) EXPECT_THAT(line, HasSubstr(cell));
+  });
+  const std::size_t pages = CountOf(text, "\f");
+  EXPECT_EQ(CountOf(text, "Zmanim of Aachen"), pages) << "the title, then the running head";
 }
 
 // Every week of the year in its own line, on one page.
