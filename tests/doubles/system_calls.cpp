@@ -59,6 +59,29 @@ BOOL WINAPI FakeGetSaveFileNameA(LPOPENFILENAMEA dialog) {
   return TRUE;
 }
 
+BOOL WINAPI FakeGetSaveFileNameW(LPOPENFILENAMEW dialog) {
+  LogCall("save dialog for a document");
+  System().offeredType = dialog->nFilterIndex;
+  System().offeredDocument = dialog->lpstrFile;
+  if (System().whileSaving) System().whileSaving();
+  if (System().chosenType != 0) dialog->nFilterIndex = System().chosenType;
+  if (System().savedDocument.empty()) return FALSE;
+  EXPECT_LT(System().savedDocument.size(), dialog->nMaxFile);
+  System().savedDocument.copy(dialog->lpstrFile, dialog->nMaxFile);
+  dialog->lpstrFile[System().savedDocument.size()] = L'\0';
+  return TRUE;
+}
+
+// Logged as UTF-8.
+int WINAPI FakeMessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type) {
+  const auto utf8 = [](LPCWSTR wide) {
+    char bytes[1024] = "";
+    WideCharToMultiByte(CP_UTF8, 0, wide, -1, bytes, sizeof bytes, nullptr, nullptr);
+    return std::string(bytes);
+  };
+  return FakeMessageBoxA(owner, utf8(text).c_str(), utf8(caption).c_str(), type);
+}
+
 DWORD WINAPI FakeCommDlgExtendedError() {
   return System().saveDialogError;
 }
@@ -328,6 +351,8 @@ HANDLE WINAPI NotedSetClipboardData(UINT format, HANDLE block) {
 
 extern "C" {
 decltype(&MessageBoxA) __imp_MessageBoxA = FakeMessageBoxA;
+decltype(&MessageBoxW) __imp_MessageBoxW = FakeMessageBoxW;
+decltype(&GetSaveFileNameW) __imp_GetSaveFileNameW = FakeGetSaveFileNameW;
 decltype(&GetSaveFileNameA) __imp_GetSaveFileNameA = FakeGetSaveFileNameA;
 decltype(&CommDlgExtendedError) __imp_CommDlgExtendedError = FakeCommDlgExtendedError;
 decltype(&FatalAppExitA) __imp_FatalAppExitA = FakeFatalAppExitA;

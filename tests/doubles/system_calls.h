@@ -45,8 +45,12 @@ struct SystemScript {
   DWORD chosenType = 0;                 // in it, from 1; 0: the one it began with
   SaveDialog saveDialog;                // the last one
   std::function<void()> whileSaving{};  // what happens while it is open
-  std::string missingLibrary;           // what LoadLibrary does not find ...
-  UINT_PTR missingLibraryHandle;        // ... and answers for it
+  // The same for the dialog that takes names of any script.
+  std::wstring savedDocument{};
+  DWORD offeredType = 0;  // from 1
+  std::wstring offeredDocument{};
+  std::string missingLibrary;     // what LoadLibrary does not find ...
+  UINT_PTR missingLibraryHandle;  // ... and answers for it
 
   DWORD saveDialogError;           // why a save dialog had no answer; 0: it was cancelled
   int failingWrites;               // of files, that are still to come

@@ -90,6 +90,9 @@ TEST_F(HelpKeyTest, EachDialogOfTheProgramHasItsPage) {
                                                        {"EXPNEWDATA", "Exports and printing"},
                                                        {"ABORTDLG", "Exports and printing"},
                                                        {"EDITZMANIMDLG", "Zmanim"},
+                                                       {"SAVEDOCUMENT", "Documents"},
+                                                       {"PRINTCALENDAR", "Documents"},
+                                                       {"SAVINGDOCUMENT", "Documents"},
                                                        {"DAFYOMI", "Persons"}};
   for (const auto& [name, topic] : pages) {
     ExpectTopicOfDialog([&, name = name] { RunDialog<HandleAny>(frame_, name); }, topic);

@@ -80,6 +80,8 @@ TEST_F(MenuTest, MenuTextsOfTheCommandsStand) {
       {1020, "Export Zmanim..."},
       {1021, "Export Gregorian/Jewish date, Torah/Haphtarah readings and Holidays..."},
       {1102, "Su&mmer time..."},
+      {1109, "Save as doc&ument..."},
+      {1110, "Print &calendar..."},
       {1135, "&Daf Yomi..."},
       {1136, "&Birthdays and yahrzeit..."},
       {1137, "Bar and bat &mitzvah..."},
@@ -124,11 +126,12 @@ TEST_F(MenuTest, CommandsWithoutActionAreGreyedAndIgnored) {
 TEST_F(MenuTest, WindowCommandsAreEnabledWhileADocumentIsActive) {
   ListNoUserPlace("Aachen");
   const HWND frame = OpenFrame();
-  for (const unsigned id : {2001u, 2002u, 2003u, 2005u, 1111u, 1135u, 1136u, 1137u, 1138u, 1010u})
+  for (const unsigned id : {1109u, 1110u, 2001u, 2002u, 2003u, 2005u, 1111u, 1135u, 1136u, 1137u, 1138u, 1010u})
     EXPECT_TRUE(IsEnabled(frame, id)) << id;
   Command(frame, IDM_WINDOW_CLOSE_ALL);
   EXPECT_EQ(ActiveDocument(), nullptr);
-  for (const unsigned id : {1004u, 1005u, 2001u, 2002u, 2003u, 2004u, 2005u, 1111u, 1135u, 1136u, 1137u, 1138u}) {
+  for (const unsigned id :
+       {1004u, 1005u, 1109u, 1110u, 2001u, 2002u, 2003u, 2004u, 2005u, 1111u, 1135u, 1136u, 1137u, 1138u}) {
     EXPECT_FALSE(IsEnabled(frame, id)) << id;
   }
   EXPECT_TRUE(IsEnabled(frame, 1010));
