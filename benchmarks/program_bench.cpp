@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "app/compute_document.h"
+#include "benchmarks/documents_bench.h"
 #include "benchmarks/exports_bench.h"
 #include "benchmarks/kinship_bench.h"
 #include "benchmarks/languages_bench.h"
@@ -155,6 +156,7 @@ int main() {
   LoadStringTable(GetModuleHandleA(nullptr));
   LookUpOptionalEntries();
   if (!BindCivilCalendar() || !BindLunarCalendar() || !BindSolar()) return 1;
+  LookUpSolarEntries();
   {
     const SettingsHome home;
     WriteSettings();
@@ -164,6 +166,7 @@ int main() {
     MeasureShabbatTimes("32,000 Shabbatot by degrees, ms");
     if (!MeasureZmanim(home)) return 1;
     MeasureExports(home);
+    MeasureDocuments(home);
     MeasureLanguages(home);
     MeasureKinship(home);
     MeasurePages();
