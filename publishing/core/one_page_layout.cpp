@@ -17,7 +17,7 @@ constexpr int kGroupGap = 25;
 
 // How much of what is left beside and below the rows goes between them, in percent of what is there.
 constexpr int kMostColumnSpread = 120;
-constexpr int kMostLeading = 60;
+constexpr int kMostLeading = 90;
 
 // Of the title, to what it would be otherwise, in percent.
 constexpr int kTitleSize = 140;

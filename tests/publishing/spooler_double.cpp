@@ -96,6 +96,11 @@ HBITMAP WINAPI CountedCreateCompatibleBitmap(HDC dc, int width, int height) {
   ++held;
   return REAL("gdi32", CreateCompatibleBitmap)(dc, width, height);
 }
+HBITMAP WINAPI CountedCreateDIBSection(HDC dc, const BITMAPINFO* form, UINT usage, void** dots, HANDLE section,
+                                       DWORD offset) {
+  ++held;
+  return REAL("gdi32", CreateDIBSection)(dc, form, usage, dots, section, offset);
+}
 HDC WINAPI CountedCreateCompatibleDC(HDC dc) {
   ++held;
   return REAL("gdi32", CreateCompatibleDC)(dc);
@@ -124,6 +129,7 @@ decltype(&EndDoc) __imp_EndDoc = FakeEndDoc;
 decltype(&AbortDoc) __imp_AbortDoc = FakeAbortDoc;
 decltype(&CreateFontIndirectW) __imp_CreateFontIndirectW = CountedCreateFontIndirectW;
 decltype(&CreateCompatibleBitmap) __imp_CreateCompatibleBitmap = CountedCreateCompatibleBitmap;
+decltype(&CreateDIBSection) __imp_CreateDIBSection = CountedCreateDIBSection;
 decltype(&CreateCompatibleDC) __imp_CreateCompatibleDC = CountedCreateCompatibleDC;
 decltype(&DeleteObject) __imp_DeleteObject = CountedDeleteObject;
 decltype(&DeleteDC) __imp_DeleteDC = CountedDeleteDC;
