@@ -21,6 +21,6 @@ void BuildReadingsList(HWND document, uint32_t startDay, uint32_t startMonth, ui
 // without readings is left alone; without memory it keeps what it has, form and all, until the next call.
 bool RenewReadings(HWND document);
 
-// Readings of a range by a choice (readings_form.h) as a block of its own, which the caller frees; null without any, and
-// without memory. They are in the form that ReadingsFormNow answers.
+// Readings of a range by a choice (readings_form.h) as a block of its own, which the caller frees; null without any,
+// and without memory. They are in the form that ReadingsFormNow answers.
 HGLOBAL MakeReadings(const DateRange& range, uint32_t choice);

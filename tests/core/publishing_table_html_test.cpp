@@ -147,11 +147,13 @@ TEST(TableHtml, WhereThereIsNothingToShowThereIsNoElement) {
   EXPECT_EQ(OfCell({}, "\x1B"), "<td>");
 }
 
-TEST(TableHtml, ADateIsNotBrokenOverLines) {
+TEST(TableHtml, DatesAndTimesAreNotBrokenOverLines) {
   EXPECT_EQ(OfCell({}, "2026-03-09"), "<td class=\"whole\"><bdi>2026-03-09</bdi>");
   EXPECT_EQ(OfCell({.align = Align::kEnd}, "9. 3."), "<td class=\"end whole\"><bdi>9. 3.</bdi>");
-  EXPECT_EQ(OfCell({}, "9-a"), "<td><bdi>9-a</bdi>");
-  const std::string hyphens(25, '-');
+  EXPECT_EQ(OfCell({}, "08:02 a.m."), "<td class=\"whole\"><bdi>08:02 a.m.</bdi>");
+  EXPECT_EQ(OfCell({}, "17 Cheshvan 5787"), "<td class=\"whole\"><bdi>17 Cheshvan 5787</bdi>");
+  EXPECT_EQ(OfCell({}, "Bereshit"), "<td><bdi>Bereshit</bdi>");
+  const std::string hyphens(19, '-');
   EXPECT_EQ(OfCell({}, hyphens), "<td><bdi>" + hyphens + "</bdi>");
 }
 

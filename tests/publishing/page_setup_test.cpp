@@ -112,7 +112,7 @@ TEST_F(PreviewedSetup, TheSystemsDialogTurnsThePaper) {
   Press(dialog, IDOK);
   EXPECT_TRUE(Eventually([this] { return Number() == L"Page 1 of 6"; }));
   Close();
-  EXPECT_EQ(setup_.orientation, publishing::PaperOrientation::kLandscape);
+  EXPECT_EQ(setup_.orientation, publishing::Orientation::kLandscape);
   EXPECT_EQ(setup_.margins, publishing::PageMargins{});
 }
 

@@ -145,7 +145,7 @@ TEST_F(PrintedPages, AWideTableLiesAcrossWithEveryTimeInTheLineOfItsDay) {
 // Every week of the year in its own line, on one page.
 class PrintedYear : public PrintedPages {
  protected:
-  std::string Print(const YearWords& words, publishing::PaperOrientation orientation, int paper) {
+  std::string Print(const YearWords& words, publishing::Orientation orientation, int paper) {
     setup_.orientation = orientation;
     setup_.paper = paper;
     Open(YearTable(words), publishing::PaperLayout::kOnePage);
@@ -167,30 +167,30 @@ class PrintedYear : public PrintedPages {
 };
 
 TEST_F(PrintedYear, EnglishOnA4) {
-  const std::string text = Print(EnglishYear(), publishing::PaperOrientation::kPortrait, DMPAPER_A4);
+  const std::string text = Print(EnglishYear(), publishing::Orientation::kPortrait, DMPAPER_A4);
   ExpectTheYear(text);
   EXPECT_THAT(LineWith(text, "16:01"), HasSubstr("Pesach Shabbat Chol ha-Moed"));
 }
 
 TEST_F(PrintedYear, EnglishOnLetterAcross) {
-  const std::string text = Print(EnglishYear(), publishing::PaperOrientation::kLandscape, DMPAPER_LETTER);
+  const std::string text = Print(EnglishYear(), publishing::Orientation::kLandscape, DMPAPER_LETTER);
   ExpectTheYear(text);
   EXPECT_THAT(LineWith(text, "16:02"), HasSubstr("Acharei Mot-Kedoshim"));
 }
 
 TEST_F(PrintedYear, HebrewOnLetter) {
-  const std::string text = Print(HebrewYear(), publishing::PaperOrientation::kPortrait, DMPAPER_LETTER);
+  const std::string text = Print(HebrewYear(), publishing::Orientation::kPortrait, DMPAPER_LETTER);
   ExpectTheYear(text);
   EXPECT_THAT(LineWith(text, "16:05"), HasSubstr("חיי שרה"));
 }
 
 TEST_F(PrintedYear, HebrewOnA4Across) {
-  const std::string text = Print(HebrewYear(), publishing::PaperOrientation::kLandscape, DMPAPER_A4);
+  const std::string text = Print(HebrewYear(), publishing::Orientation::kLandscape, DMPAPER_A4);
   ExpectTheYear(text);
 }
 
 TEST_F(PrintedYear, RussianOnA4) {
-  const std::string text = Print(RussianYear(), publishing::PaperOrientation::kPortrait, DMPAPER_A4);
+  const std::string text = Print(RussianYear(), publishing::Orientation::kPortrait, DMPAPER_A4);
   ExpectTheYear(text);
   EXPECT_THAT(LineWith(text, "16:01"), HasSubstr("Песах, Шаббат Холь а-Моэд"));
 }
