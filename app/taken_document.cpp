@@ -173,21 +173,34 @@ int32_t TakenDocument::ClockOffsetSeconds(const CalendarDate& date, int32_t minu
                                              place.longitude, place.zoneHours, place.zoneMinutes);
 }
 
+// Of one day at a time: all its zmanim are asked for in turn.
+const DaySun& TakenDocument::SunOf(const CalendarDate& date) const {
+  const int32_t day = AbsoluteFromDate(date);
+  if (sunDay_ != day) {
+    sun_ = {SunEvent(source_.location, date, SOLAR_SUNRISE), SunEvent(source_.location, date, SOLAR_SUNSET)};
+    sunDay_ = day;
+  }
+  return sun_;
+}
+
 // The built-in zmanim have hours below 0 and from 24 on for other days. A time set by hand is on the day on which it is
 // nearest to the one that would be calculated.
 int32_t TakenDocument::ZmanDayOffset(const ZmanimDay& day, uint32_t zman) const {
   if (!zmanimFromLibrary_ || !OptionalEntries.HoursGetDayOffset) return 0;
   const Location& place = source_.location;
   const CalendarDate& date = day.date;
-  const ClockTime sunrise = SunEvent(place, date, SOLAR_SUNRISE);
-  const ClockTime sunset = SunEvent(place, date, SOLAR_SUNSET);
+  const auto& [sunrise, sunset] = SunOf(date);
+  const int32_t offset = OptionalEntries.HoursGetDayOffset(place.latitude, place.longitude, place.zoneHours,
+                                                           place.zoneMinutes, date.uDay, date.uMonth, date.uYear, zman,
+                                                           sunrise.hour, sunrise.minute, sunset.hour, sunset.minute);
+  constexpr int32_t kMorning = 6;
+  constexpr int32_t kEvening = 18;
+  const bool isFarFromMidnight = day.times[zman].hour >= kMorning && day.times[zman].hour < kEvening;
+  if (offset == 0 && isFarFromMidnight) return 0;
   const int32_t calculated =
       HoursCalculate2(nullptr, place.latitude, place.longitude, place.zoneHours, place.zoneMinutes, date.uDay,
                       date.uMonth, date.uYear, zman, sunrise.hour, sunrise.minute, sunset.hour, sunset.minute);
   if (calculated < 0) return 0;
-  const int32_t offset = OptionalEntries.HoursGetDayOffset(place.latitude, place.longitude, place.zoneHours,
-                                                           place.zoneMinutes, date.uDay, date.uMonth, date.uYear, zman,
-                                                           sunrise.hour, sunrise.minute, sunset.hour, sunset.minute);
   const int32_t shown = day.times[zman].hour * kMinutesPerHour + day.times[zman].minute;
   const int32_t earlier = calculated + offset * kMinutesPerDay - shown;  // than the time on the date itself
   if (earlier > kMinutesPerDay / 2) return 1;

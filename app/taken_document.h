@@ -8,6 +8,7 @@
 
 #include "app/core/document_source.h"
 #include "readings/readings_form.h"
+#include "zmanim/core/builtin_zmanim.h"
 
 class TakenDocument : private DocumentServices {
  public:
@@ -34,6 +35,7 @@ class TakenDocument : private DocumentServices {
   std::string OfWestern(std::string_view text) const override;
   int32_t ClockOffsetSeconds(const CalendarDate& date, int32_t minuteOfDay) const override;
   int32_t ZmanDayOffset(const ZmanimDay& day, uint32_t zman) const override;
+  const DaySun& SunOf(const CalendarDate& date) const;
 
   std::vector<ShabbatTimeEntry> shabbatTimes_;
   std::vector<ZmanimDay> zmanim_;
@@ -42,4 +44,6 @@ class TakenDocument : private DocumentServices {
   UINT readingsCodePage_;
   bool zmanimFromLibrary_ = false;
   DocumentSource source_;
+  mutable DaySun sun_{};
+  mutable int32_t sunDay_ = 0;  // no day of a document
 };
