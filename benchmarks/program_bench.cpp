@@ -6,10 +6,12 @@
 #include <iterator>
 
 #include "app/compute_document.h"
+#include "benchmarks/documents_bench.h"
 #include "benchmarks/exports_bench.h"
 #include "benchmarks/kinship_bench.h"
 #include "benchmarks/languages_bench.h"
 #include "benchmarks/measured.h"
+#include "benchmarks/pages_bench.h"
 #include "benchmarks/start_up_bench.h"
 #include "benchmarks/zmanim_bench.h"
 #include "companion/profile.h"
@@ -154,6 +156,7 @@ int main() {
   LoadStringTable(GetModuleHandleA(nullptr));
   LookUpOptionalEntries();
   if (!BindCivilCalendar() || !BindLunarCalendar() || !BindSolar()) return 1;
+  LookUpSolarEntries();
   {
     const SettingsHome home;
     WriteSettings();
@@ -163,8 +166,10 @@ int main() {
     MeasureShabbatTimes("32,000 Shabbatot by degrees, ms");
     if (!MeasureZmanim(home)) return 1;
     MeasureExports(home);
+    MeasureDocuments(home);
     MeasureLanguages(home);
     MeasureKinship(home);
+    MeasurePages();
   }
   return MeasureStartUp() ? 0 : 1;
 }

@@ -48,10 +48,10 @@ void SolarGetSunsetSunrise(uint32_t day, uint32_t month, uint32_t year, uint32_t
 uint32_t SolarDescribeZone(int32_t latitude, int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes,
                            char* buffer, uint32_t size);
 
-/* Optional; looked up by name. How many seconds the clock in force at a place is ahead of UTC when it shows a minute of a
- * Gregorian date: minuteOfDay counts from the date's midnight, below 0 or from 1440 on it is another date's. Of a time
- * that the clock shows twice, as it is put back, the first counts; one that is left out, as it is put forward, is told
- * as if the clock had not been. */
+/* Optional; looked up by name. How many seconds the clock in force at a place is ahead of UTC when it shows a minute of
+ * a Gregorian date: minuteOfDay counts from the date's midnight, below 0 or from 1440 on it is another date's. Of a
+ * time that the clock shows twice, as it is put back, the first counts; one that is left out, as it is put forward, is
+ * told as if the clock had not been. */
 int32_t SolarGetClockOffset(uint32_t day, uint32_t month, uint32_t year, int32_t minuteOfDay, int32_t latitude,
                             int32_t longitude, int32_t timeZoneHours, int32_t timeZoneMinutes);
 

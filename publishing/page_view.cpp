@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "publishing/dc_surface.h"
+#include "publishing/fine_picture.h"
 #include "publishing/preview_ids.h"
 #include "win/scoped.h"
 
@@ -11,7 +12,9 @@ namespace publishing {
 namespace {
 
 constexpr wchar_t kClassName[] = L"TimesReadingsPageView";
-constexpr int kShadow = 3;            // pixels
+constexpr int kShadow = 3;  // pixels
+constexpr double kFineDotsPerInch = 300;
+constexpr int kMostFineness = 3;
 constexpr int kLinesForAnArrow = 40;  // pixels
 
 struct View {
@@ -120,6 +123,27 @@ void FillBox(HDC dc, int x, int y, const PixelExtent& size, int brush) {
   FillRect(dc, &box, static_cast<HBRUSH>(GetStockObject(brush)));
 }
 
+int FinenessOf(const PageOnScreen& layout) {
+  const double dotsPerInch = layout.scale * kDotsPerInch;
+  return std::clamp(static_cast<int>(kFineDotsPerInch / dotsPerInch), 1, kMostFineness);
+}
+
+// page: where it stands in the context; seen: the part of it that is to be drawn.
+void DrawFine(HDC dc, const View& view, const PageOnScreen& layout, POINT page, const RECT& seen) {
+  const int fineness = FinenessOf(layout);
+  FinePicture picture(seen.right - seen.left, seen.bottom - seen.top, fineness);
+  if (!picture.dc()) return;
+  const int saved = SaveDC(picture.dc());
+  {
+    const double scale = layout.scale * fineness;
+    const POINT corner = {(page.x - seen.left) * fineness, (page.y - seen.top) * fineness};
+    DcSurface surface(picture.dc(), view.shown.font, {scale, scale, corner});
+    view.shown.pages->Draw(surface, view.shown.page);
+  }
+  RestoreDC(picture.dc(), saved);
+  picture.Show(dc, seen.left, seen.top);
+}
+
 void PaintPage(HDC dc, const View& view, const PageOnScreen& layout, const RECT& client) {
   FillRect(dc, &client, GetSysColorBrush(COLOR_APPWORKSPACE));
   const int x = layout.PageX() - view.position.x;
@@ -127,9 +151,9 @@ void PaintPage(HDC dc, const View& view, const PageOnScreen& layout, const RECT&
   FillBox(dc, x + kShadow, y + kShadow, {layout.page.width + 1, layout.page.height + 1}, DKGRAY_BRUSH);
   FillBox(dc, x - 1, y - 1, {layout.page.width + 2, layout.page.height + 2}, BLACK_BRUSH);
   FillBox(dc, x, y, layout.page, WHITE_BRUSH);
-  IntersectClipRect(dc, x, y, x + layout.page.width, y + layout.page.height);
-  DcSurface surface(dc, view.shown.font, {layout.scale, layout.scale, {x, y}});
-  view.shown.pages->Draw(surface, view.shown.page);
+  const RECT page = {x, y, x + layout.page.width, y + layout.page.height};
+  RECT seen{};
+  if (IntersectRect(&seen, &page, &client)) DrawFine(dc, view, layout, {x, y}, seen);
 }
 
 // Into memory first, so that nothing flickers while the window grows.

@@ -80,7 +80,7 @@ bool Preview::LayOutFirst(HWND owner) {
   LayingOut done = laidOut_.LayOut(owner, printer_.sheet());
   const Sheet& sheet = printer_.sheet();
   // Wide tables lie across, as long as the user does not choose otherwise.
-  const bool mayTurn = setup_.orientation == PaperOrientation::kAutomatic && sheet.width < sheet.height;
+  const bool mayTurn = setup_.orientation == Orientation::kAutomatic && sheet.width < sheet.height;
   if (done == LayingOut::kNarrowed && mayTurn && printer_.TurnPaper()) {
     done = laidOut_.LayOut(owner, printer_.sheet());
   }

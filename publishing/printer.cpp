@@ -106,15 +106,15 @@ void Printer::Use(const PageSetup& setup) {
 }
 
 // What is not chosen stays as it is.
-void Printer::SetPaper(int paper, PaperOrientation orientation) {
+void Printer::SetPaper(int paper, Orientation orientation) {
   const ScopedGlobalLock<DEVMODEW> mode(mode_);
   if (!mode) return;
   if (paper != 0 && (mode->dmFields & DM_PAPERSIZE)) {
     mode->dmPaperSize = static_cast<short>(paper);
     mode->dmFields &= ~static_cast<DWORD>(DM_PAPERWIDTH | DM_PAPERLENGTH | DM_FORMNAME);  // which would name another
   }
-  if (orientation != PaperOrientation::kAutomatic && (mode->dmFields & DM_ORIENTATION)) {
-    mode->dmOrientation = orientation == PaperOrientation::kLandscape ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
+  if (orientation != Orientation::kAutomatic && (mode->dmFields & DM_ORIENTATION)) {
+    mode->dmOrientation = orientation == Orientation::kLandscape ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
   }
 }
 
@@ -130,8 +130,7 @@ void Printer::StorePaper(const Paper& before) {
   const Paper now = PaperNow();
   if (now.size != before.size) setup_.paper = now.size;
   if (now.orientation != before.orientation) {
-    setup_.orientation =
-        now.orientation == DMORIENT_LANDSCAPE ? PaperOrientation::kLandscape : PaperOrientation::kPortrait;
+    setup_.orientation = now.orientation == DMORIENT_LANDSCAPE ? Orientation::kLandscape : Orientation::kPortrait;
   }
 }
 
@@ -171,7 +170,7 @@ void Printer::TakeUsualPaper() {
   const bool isLetter = setup_.paper == DMPAPER_LETTER || (isUsuallyLetter && setup_.paper != DMPAPER_A4);
   int width = isLetter ? kDotsPerInch * 17 / 2 : Dots(210);
   int height = isLetter ? kDotsPerInch * 11 : Dots(297);
-  if (setup_.orientation == PaperOrientation::kLandscape) std::swap(width, height);
+  if (setup_.orientation == Orientation::kLandscape) std::swap(width, height);
   sheet_ = WithMargins(width, height, {0, 0, width, height});
 }
 

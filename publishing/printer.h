@@ -51,7 +51,7 @@ class Printer {
   };
   Paper PaperNow() const;
   void StorePaper(const Paper& before);
-  void SetPaper(int paper, PaperOrientation orientation);
+  void SetPaper(int paper, Orientation orientation);
   void Measure();
   void MeasureSheet(HDC dc);
   void TakeUsualPaper();

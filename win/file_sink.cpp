@@ -35,7 +35,8 @@ FullPath PartsOf(const std::wstring& whole) {
 std::wstring Wide(const char* text) {
   std::wstring wide(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, text, -1, nullptr, 0)), L'\0');
   MultiByteToWideChar(CP_ACP, 0, text, -1, wide.data(), static_cast<int>(wide.size()));
-  return wide.c_str();
+  wide.resize(wide.find(L'\0'));
+  return wide;
 }
 
 // Empty also where the name is too long for those of 8 bits.

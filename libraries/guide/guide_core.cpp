@@ -6,12 +6,11 @@ namespace guide {
 namespace {
 
 constexpr Topic kTopics[] = {
-    {"Start", "index.html"},       {"Shabbat times", "shabbat_times.html"},
-    {"Places", "places.html"},     {"Accuracy", "accuracy.html"},
-    {"Zmanim", "zmanim.html"},     {"Readings", "readings.html"},
-    {"Persons", "persons.html"},   {"Exports and printing", "exports.html"},
-    {"Documents", "documents.html"},
-    {"Settings", "settings.html"},
+    {"Start", "index.html"},         {"Shabbat times", "shabbat_times.html"},
+    {"Places", "places.html"},       {"Accuracy", "accuracy.html"},
+    {"Zmanim", "zmanim.html"},       {"Readings", "readings.html"},
+    {"Persons", "persons.html"},     {"Exports and printing", "exports.html"},
+    {"Documents", "documents.html"}, {"Settings", "settings.html"},
 };
 
 char LowerCase(char c) {

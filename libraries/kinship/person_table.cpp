@@ -46,8 +46,9 @@ Table TableOf(const std::vector<Person>& people, const Shown& shown) {
   std::vector<std::vector<std::string>> rows;
   for (const Person& person : people) {
     const PersonDates dates = Reckoned(person, shown);
-    std::vector<std::string>& row = rows.emplace_back();
+    std::vector<std::string> row;
     for (int i = 0; i < kColumns; ++i) row.push_back(CellOf(person, dates, static_cast<Column>(i)));
+    rows.push_back(std::move(row));
   }
   table.rows = publishing::ListedTexts(std::move(rows));
   return table;
@@ -60,9 +61,10 @@ Table CsvTableOf(const std::vector<Person>& people, const Shown& shown) {
   std::vector<std::vector<std::string>> rows;
   for (const Person& person : people) {
     const PersonDates dates = Reckoned(person, shown);
-    std::vector<std::string>& row = rows.emplace_back();
+    std::vector<std::string> row;
     for (size_t i = 0; i < kCsvHeadings.size(); ++i) row.push_back(ReadAgain(person, static_cast<CsvField>(i)));
     for (const Column column : kShownInCsv) row.push_back(CellOf(person, dates, column));
+    rows.push_back(std::move(row));
   }
   table.rows = publishing::ListedTexts(std::move(rows));
   return table;

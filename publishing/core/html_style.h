@@ -42,6 +42,7 @@ tbody tr:nth-child(even) td { background: var(--band); }
 .group th { padding-top: 1.5rem; font-size: 1.1rem; border-bottom: 1px solid var(--ink); }
 .bold { font-weight: bold; }
 .end { text-align: end; }
+.whole { white-space: nowrap; }
 @media screen and (max-width: 600px) {
   body { padding: 1.25rem 1rem; }
   main { width: auto; }
@@ -67,6 +68,7 @@ tbody tr:nth-child(even) td { background: var(--band); }
 @media print {
   :root { color-scheme: light; --ink: #000; --soft: #333; --line: #bbb; --band: transparent; --page: #fff; }
   @page { margin: 15mm; }
+  @page across { size: landscape; margin: 10mm; }
   body { padding: 0; font-size: 10pt; }
   main { width: auto; }
   .wide { overflow-x: visible; }
@@ -75,6 +77,10 @@ tbody tr:nth-child(even) td { background: var(--band); }
   tr, h1 { break-inside: avoid; }
   h1, .group { break-after: avoid; }
   .page { break-before: page; }
+  .many, .most { page: across; font-size: 8pt; }
+  .many :is(th, td) { padding: .8mm 1.2mm; }
+  .most { font-size: 6pt; }
+  .most :is(th, td) { padding: .5mm; }
 }
 )";
 

@@ -17,7 +17,7 @@ constexpr int kGroupGap = 25;
 
 // How much of what is left beside and below the rows goes between them, in percent of what is there.
 constexpr int kMostColumnSpread = 120;
-constexpr int kMostLeading = 60;
+constexpr int kMostLeading = 90;
 
 // Of the title, to what it would be otherwise, in percent.
 constexpr int kTitleSize = 140;
@@ -94,7 +94,7 @@ std::optional<OnePageLayout::Plan> OnePageLayout::PlanOf(const OnePageForm& form
   const int height = body_.height - plan.titleHeight - plan.headingHeight - plan.notesHeight;
   plan.room = {form.blocks, height, plan.metrics.groupGap, form.keepsGroupsWhole};
   auto starts = FillBlocks(plan.rows, plan.room);
-  if (!starts) return std::nullopt;
+  if (!starts || height < 0) return std::nullopt;
   plan.starts = std::move(*starts);
   return plan;
 }

@@ -44,7 +44,7 @@ PageSetup PageSetupOf(std::string_view text) {
     if (!TakeNumber(text, kMost[index], numbers[index])) return {};
   }
   if (!text.empty()) return {};
-  return {static_cast<PaperOrientation>(numbers[0]), numbers[1], {numbers[2], numbers[3], numbers[4], numbers[5]}};
+  return {static_cast<Orientation>(numbers[0]), numbers[1], {numbers[2], numbers[3], numbers[4], numbers[5]}};
 }
 
 }  // namespace publishing

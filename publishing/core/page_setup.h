@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-namespace publishing {
+#include "publishing/core/orientation.h"
 
-enum class PaperOrientation : uint8_t { kAutomatic, kPortrait, kLandscape };  // kAutomatic: across when columns need it
+namespace publishing {
 
 // In 1/100 mm, from the sheet's edges.
 struct PageMargins {
@@ -25,7 +25,7 @@ constexpr PageMargins kOnePageMargins = {1270, 1270, 1270, 1270};  // 1/2 inch: 
 constexpr int kMostMargin = 20000;
 
 struct PageSetup {
-  PaperOrientation orientation = PaperOrientation::kAutomatic;
+  Orientation orientation = Orientation::kAutomatic;
   int paper = 0;  // by the system's numbers of papers (DMPAPER_LETTER is 1, DMPAPER_A4 9); 0: the printer's own
   PageMargins margins = {};  // all 0: the usual ones
   friend bool operator==(const PageSetup&, const PageSetup&) = default;

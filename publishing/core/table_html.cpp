@@ -12,6 +12,17 @@ namespace {
 
 constexpr char kNameOfNameless[] = "Times / Readings";  // a page has a name
 
+// More columns than these are printed across the sheet, in small letters, and in smaller ones.
+constexpr std::size_t kManyColumns = 8;
+constexpr std::size_t kMostColumns = 16;
+
+// Longer texts may be broken over lines. Dates of either calendar and times are not.
+constexpr std::size_t kLongestWhole = 18;
+
+bool IsKeptWhole(std::string_view text) {
+  return text.find_first_of(" -") != std::string_view::npos && WidthInCharacters(text) <= kLongestWhole;
+}
+
 std::string_view NameOf(Direction direction) {
   return direction == Direction::kRightToLeft ? "rtl" : "ltr";
 }
@@ -48,7 +59,10 @@ class Writer {
     AppendName();
     html += "</title>\n<style>\n";
     html += kHtmlStyle;
-    html += "</style>\n</head>\n<body>\n<main>\n";
+    html += "</style>\n</head>\n<body>\n";
+    html += table_.columns.size() > kMostColumns   ? "<main class=\"most\">\n"
+            : table_.columns.size() > kManyColumns ? "<main class=\"many\">\n"
+                                                   : "<main>\n";
   }
 
   // What the page and the table are called where there is room for nothing but letters.
@@ -140,7 +154,7 @@ class Writer {
     file_.EndPart();
   }
 
-  // Where a text does not begin at the side where the table does, its cell says so.
+  // A cell says when its text does not begin at the side where the table does, and when it is not to be broken.
   void WriteCell(std::string_view name, std::string_view attributes, const Column& column, const std::string& text) {
     const Direction direction = column.direction == Direction::kNeutral ? FirstDirection(text) : column.direction;
     const bool isTurned = direction != Direction::kNeutral && direction != tableDirection_;
@@ -148,7 +162,9 @@ class Writer {
     html += '<';
     html += name;
     html += attributes;
-    if (isTurned == (column.align == Align::kStart)) html += " class=\"end\"";
+    constexpr std::string_view kClasses[] = {"", " class=\"end\"", " class=\"whole\"", " class=\"end whole\""};
+    const bool isAtEnd = isTurned == (column.align == Align::kStart);
+    html += kClasses[(isAtEnd ? 1 : 0) + (name == "td" && IsKeptWhole(text) ? 2 : 0)];
     html += '>';
     AppendIsolated(text, column.direction);
     html += "</";

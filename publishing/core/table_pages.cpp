@@ -21,8 +21,13 @@ constexpr int kRowGapsInAnInch = 48;
 constexpr int kLeastLinePoints = 7;
 constexpr int kPointsInAnInch = 72;
 
-// Small letters are rounded: of a width that has been reckoned from a larger size this much may be lacking.
+// Small letters are rounded: they may be so much wider than the size says. What is still too wide is measured once
+// more.
 constexpr int kRoundingPercent = 2;
+constexpr int kAttempts = 2;
+
+// The work is done in steps of all rows each: measured, measured again when letters are smaller, lines counted.
+constexpr std::size_t kSteps = 2 + kAttempts;
 
 // Words wider than this part of the page do not make the letters small; they are broken where they must.
 constexpr int kWideWords = 4;
@@ -32,7 +37,7 @@ constexpr int kTitleShare = 2;
 constexpr int kHeadingShare = 3;
 
 // Rows between two calls of the progress.
-constexpr std::size_t kRowsInAStep = 64;
+constexpr std::size_t kRowsInACall = 64;
 
 int Scaled(int length, int size) {
   return static_cast<int>(static_cast<int64_t>(length) * size / kUsualSize);
@@ -57,7 +62,8 @@ TablePages::TablePages(const Table& table, const Sheet& sheet, int dotsPerInch, 
       rowGap_(dotsPerInch / kRowGapsInAnInch),
       hasTitle_(!table.title.empty()) {
   measuring_.SetSize(kUsualSize);
-  MeasureRows(progress);
+  MeasureRows(progress, 0);
+  MakeRoomForWords(progress);
   if (isCancelled_) return;
   PlaceColumns();
   const auto line = [this](PageFont font) { return std::max(measuring_.LineHeight(font), 1); };
@@ -71,8 +77,18 @@ TablePages::TablePages(const Table& table, const Sheet& sheet, int dotsPerInch, 
   if (!isCancelled_) Plan();
 }
 
-// Widths of all texts, and what kind each row is.
-void TablePages::MeasureRows(const Progress& progress) {
+// Whether to go on, before each row. step: from 0.
+bool TablePages::GoesOn(const Progress& progress, std::size_t step, std::size_t row) {
+  const std::size_t count = table_.rows->Count();
+  if (progress && row % kRowsInACall == 0) isCancelled_ = !progress(step * count + row, kSteps * count);
+  return !isCancelled_;
+}
+
+// Widths of all texts at the letters' size, and what kind each row is.
+void TablePages::MeasureRows(const Progress& progress, std::size_t step) {
+  own_.clear();
+  least_.clear();
+  rows_.clear();
   for (const Column& column : table_.columns) {
     const TextWidth width = boldWidths_.Of(column.heading);
     own_.push_back(width.whole);
@@ -81,8 +97,7 @@ void TablePages::MeasureRows(const Progress& progress) {
   const std::size_t count = table_.rows->Count();
   rows_.reserve(count);
   Row row;
-  for (std::size_t index = 0; index < count && !isCancelled_; ++index) {
-    if (progress && index % kRowsInAStep == 0) isCancelled_ = !progress(index, 2 * count);
+  for (std::size_t index = 0; index < count && GoesOn(progress, step, index); ++index) {
     table_.rows->Read(index, row);
     rows_.push_back({1, row.kind == RowKind::kGroup, row.beginsPage});
     if (row.kind == RowKind::kGroup) continue;
@@ -94,39 +109,41 @@ void TablePages::MeasureRows(const Progress& progress) {
       haveLineEnds_ = haveLineEnds_ || !width.isOneLine;
     }
   }
+  for (int& width : least_) width = std::min(width, sheet_.body.width / kWideWords);
 }
 
-// Until all words have room, if they can. least: the columns' widths without gaps.
-void TablePages::ShrinkLetters(const std::vector<int>& least) {
-  const int columns = static_cast<int>(least.size());
-  // Behind the last column there is no gap to keep.
-  const auto lacks = [&] { return Sum(least) + (columns - 1) * gap_ > sheet_.body.width; };
-  if (!lacks()) return;
-  gap_ = std::max(gap_ / 2, 1);
-  if (!lacks()) return;
-  const int needed = std::max(Sum(least) / 100 * (100 + kRoundingPercent) + (columns - 1) * gap_, 1);
+// How wide columns are together. Behind the last one there is no gap to keep.
+int TablePages::WidthOf(const std::vector<int>& columns) const {
+  return Sum(columns) + (static_cast<int>(columns.size()) - 1) * gap_;
+}
+
+// Smaller gaps, and then smaller letters, until all words have room, if they can.
+void TablePages::MakeRoomForWords(const Progress& progress) {
+  if (WidthOf(least_) <= sheet_.body.width) return;
+  const int usualGap = std::max(gap_ / 2, 1);
+  const int usualRowGap = rowGap_;
+  gap_ = usualGap;
   const int line = std::max(measuring_.LineHeight(PageFont::kText), 1);
-  const int smallest = kUsualSize * kLeastLinePoints * dotsPerInch_ / kPointsInAnInch / line;
-  const auto fitting = static_cast<int>(int64_t{kUsualSize} * sheet_.body.width / needed);
-  size_ = std::clamp(fitting, std::min(smallest, kUsualSize), kUsualSize);
-  gap_ = std::max(Scaled(gap_, size_), 1);
-  rowGap_ = Scaled(rowGap_, size_);
-  measuring_.SetSize(size_);
-  textWidths_.Forget();
-  boldWidths_.Forget();
+  const int smallest = std::min(kUsualSize * kLeastLinePoints * dotsPerInch_ / kPointsInAnInch / line, kUsualSize);
+  for (std::size_t attempt = 1; attempt <= kAttempts; ++attempt) {
+    const int needed = WidthOf(least_);
+    if (needed <= sheet_.body.width || size_ <= smallest || isCancelled_) return;
+    const auto fitting = static_cast<int>(int64_t{size_} * sheet_.body.width / needed);
+    size_ = std::max(fitting * (100 - kRoundingPercent) / 100, smallest);
+    gap_ = std::max(Scaled(usualGap, size_), 1);
+    rowGap_ = Scaled(usualRowGap, size_);
+    measuring_.SetSize(size_);
+    textWidths_.Forget();
+    boldWidths_.Forget();
+    MeasureRows(progress, attempt);
+  }
 }
 
 void TablePages::PlaceColumns() {
-  std::vector<int> least = least_;
-  for (int& width : least) width = std::min(width, sheet_.body.width / kWideWords);
-  if (Sum(own_) + (static_cast<int>(own_.size()) - 1) * gap_ > sheet_.body.width) ShrinkLetters(least);
-  const auto withGap = [this](int width) {
-    const int rounding = size_ == kUsualSize ? 0 : width / 100 * kRoundingPercent;
-    return Scaled(width + rounding, size_) + gap_;
-  };
   std::vector<int> own = own_;
-  std::transform(own_.begin(), own_.end(), own.begin(), withGap);
-  std::transform(least.begin(), least.end(), least.begin(), withGap);
+  std::vector<int> least = least_;
+  for (int& width : own) width += gap_;
+  for (int& width : least) width += gap_;
   const std::vector<int> widths = ColumnWidths(own, least, std::max(sheet_.body.width + gap_, 0));
   isNarrowed_ = widths != own || size_ != kUsualSize;
   int x = 0;
@@ -212,11 +229,7 @@ int TablePages::LinesOf(const Row& row) {
 void TablePages::CountLines(const Progress& progress) {
   const bool haveWrapped = isNarrowed_ || haveLineEnds_;
   Row row;
-  for (std::size_t index = 0; index < rows_.size(); ++index) {
-    if (progress && index % kRowsInAStep == 0 && !progress(rows_.size() + index, 2 * rows_.size())) {
-      isCancelled_ = true;
-      return;
-    }
+  for (std::size_t index = 0; index < rows_.size() && GoesOn(progress, kSteps - 1, index); ++index) {
     if (!haveWrapped && !rows_[index].isGroup) continue;
     table_.rows->Read(index, row);
     rows_[index].lineCount = LinesOf(row);

@@ -47,8 +47,10 @@ class TablePages : public Pages {
     std::size_t count;
   };
 
-  void MeasureRows(const Progress& progress);
-  void ShrinkLetters(const std::vector<int>& least);
+  bool GoesOn(const Progress& progress, std::size_t step, std::size_t row);
+  void MeasureRows(const Progress& progress, std::size_t step);
+  int WidthOf(const std::vector<int>& columns) const;
+  void MakeRoomForWords(const Progress& progress);
   void PlaceColumns();
   void WrapHeadings();
   void WrapTitle();
@@ -93,7 +95,7 @@ class TablePages : public Pages {
   bool isCancelled_ = false;
   bool isNarrowed_ = false;
   bool haveLineEnds_ = false;  // texts of rows
-  std::vector<int> own_;       // the columns' widths by their texts, with the gap
+  std::vector<int> own_;       // the columns' widths by their texts
   std::vector<int> least_;     // by their words
   std::vector<ColumnPlace> columns_;
   Cells title_;  // the title, unless it is empty, and the remarks

@@ -5,18 +5,13 @@
 #include <string>
 
 #include "output/text_sink.h"
+#include "publishing/core/orientation.h"
 #include "publishing/core/progress.h"
 #include "publishing/core/table.h"
 
 namespace publishing {
 
 enum class PaperSize : uint8_t { kA4, kLetter };
-
-enum class Orientation : uint8_t {
-  kAutomatic,  // across the sheet when the columns need it
-  kPortrait,
-  kLandscape,
-};
 
 struct RtfStyle {
   std::string face = {};  // of the font, UTF-8

@@ -42,6 +42,25 @@ TEST(PersonsCsv, WhatIsWrittenIsReadAgain) {
   EXPECT_EQ(import.added, People());
 }
 
+// A spreadsheet would run such names; see formula_guard.h.
+TEST(PersonsCsv, NamesLikeFormulasAreWrittenHarmlessAndReadAgain) {
+  std::vector<Person> people(4, People().back());
+  people[0].name = "=cmd|' /C calc'!A0";
+  people[1].name = "'=1+1";
+  people[2].name = "@Ruth";
+  people[3].name = "'Aharon'";
+  const std::string csv = written::CsvOf(CsvTableOf(people, In2026()));
+  EXPECT_THAT(csv, HasSubstr("\n'=cmd|' /C calc'!A0,"));
+  EXPECT_THAT(csv, HasSubstr("\n'Aharon',"));
+  EXPECT_EQ(ImportedFrom(csv, {}).added, people);
+}
+
+// Other programs write an apostrophe where they mean one.
+TEST(PersonsCsv, AnApostropheBeforeALetterStays) {
+  const Import import = ImportedFrom("Name,Occasion,Date\n'Tal,Birthday,16.02.1950\n", {});
+  EXPECT_THAT(import.added, ElementsAre(Gregorian(Kind::kBirthday, "'Tal", {16, 2, 1950})));
+}
+
 TEST(PersonsCsv, WhatIsThereAlreadyIsPassedOver) {
   std::vector<Person> present = People();
   present.pop_back();

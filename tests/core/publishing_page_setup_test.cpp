@@ -6,7 +6,7 @@ namespace publishing {
 namespace {
 
 TEST(PageSetup, ItsTextGivesItBack) {
-  const PageSetup setup = {PaperOrientation::kLandscape, 9, {1500, 1600, 0, 1800}};
+  const PageSetup setup = {Orientation::kLandscape, 9, {1500, 1600, 0, 1800}};
   EXPECT_EQ(TextOf(setup), "2 9 1500 1600 0 1800");
   EXPECT_EQ(PageSetupOf(TextOf(setup)), setup);
   EXPECT_EQ(PageSetupOf(TextOf({})), PageSetup{});

@@ -147,5 +147,23 @@ TEST(TableHtml, WhereThereIsNothingToShowThereIsNoElement) {
   EXPECT_EQ(OfCell({}, "\x1B"), "<td>");
 }
 
+TEST(TableHtml, DatesAndTimesAreNotBrokenOverLines) {
+  EXPECT_EQ(OfCell({}, "2026-03-09"), "<td class=\"whole\"><bdi>2026-03-09</bdi>");
+  EXPECT_EQ(OfCell({.align = Align::kEnd}, "9. 3."), "<td class=\"end whole\"><bdi>9. 3.</bdi>");
+  EXPECT_EQ(OfCell({}, "08:02 a.m."), "<td class=\"whole\"><bdi>08:02 a.m.</bdi>");
+  EXPECT_EQ(OfCell({}, "17 Cheshvan 5787"), "<td class=\"whole\"><bdi>17 Cheshvan 5787</bdi>");
+  EXPECT_EQ(OfCell({}, "Bereshit"), "<td><bdi>Bereshit</bdi>");
+  const std::string hyphens(19, '-');
+  EXPECT_EQ(OfCell({}, hyphens), "<td><bdi>" + hyphens + "</bdi>");
+}
+
+TEST(TableHtml, ManyColumnsArePrintedAcrossTheSheetInSmallLetters) {
+  const auto of = [](std::size_t columns) { return HtmlOf({.columns = std::vector<Column>(columns, {"H"})}); };
+  EXPECT_THAT(of(8), HasSubstr("<main>\n"));
+  EXPECT_THAT(of(9), HasSubstr("<main class=\"many\">\n"));
+  EXPECT_THAT(of(16), HasSubstr("<main class=\"many\">\n"));
+  EXPECT_THAT(of(17), HasSubstr("<main class=\"most\">\n"));
+}
+
 }  // namespace
 }  // namespace publishing

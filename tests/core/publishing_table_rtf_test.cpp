@@ -118,13 +118,13 @@ TEST(ColumnWidths, NoColumnIsWiderThanItsOwnNorTheTableThanTheRoom) {
 }
 
 TEST(TableRtf, PaperAndOrientationAreTheUsersOwn) {
-  const auto paper = [](PaperSize size, Orientation orientation) {
+  const auto of = [](PaperSize size, Orientation orientation) {
     return RtfOf({.columns = {{"H"}}}, {.face = "F", .paper = size, .orientation = orientation});
   };
-  EXPECT_THAT(paper(PaperSize::kLetter, Orientation::kAutomatic), HasSubstr("\\paperw12240\\paperh15840"));
-  EXPECT_THAT(paper(PaperSize::kLetter, Orientation::kLandscape),
+  EXPECT_THAT(of(PaperSize::kLetter, Orientation::kAutomatic), HasSubstr("\\paperw12240\\paperh15840"));
+  EXPECT_THAT(of(PaperSize::kLetter, Orientation::kLandscape),
               AllOf(HasSubstr("\\paperw15840\\paperh12240"), HasSubstr("\\lndscpsxn")));
-  EXPECT_THAT(paper(PaperSize::kA4, Orientation::kLandscape), HasSubstr("\\paperw16838\\paperh11906"));
+  EXPECT_THAT(of(PaperSize::kA4, Orientation::kLandscape), HasSubstr("\\paperw16838\\paperh11906"));
   EXPECT_THAT(RtfOf({.columns = {{std::string(500, 'x')}}}, {.face = "F", .orientation = Orientation::kPortrait}),
               AllOf(HasSubstr("\\paperw11906\\paperh16838"), Not(HasSubstr("lndscpsxn")), HasSubstr("\\cellx9638")));
 }

@@ -1,6 +1,7 @@
 // Pages as a real printer got them, and as they stand on the screen.
 #include <gmock/gmock.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -93,10 +94,58 @@ TEST_F(PrintedPages, EveryNameIsPrintedOnceInEveryScript) {
   }
 }
 
+TEST_F(PrintedPages, TheMarginsHoldForThePrinterToo) {
+  setup_.margins = {6000, 6000, 6000, 6000};
+  Open(TableOfNames(300));
+  const std::wstring number = Number();
+  Press(preview_, IDC_PREVIEW_PRINT);
+  Press(run_->WaitFor(L"Print"), IDOK);
+  const std::string text = Printed();
+  EXPECT_EQ(number, L"Page 1 of " + std::to_wstring(CountOf(text, "\f")));
+  EXPECT_GT(CountOf(text, "\f"), 6u) << "the pages with the usual margins";
+  EXPECT_EQ(CountOf(text, "ראובן"), 300u);
+}
+
+// A date, a remark and eighteen times.
+publishing::Table WideTable(int days) {
+  publishing::Table table = {.title = "Zmanim of Aachen", .remarks = {"1 January 2026 to 1 March 2026"}};
+  table.runningHead = "Zmanim of Aachen, 1 January 2026 to 1 March 2026";
+  table.columns = {{"Date"}, {"Portion"}};
+  const char* const names[] = {"Dawn", "Earliest tallit", "Sunrise", "Latest Shema", "Latest Shacharit", "Midday"};
+  for (int column = 0; column < 18; ++column) table.columns.push_back({names[column % 6], publishing::Align::kEnd});
+  std::vector<publishing::Row> rows;
+  for (int day = 0; day < days; ++day) {
+    if (day % 30 == 0) rows.push_back({.cells = {"Month"}, .kind = publishing::RowKind::kGroup});
+    rows.push_back({.cells = {std::to_string(1000 + day), day % 7 == 6 ? "Nitzavim-Vayeilech" : ""}});
+    rows.back().isBold = day % 7 == 6;
+    for (int column = 0; column < 18; ++column) {
+      char time[16];
+      std::snprintf(time, sizeof time, "%02d:%02d", (5 + column) % 24, (day * 7 + column) % 60);
+      rows.back().cells.push_back(time);
+    }
+  }
+  table.rows = publishing::Listed(std::move(rows));
+  return table;
+}
+
+TEST_F(PrintedPages, AWideTableLiesAcrossWithEveryTimeInTheLineOfItsDay) {
+  Open(WideTable(60));
+  Press(preview_, IDC_PREVIEW_PRINT);
+  Press(run_->WaitFor(L"Print"), IDOK);
+  const std::string text = Printed();
+  publishing::ForEachRow(table_, [&](const publishing::Row& row) {
+    if (row.kind == publishing::RowKind::kGroup) return;
+    const std::string line = LineWith(text, row.cells[0] + " ");
+    for (const std::string& cell : row.cells) EXPECT_THAT(line, HasSubstr(cell));
+  });
+  const std::size_t pages = CountOf(text, "\f");
+  EXPECT_EQ(CountOf(text, "Zmanim of Aachen"), pages) << "the title, then the running head";
+}
+
 // Every week of the year in its own line, on one page.
 class PrintedYear : public PrintedPages {
  protected:
-  std::string Print(const YearWords& words, publishing::PaperOrientation orientation, int paper) {
+  std::string Print(const YearWords& words, publishing::Orientation orientation, int paper) {
     setup_.orientation = orientation;
     setup_.paper = paper;
     Open(YearTable(words), publishing::PaperLayout::kOnePage);
@@ -118,30 +167,30 @@ class PrintedYear : public PrintedPages {
 };
 
 TEST_F(PrintedYear, EnglishOnA4) {
-  const std::string text = Print(EnglishYear(), publishing::PaperOrientation::kPortrait, DMPAPER_A4);
+  const std::string text = Print(EnglishYear(), publishing::Orientation::kPortrait, DMPAPER_A4);
   ExpectTheYear(text);
   EXPECT_THAT(LineWith(text, "16:01"), HasSubstr("Pesach Shabbat Chol ha-Moed"));
 }
 
 TEST_F(PrintedYear, EnglishOnLetterAcross) {
-  const std::string text = Print(EnglishYear(), publishing::PaperOrientation::kLandscape, DMPAPER_LETTER);
+  const std::string text = Print(EnglishYear(), publishing::Orientation::kLandscape, DMPAPER_LETTER);
   ExpectTheYear(text);
   EXPECT_THAT(LineWith(text, "16:02"), HasSubstr("Acharei Mot-Kedoshim"));
 }
 
 TEST_F(PrintedYear, HebrewOnLetter) {
-  const std::string text = Print(HebrewYear(), publishing::PaperOrientation::kPortrait, DMPAPER_LETTER);
+  const std::string text = Print(HebrewYear(), publishing::Orientation::kPortrait, DMPAPER_LETTER);
   ExpectTheYear(text);
   EXPECT_THAT(LineWith(text, "16:05"), HasSubstr("חיי שרה"));
 }
 
 TEST_F(PrintedYear, HebrewOnA4Across) {
-  const std::string text = Print(HebrewYear(), publishing::PaperOrientation::kLandscape, DMPAPER_A4);
+  const std::string text = Print(HebrewYear(), publishing::Orientation::kLandscape, DMPAPER_A4);
   ExpectTheYear(text);
 }
 
 TEST_F(PrintedYear, RussianOnA4) {
-  const std::string text = Print(RussianYear(), publishing::PaperOrientation::kPortrait, DMPAPER_A4);
+  const std::string text = Print(RussianYear(), publishing::Orientation::kPortrait, DMPAPER_A4);
   ExpectTheYear(text);
   EXPECT_THAT(LineWith(text, "16:01"), HasSubstr("Песах, Шаббат Холь а-Моэд"));
 }

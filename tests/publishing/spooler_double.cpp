@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int kHundredthsInAnInch = 2540;
+
 SpoolerScript spooler;
 std::mutex callsMutex;  // the test looks at them while the job runs
 std::vector<std::string> calls;
@@ -45,11 +47,16 @@ BOOL WINAPI FakePrintDlgW(PRINTDLGW* dialog) {
 BOOL WINAPI FakePageSetupDlgW(PAGESETUPDLGW* dialog) {
   if (spooler.isReal) return REAL("comdlg32", PageSetupDlgW)(dialog);
   if (spooler.dialogError != 0) return FALSE;
-  const RECT& margins = dialog->rtMargin;
-  Record("PageSetupDlg with " + std::to_string(margins.left) + " " + std::to_string(margins.top) + " " +
-         std::to_string(margins.right) + " " + std::to_string(margins.bottom));
+  const int inch = (dialog->Flags & PSD_INTHOUSANDTHSOFINCHES) ? 1000 : kHundredthsInAnInch;
+  std::string call = "PageSetupDlg with";
+  for (const LONG margin :
+       {dialog->rtMargin.left, dialog->rtMargin.top, dialog->rtMargin.right, dialog->rtMargin.bottom}) {
+    call += " " + std::to_string(MulDiv(margin, kHundredthsInAnInch, inch));
+  }
+  Record(call);
   if (spooler.chosenMargins.empty()) return FALSE;
-  dialog->rtMargin = spooler.chosenMargins.front();
+  const int chosen = MulDiv(spooler.chosenMargins.front(), inch, kHundredthsInAnInch);
+  dialog->rtMargin = {chosen, chosen, chosen, chosen};
   spooler.chosenMargins.erase(spooler.chosenMargins.begin());
   return TRUE;
 }
@@ -89,6 +96,11 @@ HBITMAP WINAPI CountedCreateCompatibleBitmap(HDC dc, int width, int height) {
   ++held;
   return REAL("gdi32", CreateCompatibleBitmap)(dc, width, height);
 }
+HBITMAP WINAPI CountedCreateDIBSection(HDC dc, const BITMAPINFO* form, UINT usage, void** dots, HANDLE section,
+                                       DWORD offset) {
+  ++held;
+  return REAL("gdi32", CreateDIBSection)(dc, form, usage, dots, section, offset);
+}
 HDC WINAPI CountedCreateCompatibleDC(HDC dc) {
   ++held;
   return REAL("gdi32", CreateCompatibleDC)(dc);
@@ -117,6 +129,7 @@ decltype(&EndDoc) __imp_EndDoc = FakeEndDoc;
 decltype(&AbortDoc) __imp_AbortDoc = FakeAbortDoc;
 decltype(&CreateFontIndirectW) __imp_CreateFontIndirectW = CountedCreateFontIndirectW;
 decltype(&CreateCompatibleBitmap) __imp_CreateCompatibleBitmap = CountedCreateCompatibleBitmap;
+decltype(&CreateDIBSection) __imp_CreateDIBSection = CountedCreateDIBSection;
 decltype(&CreateCompatibleDC) __imp_CreateCompatibleDC = CountedCreateCompatibleDC;
 decltype(&DeleteObject) __imp_DeleteObject = CountedDeleteObject;
 decltype(&DeleteDC) __imp_DeleteDC = CountedDeleteDC;

@@ -16,7 +16,7 @@ struct SpoolerScript {
   DWORD dialogFlags = 0;  // that the user sets
   WORD firstPage = 1;
   WORD lastPage = 1;
-  std::vector<RECT> chosenMargins;  // in the page setup dialog, one time after the other; then it is cancelled
+  std::vector<int> chosenMargins;  // 1/100 mm in the page setup dialog, one time after the other; then it is cancelled
   int startDocAnswer = 1;
   int startPageAnswer = 1;
   int endPageAnswer = 1;
