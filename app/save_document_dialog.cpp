@@ -89,8 +89,8 @@ void SaveDialog::Store(const DocumentForm& form, DocumentType type) const {
 
 // Days are written in the order in which names of files sort.
 std::string SaveDialog::OfferedName() const {
-  const DateRange range = CoveredRange(document_.source());
   const DocumentChoice choice = contents_->Choice();
+  const DateRange range = CoveredRange(document_.source(), choice.kind);
   return FileNameOf(KindName(choice.kind, choice.language), document_.source().place,
                     DocumentDate(range.start, true) + " - " + DocumentDate(range.end, true));
 }

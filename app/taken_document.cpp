@@ -13,6 +13,7 @@
 #include "engine/properties.h"
 #include "engine/sun_times.h"
 #include "readings/readings_list.h"
+#include "shabbat/core/shabbat_rules.h"
 #include "shabbat/shabbat_list.h"
 #include "win/scoped.h"
 #include "win/unicode_text.h"
@@ -41,6 +42,13 @@ std::vector<ZmanimDay> DaysIn(HGLOBAL block) {
   const ScopedGlobalLock<const ZmanimBlock> days(block);
   if (!days) return {};
   return {days->days, days->days + days->count};
+}
+
+std::vector<ReadingsEntry> ReadingsFor(const DateRange& range, uint32_t choice) {
+  const HGLOBAL block = MakeReadings(range, choice);
+  std::vector<ReadingsEntry> readings = ReadingsIn(block);
+  if (block) GlobalFree(block);
+  return readings;
 }
 
 std::string Decoded(std::string_view text, UINT codePage) {
@@ -91,7 +99,34 @@ TakenDocument::TakenDocument(HWND document)
   source_.zmanimDays = zmanim_;
   source_.readings = readings_;
   source_.zmanim = NamesIn(labels.get());
-  source_.yizkor = Decoded(form_.yizkor, kWestern);
+  TakeCustoms();
+  TakeNeighbours();
+}
+
+void TakenDocument::TakeCustoms() {
+  source_.customs.clear();
+  char name[kTextSize] = "";
+  for (uint32_t custom = 0; OptionalEntries.LectionsGetCustomName; ++custom) {
+    if (!OptionalEntries.LectionsGetCustomName(custom, name)) return;
+    source_.customs.push_back(Decoded(name, readingsCodePage_));
+  }
+}
+
+// By the rules in force now: the document itself has nothing of these days.
+void TakenDocument::TakeNeighbours() {
+  const int32_t dayBefore = AbsoluteDay(source_.range.start) - 1;
+  const int32_t dayAfter = AbsoluteDay(source_.range.end) + 1;
+  if (IsFriday(dayBefore)) source_.fridayBefore = ShabbatTimesFor({Gregorian(dayBefore), Gregorian(dayBefore)});
+  if (IsFriday(dayAfter - 1) && form_.choice != 0) {
+    source_.shabbatAfter = ReadingsFor({Gregorian(dayAfter), Gregorian(dayAfter)}, form_.choice);
+  }
+}
+
+std::vector<ShabbatTimeEntry> TakenDocument::ShabbatTimesFor(const DateRange& range) const {
+  const HGLOBAL block = MakeShabbatTimes(source_.location, range, CandleOverrideFor(source_.location.name));
+  std::vector<ShabbatTimeEntry> times = EntriesOf(block);
+  if (block) GlobalFree(block);
+  return times;
 }
 
 void TakenDocument::TakeRange(const DateRange& range) {
@@ -114,24 +149,24 @@ void TakenDocument::TakeRange(const DateRange& range) {
 void TakenDocument::CutTo(const DateRange& range) {
   const int32_t first = AbsoluteDay(range.start);
   const int32_t last = AbsoluteDay(range.end);
-  const auto isOutside = [&](const CalendarDate& date, int32_t more) {
-    const int32_t day = AbsoluteDay(date);
-    return day < first || day > last + more;
-  };
-  std::erase_if(shabbatTimes_, [&](const ShabbatTimeEntry& entry) { return isOutside(FridayOf(entry), 0); });
-  std::erase_if(readings_, [&](const ReadingsEntry& entry) { return isOutside(entry.date, 1); });
+  shabbatTimes_.insert(shabbatTimes_.begin(), source_.fridayBefore.begin(), source_.fridayBefore.end());
+  std::erase_if(shabbatTimes_, [&](const ShabbatTimeEntry& entry) {
+    const int32_t day = AbsoluteDay(FridayOf(entry));
+    return day < first - 1 || day > last;
+  });
+  std::erase_if(readings_, [&](const ReadingsEntry& entry) {
+    const int32_t day = AbsoluteDay(entry.date);
+    return day < first || day > last + 1;
+  });
 }
 
 void TakenDocument::Calculate(const DateRange& range) {
-  const HGLOBAL times = MakeShabbatTimes(source_.location, range, CandleOverrideFor(source_.location.name));
-  shabbatTimes_ = EntriesOf(times);
-  if (times) GlobalFree(times);
+  shabbatTimes_ = ShabbatTimesFor({Gregorian(AbsoluteDay(range.start) - 1), range.end});
   const uint32_t choice = form_.choice != 0 ? form_.choice : ReadingsChoiceNow();
   form_ = ReadingsFormNow(choice);
   readingsCodePage_ = CodePageOf(form_.font);
-  const HGLOBAL readings = MakeReadings({range.start, DateFromAbsolute(AbsoluteDay(range.end) + 1)}, choice);
-  readings_ = ReadingsIn(readings);
-  if (readings) GlobalFree(readings);
+  TakeCustoms();
+  readings_ = ReadingsFor({range.start, Gregorian(AbsoluteDay(range.end) + 1)}, choice);
 }
 
 int32_t TakenDocument::AbsoluteDay(const CalendarDate& gregorian) const {

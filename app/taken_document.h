@@ -17,11 +17,14 @@ class TakenDocument : private DocumentServices {
   const DocumentSource& source() const { return source_; }
   uint32_t ReadingsLanguage() const { return form_.language; }
 
-  // Leaves the Shabbat times and readings of a range, and no zmanim: the document's own where it has the whole range,
-  // else those that a document of the place would have.
+  // Leaves the Shabbat times and readings of a range, the Friday before its first Shabbat included, and no zmanim: the
+  // document's own where it has the whole range, else those that a document of the place would have.
   void TakeRange(const DateRange& range);
 
  private:
+  void TakeNeighbours();
+  std::vector<ShabbatTimeEntry> ShabbatTimesFor(const DateRange& range) const;
+  void TakeCustoms();
   void Calculate(const DateRange& range);
   void CutTo(const DateRange& range);
 

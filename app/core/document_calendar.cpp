@@ -140,20 +140,23 @@ void Calendar::AddZmanim(const ZmanimDay& day) {
   }
 }
 
-// What the table's row says, a line for each of its texts. The day itself is the event's.
+// What the table's row says, a line for each of its texts but those that the event has itself: its day and its name.
 void Calendar::AddWholeDay(std::size_t item, const CalendarDate& date, const char* kind) {
   publishing::Row row;
   table_.rows->Read(item, row);
+  const std::string portion = PortionOf(source_, date);
+  const std::string summary = portion.empty() ? About(date) : portion;
+  constexpr std::size_t kColumnsOfDay = 2;
   std::string lines;
-  for (std::size_t column = 0; column < row.cells.size(); ++column) {
+  for (std::size_t column = choice_.kind == DocumentKind::kWeeks ? 0 : kColumnsOfDay; column < row.cells.size();
+       ++column) {
     const std::string& text = row.cells[column];
-    if (text.empty()) continue;
+    if (text.empty() || text == summary) continue;
     lines += (lines.empty() ? "" : "\n") + table_.columns[column].heading + ": " + text;
   }
-  const std::string portion = PortionOf(source_, date);
   Add({.uid = Uid(date, kind),
        .date = CivilDateOf(date),
-       .summary = portion.empty() ? About(date) : portion,
+       .summary = summary,
        .description = lines,
        .location = source_.place,
        .categories = {choice_.kind == DocumentKind::kWeeks ? "Shabbat" : "Jewish calendar"}});

@@ -56,6 +56,7 @@ class DocumentRows : public publishing::Rows {
   std::string Date(const CalendarDate& date) const { return DocumentDate(date, choice_.isoDates); }
   std::string Jewish(int32_t day) const { return JewishDateOf(source_, day, choice_.language); }
   std::string Weekday(int32_t day) const { return source_.services.Weekday(WeekdayOf(day), choice_.language); }
+  std::string Yizkor() const { return std::string(WordOf(Word::kYizkor, choice_.language)); }
   std::string Time(ClockTime time) const;
   std::string Candles(const ShabbatTimeEntry& entry) const;
   std::string End(const ShabbatTimeEntry& entry) const;
@@ -139,8 +140,9 @@ std::string DocumentRows::End(const ShabbatTimeEntry& entry) const {
   return Time({static_cast<int32_t>(entry.endHour), static_cast<int32_t>(entry.endMinute)});
 }
 
+// A day that is not in the document has no times here.
 void DocumentRows::AddZmanim(const ZmanimDay* day, Row& row) const {
-  for (const uint32_t zman : choice_.zmanim) row.cells.push_back(day ? Time(day->times[zman]) : Time(kNoTime));
+  for (const uint32_t zman : choice_.zmanim) row.cells.push_back(day ? Time(day->times[zman]) : std::string());
 }
 
 void DocumentRows::ReadWeek(const ShabbatTimeEntry& entry, Row& row) const {
@@ -188,7 +190,7 @@ void DocumentRows::ReadReadings(const ReadingsEntry& entry, Row& row) const {
   AppendLine(torah, services.OfWestern(entry.extraText));
   row.isBold = WeekdayOf(number) == kSaturday;
   row.cells = {Date(entry.date), Weekday(number),     Jewish(number),
-               std::move(torah), std::move(haftarah), entry.isYizkor != 0 ? source_.yizkor : std::string()};
+               std::move(torah), std::move(haftarah), entry.isYizkor != 0 ? Yizkor() : std::string()};
 }
 
 }  // namespace
@@ -207,7 +209,10 @@ std::shared_ptr<const publishing::Rows> RowsOfDocument(const DocumentSource& sou
 
 std::vector<publishing::Column> ColumnsOfDocument(const DocumentSource& source, const DocumentChoice& choice) {
   std::vector<publishing::Column> columns;
-  const auto add = [&](Word word) { columns.push_back({.heading = std::string(WordOf(word, choice.language))}); };
+  const auto add = [&](Word word) {
+    const bool isLarge = word == Word::kCandleLighting || word == Word::kEndOfShabbat;
+    columns.push_back({.heading = std::string(WordOf(word, choice.language)), .isLarge = isLarge});
+  };
   const auto addAll = [&](std::initializer_list<Word> words) { std::ranges::for_each(words, add); };
   const auto addZmanim = [&] {
     for (const uint32_t zman : choice.zmanim)

@@ -19,14 +19,28 @@ const Entry* Find(std::span<const Entry> entries, const CalendarDate& date, Date
   return found != entries.end() && Order(dateOf(*found)) == key ? &*found : nullptr;
 }
 
+// A custom at the end of a name, with its comma; whether there was one.
+bool TakeOffCustom(std::string& name, const std::vector<std::string>& customs) {
+  for (const std::string& custom : customs) {
+    const std::string end = ", " + custom;
+    if (custom.empty() || !name.ends_with(end)) continue;
+    name.resize(name.size() - end.size());
+    return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 const ReadingsEntry* ReadingsOf(const DocumentSource& source, const CalendarDate& date) {
-  return Find(source.readings, date, [](const ReadingsEntry& entry) { return entry.date; });
+  const auto dateOf = [](const ReadingsEntry& entry) { return entry.date; };
+  const ReadingsEntry* const found = Find(source.readings, date, dateOf);
+  return found ? found : Find(std::span<const ReadingsEntry>(source.shabbatAfter), date, dateOf);
 }
 
 const ShabbatTimeEntry* ShabbatTimesOf(const DocumentSource& source, const CalendarDate& friday) {
-  return Find(source.shabbatTimes, friday, FridayOf);
+  const ShabbatTimeEntry* const found = Find(source.shabbatTimes, friday, FridayOf);
+  return found ? found : Find(std::span<const ShabbatTimeEntry>(source.fridayBefore), friday, FridayOf);
 }
 
 const ZmanimDay* ZmanimOf(const DocumentSource& source, const CalendarDate& date) {
@@ -42,5 +56,8 @@ std::string PortionOf(const DocumentSource& source, const CalendarDate& date) {
   const ReadingsEntry* const readings = ReadingsOf(source, date);
   if (!readings) return {};
   const std::string_view text = readings->torah1;
-  return source.services.OfReadings(text.substr(0, text.find(": ")));
+  std::string name = source.services.OfReadings(text.substr(0, text.find(": ")));
+  while (TakeOffCustom(name, source.customs)) {
+  }
+  return name;
 }

@@ -57,7 +57,11 @@ struct DocumentSource {
   std::span<const ZmanimDay> zmanimDays = {};
   std::span<const ReadingsEntry> readings = {};
   std::vector<DocumentZman> zmanim = {};  // in the order of the days' times
-  std::string yizkor = {};                // UTF-8
+  // Beside the range: the Friday before it where it begins with a Shabbat, and the readings of the Shabbat after it
+  // where it ends with a Friday.
+  std::vector<ShabbatTimeEntry> fridayBefore = {};
+  std::vector<ReadingsEntry> shabbatAfter = {};
+  std::vector<std::string> customs = {};  // the readings' words for them, UTF-8
   FormatTime formatTime;
 };
 
@@ -73,6 +77,6 @@ inline CalendarDate FridayOf(const ShabbatTimeEntry& entry) {
 // "18 Kislev 5787", as the language writes it.
 std::string JewishDateOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language);
 
-// What is read on a day by its name, without the verses: "Vayechi" of "Vayechi: Genesis 47:28-50:26". Empty for a day
-// without readings.
+// What is read on a day by its name, without verses and customs: "Vayechi" of "Vayechi: Genesis 47:28-50:26",
+// "Chanukah, day 1" of "Chanukah, day 1, Ashkenazi, Chabad: Numbers 7:1-17". Empty for a day without readings.
 std::string PortionOf(const DocumentSource& source, const CalendarDate& date);

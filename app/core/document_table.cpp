@@ -4,12 +4,12 @@
 
 #include "app/core/document_rows.h"
 #include "app/core/document_words.h"
+#include "shabbat/core/shabbat_rules.h"
 
 namespace {
 
 // "22.11.2026 - 23.12.2026 (12 Kislev 5787 - 13 Tevet 5787)".
-std::string RangeText(const DocumentSource& source, uint32_t language) {
-  const DateRange range = CoveredRange(source);
+std::string RangeText(const DocumentSource& source, const DateRange& range, uint32_t language) {
   const auto jewish = [&](const CalendarDate& date) {
     return JewishDateOf(source, source.services.AbsoluteDay(date), language);
   };
@@ -44,18 +44,32 @@ const std::string& ZmanName(const DocumentSource& source, uint32_t zman, bool he
   return hebrew && hasHebrew ? names.hebrew : names.english;
 }
 
-// A range that is too long is cut in the document's block of zmanim.
-DateRange CoveredRange(const DocumentSource& source) {
-  if (source.zmanimDays.empty()) return source.range;
-  return {source.range.start, source.zmanimDays.back().date};
+// Lists of weeks and of readings hold one more than the most that a range may have when they have been cut.
+DateRange CoveredRange(const DocumentSource& source, DocumentKind kind) {
+  DateRange range = source.range;
+  switch (kind) {
+    case DocumentKind::kShabbatTimes:
+    case DocumentKind::kWeeks:
+    case DocumentKind::kDoorPage:
+      if (source.shabbatTimes.size() > kMostFridays) range.end = FridayOf(source.shabbatTimes.back());
+      break;
+    case DocumentKind::kReadings:
+      if (source.readings.size() > kMaximumReadingDays) range.end = source.readings.back().date;
+      break;
+    case DocumentKind::kDays:
+    case DocumentKind::kZmanim:
+      if (!source.zmanimDays.empty()) range.end = source.zmanimDays.back().date;
+      break;
+  }
+  return range;
 }
 
 publishing::Table DocumentTable(const DocumentSource& source, const DocumentChoice& choice) {
-  const DateRange range = CoveredRange(source);
+  const DateRange range = CoveredRange(source, choice.kind);
   const WordsLanguage& language = WordsLanguageOf(choice.language);
   publishing::Table table;
   table.title = KindName(choice.kind, choice.language) + ": " + source.place;
-  table.remarks = {RangeText(source, choice.language)};
+  table.remarks = {RangeText(source, range, choice.language)};
   table.columns = ColumnsOfDocument(source, choice);
   table.rows = RowsOfDocument(source, choice);
   table.rightToLeft = language.rightToLeft;

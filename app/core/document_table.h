@@ -39,8 +39,8 @@ std::string KindName(DocumentKind kind, uint32_t language);
 // The name of a zman of the source; in English where it has no Hebrew one.
 const std::string& ZmanName(const DocumentSource& source, uint32_t zman, bool hebrew);
 
-// The first and last day that the kind's rows are of, as they stand in the title; the range itself when it has none.
-DateRange CoveredRange(const DocumentSource& source);
+// The first and last day that a kind's rows are of: those of the range, unless the document's block has been cut.
+DateRange CoveredRange(const DocumentSource& source, DocumentKind kind);
 
 // The source and what it refers to have to outlive the table.
 publishing::Table DocumentTable(const DocumentSource& source, const DocumentChoice& choice);

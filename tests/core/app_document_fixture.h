@@ -96,7 +96,7 @@ class DocumentFixture {
   std::vector<ShabbatTimeEntry> shabbatTimes;
   std::vector<ZmanimDay> days;
   std::vector<ReadingsEntry> readings;
-  DocumentSource source{.services = services, .yizkor = "Yizkor", .formatTime = FormatDocumentTime};
+  DocumentSource source{.services = services, .formatTime = FormatDocumentTime};
 
  private:
   void AddDay(int32_t day, int32_t index, uint32_t zmanim) {

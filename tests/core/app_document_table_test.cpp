@@ -4,12 +4,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <string>
 #include <vector>
 
 #include "tests/core/app_document_fixture.h"
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 namespace {
 
@@ -67,7 +71,39 @@ TEST(DocumentTable, TheShabbatAfterARangeThatEndsOnFridayHasNoZmanim) {
   const DocumentFixture document({5, 1, 2007}, {5, 1, 2007});
   const publishing::Table table = DocumentTable(document.source, {.kind = DocumentKind::kWeeks, .zmanim = {0}});
   EXPECT_THAT(RowsOf(table),
-              ElementsAre(ElementsAre("05.01.2007", "16:27", "06.01.2007", "16 month 10 5767", "", "----", "17:31")));
+              ElementsAre(ElementsAre("05.01.2007", "16:27", "06.01.2007", "16 month 10 5767", "", "", "17:31")));
+}
+
+TEST(DocumentTable, TheShabbatAfterARangeThatEndsOnFridayHasItsPortion) {
+  DocumentFixture document({5, 1, 2007}, {5, 1, 2007});
+  ReadingsEntry entry{};
+  entry.date = {6, 1, 2007};
+  std::strcpy(entry.torah1, "Vayechi: Genesis 47:28-50:26");
+  document.source.shabbatAfter = {entry};
+  EXPECT_THAT(RowsOf(DocumentTable(document.source, {.kind = DocumentKind::kShabbatTimes})),
+              ElementsAre(Contains("Vayechi")));
+  EXPECT_THAT(RowsOf(DocumentTable(document.source, {.kind = DocumentKind::kReadings})), IsEmpty());
+}
+
+TEST(DocumentTable, TheShabbatThatARangeBeginsWithHasItsEnd) {
+  DocumentFixture document({6, 1, 2007}, {7, 1, 2007});
+  document.source.fridayBefore = {{5, 1, 2007, 16, 27, 16, 46, 17, 33}};
+  const std::vector<std::vector<std::string>> rows =
+      RowsOf(DocumentTable(document.source, {.kind = DocumentKind::kDays}));
+  ASSERT_THAT(rows, SizeIs(2));
+  EXPECT_EQ(rows[0].back(), "17:33");
+  EXPECT_EQ(rows[1].back(), "");
+  EXPECT_THAT(RowsOf(DocumentTable(document.source, {.kind = DocumentKind::kShabbatTimes})), IsEmpty());
+}
+
+// As the readings library words Chanukah where the customs read different verses.
+TEST(DocumentTable, APortionIsNamedWithoutCustoms) {
+  DocumentFixture document({5, 1, 2007}, {6, 1, 2007});
+  document.source.customs = {"Ashkenazi", "Sephardi", "Chabad", ""};
+  document.AddReadings({5, 1, 2007}, "Chanukah, day 1, Ashkenazi, Chabad: Numbers 7:1-17");
+  document.AddReadings({6, 1, 2007}, "Pesach, day 7, Shabbat: Exodus 13:17-15:26");
+  EXPECT_EQ(PortionOf(document.source, {5, 1, 2007}), "Chanukah, day 1");
+  EXPECT_EQ(PortionOf(document.source, {6, 1, 2007}), "Pesach, day 7, Shabbat");
 }
 
 TEST(DocumentTable, DaysHaveCandleLightingOnFridayAndTheEndOnABoldShabbat) {
