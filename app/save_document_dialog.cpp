@@ -1,6 +1,5 @@
 #include "app/save_document_dialog.h"
 
-#include <new>
 #include <optional>
 
 #include "app/core/document_rows.h"
@@ -9,7 +8,6 @@
 #include "resources/ids.h"
 #include "win/dialog.h"
 #include "win/message_box.h"
-#include "win/unicode_text.h"
 
 namespace {
 
