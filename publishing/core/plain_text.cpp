@@ -1,5 +1,7 @@
 #include "publishing/core/plain_text.h"
 
+#include <algorithm>
+
 #include "publishing/core/unicode.h"
 
 namespace publishing {
@@ -29,6 +31,21 @@ std::string_view ValidUtf8(std::string_view text, std::string& room) {
     if (character != 0) AppendUtf8(room, character);
   }
   return room;
+}
+
+std::string_view TakeLine(std::string_view& text) {
+  const std::size_t end = text.find_first_of("\r\n");
+  const std::string_view line = text.substr(0, end);
+  text.remove_prefix(line.size());
+  text.remove_prefix(text.starts_with("\r\n") ? 2 : text.empty() ? 0 : 1);
+  return line;
+}
+
+std::size_t WidthOfLines(std::string_view text) {
+  if (text.find_first_of("\r\n") == std::string_view::npos) return WidthInCharacters(text);
+  std::size_t widest = 0;
+  while (!text.empty()) widest = std::max(widest, WidthInCharacters(TakeLine(text)));
+  return widest;
 }
 
 std::string_view PlainLine(std::string_view text, std::string& room) {

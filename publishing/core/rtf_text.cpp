@@ -59,14 +59,17 @@ void AppendRtfCharacters(std::string& rtf, std::u32string_view characters) {
 }
 
 void AppendRtfParagraph(std::string& rtf, std::string_view text, const RtfPlace& place, const RtfLetters& letters) {
-  std::string room;
-  const std::string_view line = PlainLine(text, room);
-  const Direction direction = place.direction == Direction::kNeutral ? FirstDirection(line) : place.direction;
+  const Direction direction = place.direction == Direction::kNeutral ? FirstDirection(text) : place.direction;
   const bool rightToLeft = direction == Direction::kNeutral ? place.rightToLeft : direction == Direction::kRightToLeft;
   const bool isAtRight = rightToLeft == (place.align == Align::kStart);
   rtf += rightToLeft ? "\\rtlpar" : "\\ltrpar";
   rtf += isAtRight ? "\\qr " : "\\ql ";
-  AppendRuns(rtf, line, place.direction, letters);
+  std::string room;
+  AppendRuns(rtf, PlainLine(TakeLine(text), room), place.direction, letters);
+  while (!text.empty()) {
+    rtf += "\\line\r\n";
+    AppendRuns(rtf, PlainLine(TakeLine(text), room), place.direction, letters);
+  }
 }
 
 }  // namespace publishing

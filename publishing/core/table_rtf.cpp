@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "publishing/core/column_widths.h"
+#include "publishing/core/plain_text.h"
 #include "publishing/core/row_passes.h"
 #include "publishing/core/rtf_text.h"
 #include "publishing/core/sink_buffer.h"
@@ -73,11 +74,11 @@ class Writer {
  private:
   bool MeasureColumns() {
     std::vector<std::size_t> longest;
-    for (const Column& column : table_.columns) longest.push_back(WidthInCharacters(column.heading));
+    for (const Column& column : table_.columns) longest.push_back(WidthOfLines(column.heading));
     const bool isWhole = passes_.ForEach([&](const Row& row, std::size_t) {
       if (row.kind == RowKind::kGroup) return;
       for (std::size_t column = 0; column < longest.size(); ++column) {
-        longest[column] = std::max(longest[column], WidthInCharacters(CellOf(row, column)));
+        longest[column] = std::max(longest[column], WidthOfLines(CellOf(row, column)));
       }
     });
     std::vector<int> own;

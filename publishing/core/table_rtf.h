@@ -22,7 +22,7 @@ struct RtfStyle {
 
 // RTF in ASCII. Title and remarks stand on the first page, title and first remark small on top of every other, a page's
 // number below each; the row of headings is repeated on every page. Texts written from right to left are aligned so,
-// and so are such parts of other texts. Line ends and tabs within a text become blanks; signs that turn the direction
+// and so are such parts of other texts. Lines of a text stay lines, tabs become blanks; signs that turn the direction
 // of what follows are left out.
 // False when progress ended it; what the sink got until then is no file.
 bool WriteRtf(const Table& table, const RtfStyle& style, TextSink& sink, const Progress& progress = {});

@@ -40,7 +40,9 @@ class Writer {
     return passes_.ForEach([this](const Row& row, std::size_t) {
       if (row.kind == RowKind::kGroup) return;
       for (std::size_t column = 0; column < widths_.size(); ++column) {
-        widths_[column] = std::max(widths_[column], WidthInCharacters(PlainLine(CellOf(row, column), room_)));
+        for (std::string_view rest = CellOf(row, column); !rest.empty();) {
+          widths_[column] = std::max(widths_[column], WidthInCharacters(PlainLine(TakeLine(rest), room_)));
+        }
       }
     });
   }
@@ -56,9 +58,17 @@ class Writer {
       WriteLine("");
       WriteLine(CellOf(row, 0));
     } else {
-      WriteColumns([&](std::size_t column) -> std::string_view { return CellOf(row, column); });
+      WriteLinesOfCells(row);
     }
     file_.EndPart();
+  }
+
+  void WriteLinesOfCells(const Row& row) {
+    rests_.clear();
+    for (std::size_t column = 0; column < widths_.size(); ++column) rests_.emplace_back(CellOf(row, column));
+    do {
+      WriteColumns([&](std::size_t column) { return TakeLine(rests_[column]); });
+    } while (std::ranges::any_of(rests_, [](std::string_view rest) { return !rest.empty(); }));
   }
 
   void WriteLine(std::string_view line) {
@@ -93,6 +103,7 @@ class Writer {
   SinkBuffer file_;
   std::vector<std::size_t> widths_;
   std::string room_;
+  std::vector<std::string_view> rests_;  // of a row's cells, while their lines are written
 };
 
 }  // namespace

@@ -35,8 +35,15 @@ TEST(TableRtf, WhatIsNotAsciiIsWrittenByItsNumber) {
   EXPECT_THAT(rtf, HasSubstr("{\\f0\\fnil\\fcharset0 \\u214?\\{\\};}"));
 }
 
+TEST(TableRtf, LinesOfATextStayLines) {
+  const std::string rtf = OfCell("ab\r\nשם\nc");
+  EXPECT_THAT(rtf, HasSubstr(" ab}\\line\r\n{"));
+  EXPECT_THAT(rtf, HasSubstr("\\u1513?\\u1501?}\\line\r\n{"));
+  EXPECT_THAT(rtf, HasSubstr(" c}\\cell"));
+}
+
 TEST(TableRtf, MarkupInTextsIsEscaped) {
-  EXPECT_THAT(OfCell("{a}\\b\r\nc"), HasSubstr(" \\{a\\}\\\\b c}"));
+  EXPECT_THAT(OfCell("{a}\\b\tc"), HasSubstr(" \\{a\\}\\\\b c}"));
 }
 
 TEST(TableRtf, ATextFromRightToLeftBeginsAtTheRight) {

@@ -27,10 +27,22 @@ TEST(TableText, ColumnsArePaddedByCharacters) {
                                "Li\r\n");
 }
 
-TEST(TableText, BreaksWithinATextAreBlanks) {
+TEST(TableText, BreaksOutsideOfCellsAreBlanks) {
   const Table table = {
       .title = "a\nb", .remarks = {"c\td"}, .columns = {{"e\r\nf"}}, .rows = ListedTexts({{"g\nh\ti"}})};
-  EXPECT_EQ(TextOf(table), kMark + "a b\r\nc d\r\n\r\ne f\r\n-----\r\ng h i\r\n");
+  EXPECT_EQ(TextOf(table), kMark + "a b\r\nc d\r\n\r\ne f\r\n---\r\ng\r\nh i\r\n");
+}
+
+TEST(TableText, LinesOfACellStandBelowEachOther) {
+  const Table table = {.columns = {{"A"}, {"B", Align::kEnd}, {"C"}},
+                       .rows = ListedTexts({{"a\nbcd", "1\r22\r\n333", "x"}, {"e\n", "", "y"}})};
+  EXPECT_EQ(TextOf(table), kMark +
+                               "A      B  C\r\n"
+                               "---  ---  -\r\n"
+                               "a      1  x\r\n"
+                               "bcd   22\r\n"
+                               "     333\r\n"
+                               "e         y\r\n");
 }
 
 TEST(TableText, WithoutTitleItBeginsWithTheHeadings) {

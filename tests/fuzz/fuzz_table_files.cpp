@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "publishing/core/plain_text.h"
 #include "publishing/core/table_rtf.h"
 #include "publishing/core/table_text.h"
 #include "publishing/core/unicode.h"
@@ -49,12 +50,24 @@ void CheckRtf(const std::vector<Row>& rows, const std::string& rtf) {
   FUZZ_CHECK(CountOf(rtf, "\n\\row\r") == rows.size() + headings);
 }
 
-// Every text in its line, without anything that leaves it.
+// Of the columns that there are.
+std::size_t LinesOf(const Row& row, std::size_t columns) {
+  std::size_t most = 1;
+  for (std::size_t column = 0; column < columns; ++column) {
+    std::string_view rest = CellOf(row, column);
+    std::size_t count = 0;
+    for (; !rest.empty(); ++count) TakeLine(rest);
+    most = std::max(most, count);
+  }
+  return most;
+}
+
+// Every text in its lines, without anything that leaves them.
 void CheckText(const Table& table, const std::vector<Row>& rows, const std::string& text) {
   const std::size_t above = table.remarks.size() + (table.title.empty() ? 0 : 1);
   const std::size_t below = table.notes.empty() ? 0 : table.notes.size() + 1;
   std::size_t lines = rows.size() + 2 + above + (above > 0 ? 1 : 0) + below;
-  for (const Row& row : rows) lines += row.kind == RowKind::kGroup;
+  for (const Row& row : rows) lines += row.kind == RowKind::kGroup ? 1 : LinesOf(row, table.columns.size()) - 1;
   FUZZ_CHECK(CountOf(text, "\n") == lines && CountOf(text, "\r") == lines && CountOf(text, "\r\n") == lines);
   FUZZ_CHECK(CountOf(text, " \r") == 0);
   for (std::string_view rest = text; !rest.empty();) {
