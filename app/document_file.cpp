@@ -5,10 +5,10 @@
 #include <cderr.h>
 
 #include "app/core/document_calendar.h"
-#include "app/document_progress.h"
 #include "publishing/core/csv.h"
 #include "publishing/core/table_html.h"
 #include "publishing/core/table_text.h"
+#include "publishing/progress_box.h"
 #include "publishing/utc_now.h"
 #include "win/file_sink.h"
 #include "win/message_box.h"
@@ -109,8 +109,8 @@ void ShowUnwritableDocument(HWND owner, const std::wstring& path) {
 SavingResult SaveDocument(HWND owner, const DocumentSource& source, const DocumentForm& form,
                           const DocumentFile& file) {
   const ScopedWaitCursor wait;
-  DocumentProgress shown(owner);
-  const publishing::Progress progress = [&](std::size_t done, std::size_t all) { return shown.Show(done, all); };
+  publishing::LateProgress late(owner, L"Saving");
+  const publishing::Progress progress = [&late](std::size_t done, std::size_t all) { return late.GoesOn(done, all); };
   FileSink sink(file.path.c_str());
   const SavingResult result = Write(source, form, file.type, sink, progress);
   if (result != SavingResult::kSaved) return result;

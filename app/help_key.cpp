@@ -38,7 +38,6 @@ constexpr HelpTopic kDialogTopics[] = {
     {HELPID_DAF_YOMI, kPersons},
     {HELPID_SAVE_DOCUMENT, kDocuments},
     {HELPID_PRINT_CALENDAR, kDocuments},
-    {HELPID_SAVING_DOCUMENT, kDocuments},
     {HELPID_CANDLES, kShabbatTimes},
     {HELPID_CANDLES_ENTRY, kShabbatTimes},
     {HELPID_HOURS_SELECTION, kZmanim},
@@ -55,7 +54,6 @@ constexpr HelpTopic kDialogTopics[] = {
     {HELPID_KINSHIP_ENTRY, kPersons},
     {HELPID_KINSHIP_EXPORT, kPersons},
     {HELPID_MAJORITY, kPersons},
-    {HELPID_PRINT_PREVIEW, kPersons},
     {HELPID_SOLAR_SUMMER_TIME, kPlaces},
     {HELPID_SAFEKEEP_RESTORE, kSettings},
 };

@@ -114,11 +114,12 @@ void TakenDocument::TakeCustoms() {
 
 // By the rules in force now: the document itself has nothing of these days.
 void TakenDocument::TakeNeighbours() {
-  const int32_t dayBefore = AbsoluteDay(source_.range.start) - 1;
-  const int32_t dayAfter = AbsoluteDay(source_.range.end) + 1;
-  if (IsFriday(dayBefore)) source_.fridayBefore = ShabbatTimesFor({Gregorian(dayBefore), Gregorian(dayBefore)});
+  const int32_t dayBefore = AbsoluteFromDate(source_.range.start) - 1;
+  const int32_t dayAfter = AbsoluteFromDate(source_.range.end) + 1;
+  if (IsFriday(dayBefore))
+    source_.fridayBefore = ShabbatTimesFor({DateFromAbsolute(dayBefore), DateFromAbsolute(dayBefore)});
   if (IsFriday(dayAfter - 1) && form_.choice != 0) {
-    source_.shabbatAfter = ReadingsFor({Gregorian(dayAfter), Gregorian(dayAfter)}, form_.choice);
+    source_.shabbatAfter = ReadingsFor({DateFromAbsolute(dayAfter), DateFromAbsolute(dayAfter)}, form_.choice);
   }
 }
 

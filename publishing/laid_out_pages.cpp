@@ -1,7 +1,5 @@
 #include "publishing/laid_out_pages.h"
 
-#include <optional>
-#include <string>
 #include <utility>
 
 #include "publishing/core/one_page.h"
@@ -10,32 +8,6 @@
 #include "win/scoped.h"
 
 namespace publishing {
-namespace {
-
-constexpr ULONGLONG kPatience = 500;     // milliseconds before the dialog comes up
-constexpr ULONGLONG kBetweenSteps = 50;  // and between what it shows
-
-// The dialog once it is needed.
-class LateProgress {
- public:
-  explicit LateProgress(HWND owner) : owner_(owner) {}
-
-  bool GoesOn(std::size_t done, std::size_t all) {
-    const ULONGLONG now = GetTickCount64();
-    if (now < next_) return true;
-    next_ = now + kBetweenSteps;
-    if (!box_) box_.emplace(owner_, L"Laying Out Pages");
-    box_->Show(std::to_wstring(all ? done * 100 / all : 0) + L" %");
-    return !box_->IsCancelled();
-  }
-
- private:
-  HWND owner_;
-  ULONGLONG next_ = GetTickCount64() + kPatience;
-  std::optional<ProgressBox> box_;
-};
-
-}  // namespace
 
 LaidOutPages::LaidOutPages(const PrintedTable& printed)
     : printed_(printed),
@@ -45,7 +17,7 @@ LaidOutPages::LaidOutPages(const PrintedTable& printed)
 
 LayingOut LaidOutPages::LayOut(HWND owner, const Sheet& sheet) {
   const ScopedWaitCursor wait;
-  LateProgress late(owner);
+  LateProgress late(owner, L"Laying Out Pages");
   const Progress progress = [&late](std::size_t done, std::size_t all) { return late.GoesOn(done, all); };
   return printed_.layout == PaperLayout::kOnePage ? LayOutOnOne(sheet, progress) : LayOutOnSeveral(sheet, progress);
 }

@@ -114,8 +114,10 @@ LRESULT CALLBACK LeafingButtonProc(HWND button, UINT message, WPARAM wParam, LPA
   return DefSubclassProc(button, message, wParam, lParam);
 }
 
+// The help key opens the page of the owner's: the preview has no other.
 void Preview::OnInitDialog(HWND dialog) {
   dialog_ = dialog;
+  if (const HWND owner = GetWindow(dialog, GW_OWNER)) SetWindowContextHelpId(dialog, GetWindowContextHelpId(owner));
   SetWindowTextW(dialog, (printed_.documentName + L" - Print Preview").c_str());
   for (const wchar_t* name : kZoomNames) {
     SendMessageW(Control(IDC_PREVIEW_ZOOM), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));

@@ -5,11 +5,13 @@
 
 namespace publishing {
 
-ProgressBox::ProgressBox(HWND owner, const wchar_t* caption) : owner_(owner) {
+// The help key opens the page of the owner's: the box has no other.
+ProgressBox::ProgressBox(HWND owner, const wchar_t* caption)
+    : owner_(owner), ownerWasEnabled_(owner && !EnableWindow(owner, FALSE)) {
   current_ = this;
-  EnableWindow(owner_, FALSE);
   dialog_ = CreateDialogParamW(ThisModule(), MAKEINTRESOURCEW(IDD_PRINTING), owner_, Handle, 0);
   SetWindowTextW(dialog_, caption);
+  if (owner_) SetWindowContextHelpId(dialog_, GetWindowContextHelpId(owner_));
 }
 
 ProgressBox::~ProgressBox() {
@@ -24,7 +26,7 @@ void ProgressBox::Show(const std::wstring& text) {
 
 // The owner first, lest another program's window comes to the front.
 void ProgressBox::Close() {
-  EnableWindow(owner_, TRUE);
+  if (ownerWasEnabled_) EnableWindow(owner_, TRUE);
   if (dialog_) DestroyWindow(dialog_);
   dialog_ = nullptr;
 }
@@ -53,6 +55,16 @@ INT_PTR CALLBACK ProgressBox::Handle(HWND, UINT message, WPARAM wParam, LPARAM) 
   if (message != WM_COMMAND || LOWORD(wParam) != IDCANCEL) return FALSE;
   if (current_) current_->isCancelled_ = true;
   return TRUE;
+}
+
+bool LateProgress::GoesOn(std::size_t done, std::size_t all) {
+  const ULONGLONG now = GetTickCount64();
+  if (now < next_) return !box_ || !box_->IsCancelled();
+  next_ = now + kBetweenSteps;
+  if (!box_) box_.emplace(owner_, caption_);
+  constexpr std::size_t kPercent = 100;
+  box_->Show(std::to_wstring(all == 0 ? 0 : done * kPercent / all) + L" %");
+  return !box_->IsCancelled();
 }
 
 }  // namespace publishing

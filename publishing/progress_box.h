@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 namespace publishing {
@@ -33,7 +35,27 @@ class ProgressBox {
   static inline ProgressBox* current_ = nullptr;  // the abort procedure is told nothing
   HWND owner_;
   HWND dialog_ = nullptr;
+  bool ownerWasEnabled_;
   bool isCancelled_ = false;
+};
+
+// The dialog of a job that may be short: it comes up once the user has waited for half a second.
+class LateProgress {
+ public:
+  // caption: with static duration.
+  LateProgress(HWND owner, const wchar_t* caption) : owner_(owner), caption_(caption) {}
+
+  // Whether to go on: the user has not cancelled. For Progress.
+  bool GoesOn(std::size_t done, std::size_t all);
+
+ private:
+  HWND owner_;
+  const wchar_t* caption_;
+  ULONGLONG next_ = GetTickCount64() + kPatience;
+  std::optional<ProgressBox> box_;
+
+  static constexpr ULONGLONG kPatience = 500;     // milliseconds
+  static constexpr ULONGLONG kBetweenSteps = 50;  // and between what is shown
 };
 
 }  // namespace publishing

@@ -2,24 +2,15 @@
 
 #include <commdlg.h>
 
-#include <cstring>
 #include <utility>
 
 #include "tests/doubles/call_log.h"
+#include "tests/doubles/real_call.h"
 #include "tests/doubles/system_calls.h"
 
 namespace {
 
 HDC printer = nullptr;
-
-// The system's own function, past the replaced import.
-template <typename Function>
-Function Real(const char* name) {
-  const FARPROC found = GetProcAddress(GetModuleHandleA("gdi32.dll"), name);
-  Function function;
-  std::memcpy(&function, &found, sizeof function);
-  return function;
-}
 
 BOOL WINAPI FakePrintDlgA(LPPRINTDLGA dialog) {
   LogCall("print dialog flags 0x%lx owner %s", dialog->Flags, dialog->hwndOwner ? "yes" : "none");
@@ -36,7 +27,7 @@ BOOL WINAPI FakePrintDlgA(LPPRINTDLGA dialog) {
 }
 
 int WINAPI FakeGetDeviceCaps(HDC dc, int index) {
-  static const auto real = Real<decltype(&GetDeviceCaps)>("GetDeviceCaps");
+  static const auto real = REAL("gdi32.dll", GetDeviceCaps);
   if (dc != printer || Printer().devices == 0) return real(dc, index);
   switch (index) {
     case HORZRES: return Printer().width;
@@ -84,7 +75,7 @@ int WINAPI FakeAbortDoc(HDC) {
 }
 
 BOOL WINAPI FakeDeleteDC(HDC dc) {
-  static const auto real = Real<decltype(&DeleteDC)>("DeleteDC");
+  static const auto real = REAL("gdi32.dll", DeleteDC);
   LogCall("DeleteDC");
   if (dc == printer) --Printer().devices;
   return real(dc);

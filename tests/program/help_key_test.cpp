@@ -1,6 +1,7 @@
 // Which page of the help the help key opens, and which window it is for.
 #include "app/active_document.h"
 #include "companion/dialog_help.h"
+#include "publishing/progress_box.h"
 #include "resources/ids.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/program_fixture.h"
@@ -92,7 +93,6 @@ TEST_F(HelpKeyTest, EachDialogOfTheProgramHasItsPage) {
                                                        {"EDITZMANIMDLG", "Zmanim"},
                                                        {"SAVEDOCUMENT", "Documents"},
                                                        {"PRINTCALENDAR", "Documents"},
-                                                       {"SAVINGDOCUMENT", "Documents"},
                                                        {"DAFYOMI", "Persons"}};
   for (const auto& [name, topic] : pages) {
     ExpectTopicOfDialog([&, name = name] { RunDialog<HandleAny>(frame_, name); }, topic);
@@ -103,6 +103,19 @@ TEST_F(HelpKeyTest, ADialogOfADialogHasItsOwn) {
   WithDialog([&] { RunDialog<HandleAny>(frame_, "SHABTIMEDLG"); },
              [&](HWND dialog) {
                ExpectTopicOfDialog([&] { RunDialog<HandleAny>(dialog, "EDITLOC"); }, "Places");
+               EndDialog(dialog, 0);
+             });
+}
+
+TEST_F(HelpKeyTest, ABoxOfProgressHasThatOfItsOwner) {
+  WithDialog([&] { RunDialog<HandleAny>(frame_, "SAVEDOCUMENT"); },
+             [](HWND dialog) {
+               {
+                 const publishing::ProgressBox box(dialog, L"Saving");
+                 const HWND window = GetLastActivePopup(dialog);
+                 EXPECT_EQ(TextOf(window), "Saving");
+                 ExpectTopic(GetDlgItem(window, IDCANCEL), window, "Documents");
+               }
                EndDialog(dialog, 0);
              });
 }
@@ -123,7 +136,6 @@ TEST_F(HelpKeyTest, EachDialogOfALibraryHasItsPage) {
                                                  {HELPID_KINSHIP_ENTRY, "Persons"},
                                                  {HELPID_KINSHIP_EXPORT, "Persons"},
                                                  {HELPID_MAJORITY, "Persons"},
-                                                 {HELPID_PRINT_PREVIEW, "Persons"},
                                                  {HELPID_SOLAR_SUMMER_TIME, "Places"},
                                                  {HELPID_SAFEKEEP_RESTORE, "Settings"},
                                                  {4711, "Start"}};
