@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <numeric>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "publishing/core/column_widths.h"
 #include "publishing/core/plain_text.h"
@@ -34,11 +37,27 @@ constexpr std::size_t kMostCharacters = 10000;
 constexpr int kLeastHalfPoints = 2;
 constexpr int kMostHalfPoints = 400;
 
+// Where columns have no room side by side, letters become smaller, but not below 7 points, nor for the sake of texts
+// that are longer than this: those are broken.
+constexpr int kLeastSmallHalfPoints = 14;
+constexpr std::size_t kMostUnbroken = 24;
+
 constexpr int kTitleHalfPointsMore = 8;
 constexpr std::size_t kPasses = 2;
 
 int HalfPointsOf(const RtfStyle& style) {
   return std::clamp(style.halfPoints, kLeastHalfPoints, kMostHalfPoints);
+}
+
+// A heading may be broken between its words.
+std::size_t WidestWord(std::string_view heading) {
+  std::size_t widest = 0;
+  while (!heading.empty()) {
+    const std::size_t end = std::min(heading.find_first_of(" \t\r\n"), heading.size());
+    widest = std::max(widest, WidthInCharacters(heading.substr(0, end)));
+    heading.remove_prefix(std::min(end + 1, heading.size()));
+  }
+  return widest;
 }
 
 class Writer {
@@ -74,31 +93,49 @@ class Writer {
  private:
   bool MeasureColumns() {
     std::vector<std::size_t> longest;
-    for (const Column& column : table_.columns) longest.push_back(WidthOfLines(column.heading));
+    for (const Column& column : table_.columns) longest.push_back(WidestWord(column.heading));
     const bool isWhole = passes_.ForEach([&](const Row& row, std::size_t) {
       if (row.kind == RowKind::kGroup) return;
       for (std::size_t column = 0; column < longest.size(); ++column) {
         longest[column] = std::max(longest[column], WidthOfLines(CellOf(row, column)));
       }
     });
-    std::vector<int> own;
-    for (const std::size_t characterCount : longest) {
-      // One more, because the average is no promise.
-      const auto characters = static_cast<double>(std::min(characterCount, kMostCharacters) + 1);
-      own.push_back(static_cast<int>(characters * kCharacterWidth * halfPoints_) + 2 * kCellGap);
-    }
-    isLandscape_ = style_.orientation == Orientation::kAutomatic
-                       ? ColumnWidths(own, paper_.shortEdge - 2 * kMargin) != own
-                       : style_.orientation == Orientation::kLandscape;
-    const int room = (isLandscape_ ? paper_.longEdge : paper_.shortEdge) - 2 * kMargin;
-    widths_ = table_.rightToLeft ? Filling(ColumnWidths(own, room), room) : ColumnWidths(own, room);
+    const int upright = paper_.shortEdge - 2 * kMargin;
+    isLandscape_ = style_.orientation == Orientation::kAutomatic ? Total(OwnWidths(longest, kMostCharacters)) > upright
+                                                                 : style_.orientation == Orientation::kLandscape;
+    const int room = isLandscape_ ? paper_.longEdge - 2 * kMargin : upright;
+    while (halfPoints_ > kLeastSmallHalfPoints && Total(OwnWidths(longest, kMostUnbroken)) > room)
+      SetSize(halfPoints_ - 1);
+    widths_ = ColumnWidths(OwnWidths(longest, kMostCharacters), room);
+    if (table_.rightToLeft) widths_ = Filling(std::move(widths_), room);
     return isWhole;
+  }
+
+  // The widths that columns of so many characters need, of each at most the given number.
+  std::vector<int> OwnWidths(const std::vector<std::size_t>& characters, std::size_t most) const {
+    std::vector<int> widths;
+    for (const std::size_t count : characters) {
+      // One more, because the average is no promise.
+      const auto room = static_cast<double>(std::min(count, most) + 1);
+      widths.push_back(static_cast<int>(room * kCharacterWidth * halfPoints_) + 2 * kCellGap);
+    }
+    return widths;
+  }
+
+  static int64_t Total(const std::vector<int>& widths) {
+    return std::accumulate(widths.begin(), widths.end(), int64_t{0});
+  }
+
+  void SetSize(int halfPoints) {
+    halfPoints_ = halfPoints;
+    text_ = RtfLetters(halfPoints, false);
+    bold_ = RtfLetters(halfPoints, true);
   }
 
   // Word processors do not agree about the margin at which a table that begins at the right stands; this one reaches
   // from margin to margin.
   static std::vector<int> Filling(std::vector<int> widths, int room) {
-    const int total = std::accumulate(widths.begin(), widths.end(), 0);
+    const int total = static_cast<int>(Total(widths));
     for (int& width : widths) width += (room - total) / static_cast<int>(widths.size());
     return widths;
   }
@@ -179,7 +216,7 @@ class Writer {
 
   void BeginTable() {
     rowDefinition_ = RowDefinition("", "", widths_);
-    groupDefinition_ = RowDefinition("", "", {std::accumulate(widths_.begin(), widths_.end(), 0)});
+    groupDefinition_ = RowDefinition("", "", {static_cast<int>(Total(widths_))});
     WriteHeadings();
   }
 
@@ -211,9 +248,9 @@ class Writer {
 
   const Table& table_;
   const RtfStyle& style_;
-  const int halfPoints_;
-  const RtfLetters text_;
-  const RtfLetters bold_;
+  int halfPoints_;
+  RtfLetters text_;
+  RtfLetters bold_;
   const Paper paper_;
   RowPasses passes_;
   SinkBuffer file_;

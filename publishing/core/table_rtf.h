@@ -15,7 +15,7 @@ enum class PaperSize : uint8_t { kA4, kLetter };
 
 struct RtfStyle {
   std::string face = {};  // of the font, UTF-8
-  int halfPoints = 20;
+  int halfPoints = 20;    // smaller where columns have no room side by side
   PaperSize paper = PaperSize::kA4;
   Orientation orientation = Orientation::kAutomatic;
 };

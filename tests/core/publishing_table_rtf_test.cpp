@@ -35,6 +35,25 @@ TEST(TableRtf, WhatIsNotAsciiIsWrittenByItsNumber) {
   EXPECT_THAT(rtf, HasSubstr("{\\f0\\fnil\\fcharset0 \\u214?\\{\\};}"));
 }
 
+// By hand: room is 11906 - 2 * 1134 = 9638 twips upright and 14570 across. A column whose widest word has six letters
+// takes 7 * 5.5 * 20 + 216 = 986 at 10 points, and 909 at 9.
+TEST(TableRtf, LettersBecomeSmallerWhereColumnsHaveNoRoom) {
+  const auto ofTimes = [](std::size_t count) {
+    const std::vector<Column> columns(count, Column{"latest time of it"});
+    return RtfOf({.columns = columns, .rows = ListedTexts({std::vector<std::string>(count, "10:15")})}, kFont);
+  };
+  EXPECT_THAT(ofTimes(9), HasSubstr("\\fs20 "));
+  EXPECT_THAT(ofTimes(9), Not(HasSubstr("\\landscape")));
+  EXPECT_THAT(ofTimes(14), AllOf(HasSubstr("\\landscape"), HasSubstr("\\fs20 ")));
+  EXPECT_THAT(ofTimes(16), AllOf(HasSubstr("\\fs18 "), Not(HasSubstr("\\fs20 "))));
+  EXPECT_THAT(ofTimes(40), AllOf(HasSubstr("\\fs14 "), Not(HasSubstr("\\fs13 "))));
+}
+
+TEST(TableRtf, ALongTextIsBrokenRatherThanSmall) {
+  const Table table = {.columns = {{"A"}, {"B"}}, .rows = ListedTexts({{"x", std::string(400, 'x')}})};
+  EXPECT_THAT(RtfOf(table, kFont), AllOf(HasSubstr("\\landscape"), HasSubstr("\\fs20 ")));
+}
+
 TEST(TableRtf, LinesOfATextStayLines) {
   const std::string rtf = OfCell("ab\r\nשם\nc");
   EXPECT_THAT(rtf, HasSubstr(" ab}\\line\r\n{"));
