@@ -42,6 +42,8 @@ constexpr int kMostHalfPoints = 400;
 constexpr int kLeastSmallHalfPoints = 14;
 constexpr std::size_t kMostUnbroken = 24;
 
+constexpr std::size_t kLettersToOneMore = 6;  // bold letters are wider
+
 constexpr int kTitleHalfPointsMore = 8;
 constexpr std::size_t kPasses = 2;
 
@@ -49,7 +51,7 @@ int HalfPointsOf(const RtfStyle& style) {
   return std::clamp(style.halfPoints, kLeastHalfPoints, kMostHalfPoints);
 }
 
-// A heading may be broken between its words.
+// A heading may be broken between its words. Its letters are bold.
 std::size_t WidestWord(std::string_view heading) {
   std::size_t widest = 0;
   while (!heading.empty()) {
@@ -57,7 +59,7 @@ std::size_t WidestWord(std::string_view heading) {
     widest = std::max(widest, WidthInCharacters(heading.substr(0, end)));
     heading.remove_prefix(std::min(end + 1, heading.size()));
   }
-  return widest;
+  return widest + widest / kLettersToOneMore;
 }
 
 class Writer {

@@ -35,17 +35,17 @@ TEST(TableRtf, WhatIsNotAsciiIsWrittenByItsNumber) {
   EXPECT_THAT(rtf, HasSubstr("{\\f0\\fnil\\fcharset0 \\u214?\\{\\};}"));
 }
 
-// By hand: room is 11906 - 2 * 1134 = 9638 twips upright and 14570 across. A column whose widest word has six letters
-// takes 7 * 5.5 * 20 + 216 = 986 at 10 points, and 909 at 9.
+// By hand: room is 11906 - 2 * 1134 = 9638 twips upright and 14570 across. A column whose widest word has six bold
+// letters, which count as seven, takes 8 * 5.5 * 20 + 216 = 1096 at 10 points, and 876 at 7.5.
 TEST(TableRtf, LettersBecomeSmallerWhereColumnsHaveNoRoom) {
   const auto ofTimes = [](std::size_t count) {
     const std::vector<Column> columns(count, Column{"latest time of it"});
     return RtfOf({.columns = columns, .rows = ListedTexts({std::vector<std::string>(count, "10:15")})}, kFont);
   };
-  EXPECT_THAT(ofTimes(9), HasSubstr("\\fs20 "));
-  EXPECT_THAT(ofTimes(9), Not(HasSubstr("\\landscape")));
-  EXPECT_THAT(ofTimes(14), AllOf(HasSubstr("\\landscape"), HasSubstr("\\fs20 ")));
-  EXPECT_THAT(ofTimes(16), AllOf(HasSubstr("\\fs18 "), Not(HasSubstr("\\fs20 "))));
+  EXPECT_THAT(ofTimes(8), HasSubstr("\\fs20 "));
+  EXPECT_THAT(ofTimes(8), Not(HasSubstr("\\landscape")));
+  EXPECT_THAT(ofTimes(13), AllOf(HasSubstr("\\landscape"), HasSubstr("\\fs20 ")));
+  EXPECT_THAT(ofTimes(16), AllOf(HasSubstr("\\fs15 "), Not(HasSubstr("\\fs20 "))));
   EXPECT_THAT(ofTimes(40), AllOf(HasSubstr("\\fs14 "), Not(HasSubstr("\\fs13 "))));
 }
 
