@@ -1,6 +1,9 @@
 #include "app/document_settings.h"
 
+#include <windows.h>
+
 #include <algorithm>
+#include <iterator>
 
 #include "app/core/chosen_names.h"
 #include "companion/profile.h"
@@ -50,6 +53,13 @@ std::vector<uint32_t> AllBut(std::size_t count, const std::vector<uint32_t>& lef
   return rest;
 }
 
+// LOCALE_IPAPERSIZE: 1 letter, 5 legal, 8 A3, 9 A4.
+publishing::PaperSize UsualPaper() {
+  wchar_t usual[3] = {};
+  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IPAPERSIZE, usual, static_cast<int>(std::size(usual)));
+  return usual[0] == L'1' || usual[0] == L'5' ? publishing::PaperSize::kLetter : publishing::PaperSize::kA4;
+}
+
 }  // namespace
 
 DocumentSettings::DocumentSettings() {
@@ -81,12 +91,14 @@ std::vector<uint32_t> DocumentSettings::Zmanim(DocumentKind kind, const std::vec
   const std::string stored = Read(ZmanimKey(kind));
   const std::vector<uint32_t> named = ZmanimNamed(zmanim, SplitNames(stored));
   if (IsByLeftOut(kind)) return AllBut(zmanim.size(), named);
-  return stored.empty() ? UsualZmanim(zmanim) : named;
+  // Names of another selection alone say nothing about this one.
+  const bool isOfAnother = named.empty() && !SplitNames(stored).empty();
+  return stored.empty() || isOfAnother ? UsualZmanim(zmanim) : named;
 }
 
 void DocumentSettings::SetZmanim(DocumentKind kind, const std::vector<DocumentZman>& zmanim,
                                  const std::vector<uint32_t>& chosen) const {
-  std::vector<std::string> names;
+  std::vector<std::string> names = NamesOfOthers(zmanim, SplitNames(Read(ZmanimKey(kind))));
   for (const uint32_t zman : IsByLeftOut(kind) ? AllBut(zmanim.size(), chosen) : chosen) {
     names.push_back(zmanim[zman].english);
   }
@@ -101,6 +113,7 @@ void DocumentSettings::SetType(DocumentType type) const {
 }
 
 publishing::PaperSize DocumentSettings::Paper() const {
+  if (Read("Paper").empty()) return UsualPaper();
   return ReadChoice("Paper", publishing::PaperSize::kLetter);
 }
 void DocumentSettings::SetPaper(publishing::PaperSize paper) const {

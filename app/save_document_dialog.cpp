@@ -17,6 +17,9 @@ constexpr char kFace[] = "Arial";
 constexpr const char* kPapers[] = {"A4", "Letter"};
 constexpr const char* kOrientations[] = {"Automatic", "Portrait", "Landscape"};
 
+// That word processors take in a table.
+constexpr std::size_t kMostRtfColumns = 63;
+
 class SaveDialog {
  public:
   explicit SaveDialog(HWND document) : document_(document) {}
@@ -26,6 +29,7 @@ class SaveDialog {
   void OnInitDialog(HWND dialog);
   void OnCommand(int control, int notification);
   void OnSave();
+  void EnableReminder() const;
   void Tell(SavingResult result, const DocumentFile& file) const;
   std::optional<DocumentForm> Form() const;
   void Store(const DocumentForm& form, DocumentType type) const;
@@ -48,6 +52,11 @@ void SaveDialog::FillList(int id, const char* const (&names)[count], int chosen)
   SendDlgItemMessageA(dialog_, id, CB_SETCURSEL, static_cast<WPARAM>(chosen), 0);
 }
 
+// Only these become events of candle lighting.
+void SaveDialog::EnableReminder() const {
+  EnableWindow(GetDlgItem(dialog_, IDC_DOCUMENT_REMINDER), contents_->Kind() == DocumentKind::kShabbatTimes);
+}
+
 void SaveDialog::OnInitDialog(HWND dialog) {
   dialog_ = dialog;
   contents_.emplace(dialog, document_, settings_, false);
@@ -55,6 +64,7 @@ void SaveDialog::OnInitDialog(HWND dialog) {
   FillList(IDC_DOCUMENT_ORIENTATION, kOrientations, static_cast<int>(settings_.PaperOrientation()));
   CheckDlgButton(dialog, IDC_DOCUMENT_ISO_DATES, settings_.IsoDates() ? BST_CHECKED : BST_UNCHECKED);
   SetDlgItemInt(dialog, IDC_DOCUMENT_REMINDER, static_cast<UINT>(settings_.ReminderMinutes()), FALSE);
+  EnableReminder();
 }
 
 // An empty field of the reminder is none. Says what is wrong with what cannot be one.
@@ -99,6 +109,14 @@ void SaveDialog::OnSave() {
   const std::optional<DocumentFile> file = AskForDocumentFile(dialog_, settings_.Type(), OfferedName());
   if (!file) return;
   Store(*form, file->type);
+  if (file->type == DocumentType::kRtf &&
+      ColumnsOfDocument(document_.source(), form->choice).size() > kMostRtfColumns) {
+    ShowStop(dialog_,
+             "Word processors know no table of more than 63 columns.\nPlease choose fewer zmanim, or another type of "
+             "file.",
+             "Error");
+    return;
+  }
   Tell(SaveDocument(dialog_, document_.source(), *form, *file), *file);
 }
 
@@ -117,7 +135,7 @@ void SaveDialog::Tell(SavingResult result, const DocumentFile& file) const {
 }
 
 void SaveDialog::OnCommand(int control, int notification) {
-  if (contents_ && contents_->OnCommand(control, notification)) return;
+  if (contents_ && contents_->OnCommand(control, notification)) return EnableReminder();
   switch (control) {
     case IDOK: OnSave(); break;
     case IDCANCEL: EndDialog(dialog_, IDCANCEL); break;

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "app/core/display_hebrew.h"
+#include "app/core/document_table.h"
 #include "app/document_names.h"
 #include "companion/hours.h"
 #include "companion/stamp.h"
@@ -18,6 +19,7 @@
 #include "win/scoped.h"
 #include "win/unicode_text.h"
 #include "zmanim/calculate_zmanim.h"
+#include "zmanim/core/builtin_zmanim.h"
 #include "zmanim/core/zmanim_labels.h"
 
 namespace {
@@ -72,6 +74,15 @@ std::vector<DocumentZman> NamesIn(const ZmanimLabels* labels) {
   return names;
 }
 
+// The built-in zmanim by degrees have hours below 0 and from 24 on for other days. Where the sun sets after midnight,
+// or minutes after it are added, the evening's have small hours.
+bool IsBuiltInOfNextDay(uint32_t zman, int32_t hour) {
+  constexpr int32_t kMorning = 6;
+  if (zman >= kBuiltInZmanim.size() || hour < 0 || hour >= kMorning) return false;
+  const BuiltInRule rule = kBuiltInZmanim[zman].rule;
+  return rule == BuiltInRule::kMinutesAfterSunset || rule == BuiltInRule::kDegreesAfterSunset;
+}
+
 // The standard clock; the hours' sign leads.
 int32_t StandardOffsetSeconds(const Location& place) {
   const int32_t hours = std::abs(place.zoneHours) * kMinutesPerHour;
@@ -86,6 +97,7 @@ TakenDocument::TakenDocument(HWND document)
   RenewZmanim(document);
   RenewReadings(document);
   form_ = ReadingsFormOf(document);
+  if (form_.language == 0) form_ = ReadingsFormNow(ReadingsChoiceNow());
   readingsCodePage_ = CodePageOf(form_.font);
   shabbatTimes_ = EntriesOf(GetBlockProperty(document, property::kShabbatTimes));
   zmanim_ = DaysIn(GetBlockProperty(document, property::kZmanimTimes));
@@ -93,7 +105,7 @@ TakenDocument::TakenDocument(HWND document)
   const ScopedGlobalLock<const ZmanimLabels> labels(GetBlockProperty(document, property::kZmanimLabels));
   zmanimFromLibrary_ = labels && labels->fromLibrary != 0;
   source_.location = GetPlace(document);
-  source_.place = Decoded(DocumentPlace(document), kWestern);
+  source_.place = Decoded(DocumentPlace(document), CP_ACP);  // as it was typed
   source_.range = GetRangeProperties(document);
   source_.shabbatTimes = shabbatTimes_;
   source_.zmanimDays = zmanim_;
@@ -118,7 +130,7 @@ void TakenDocument::TakeNeighbours() {
   const int32_t dayAfter = AbsoluteFromDate(source_.range.end) + 1;
   if (IsFriday(dayBefore))
     source_.fridayBefore = ShabbatTimesFor({DateFromAbsolute(dayBefore), DateFromAbsolute(dayBefore)});
-  if (IsFriday(dayAfter - 1) && form_.choice != 0) {
+  if (IsFriday(dayAfter - 1)) {
     source_.shabbatAfter = ReadingsFor({DateFromAbsolute(dayAfter), DateFromAbsolute(dayAfter)}, form_.choice);
   }
 }
@@ -132,8 +144,12 @@ std::vector<ShabbatTimeEntry> TakenDocument::ShabbatTimesFor(const DateRange& ra
 
 void TakenDocument::TakeRange(const DateRange& range) {
   const ScopedWaitCursor wait;
+  // Each of the two lists may have been cut.
+  const auto reaches = [&](DocumentKind kind) {
+    return AbsoluteDay(range.end) <= AbsoluteDay(CoveredRange(source_, kind).end);
+  };
   const bool isCovered = AbsoluteDay(source_.range.start) <= AbsoluteDay(range.start) &&
-                         AbsoluteDay(range.end) <= AbsoluteDay(source_.range.end);
+                         reaches(DocumentKind::kShabbatTimes) && reaches(DocumentKind::kReadings);
   if (isCovered) {
     CutTo(range);
   } else {
@@ -219,10 +235,10 @@ const DaySun& TakenDocument::SunOf(const CalendarDate& date) const {
   return sun_;
 }
 
-// The built-in zmanim have hours below 0 and from 24 on for other days. A time set by hand is on the day on which it is
-// nearest to the one that would be calculated.
+// A time set by hand is on the day on which it is nearest to the one that would be calculated.
 int32_t TakenDocument::ZmanDayOffset(const ZmanimDay& day, uint32_t zman) const {
-  if (!zmanimFromLibrary_ || !OptionalEntries.HoursGetDayOffset) return 0;
+  if (!zmanimFromLibrary_) return IsBuiltInOfNextDay(zman, day.times[zman].hour) ? 1 : 0;
+  if (!OptionalEntries.HoursGetDayOffset) return 0;
   const Location& place = source_.location;
   const CalendarDate& date = day.date;
   const auto& [sunrise, sunset] = SunOf(date);

@@ -1,11 +1,16 @@
 #include "app/core/chosen_names.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <span>
 
 namespace {
 
 constexpr char kBar = '|';
+
+// As many as a selection has; more would make the setting grow for ever.
+constexpr std::ptrdiff_t kMostOthers = 100;
 
 // Descriptions of which one is taken, by what they begin with: the zman of the first form that there is.
 constexpr std::string_view kSunrise[] = {"HaNetz HaChama"};
@@ -40,6 +45,14 @@ std::vector<uint32_t> ZmanimNamed(const std::vector<DocumentZman>& zmanim, const
     if (std::ranges::find(names, zmanim[zman].english) != names.end()) indexes.push_back(zman);
   }
   return indexes;
+}
+
+std::vector<std::string> NamesOfOthers(const std::vector<DocumentZman>& zmanim, std::vector<std::string> names) {
+  std::erase_if(names, [&](const std::string& name) {
+    return std::ranges::find(zmanim, name, &DocumentZman::english) != zmanim.end();
+  });
+  if (std::ssize(names) > kMostOthers) names.erase(names.begin(), names.end() - kMostOthers);
+  return names;
 }
 
 std::vector<uint32_t> UsualZmanim(const std::vector<DocumentZman>& zmanim) {

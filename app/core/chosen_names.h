@@ -15,6 +15,9 @@ std::vector<std::string> SplitNames(std::string_view text);
 // The indexes of the zmanim of these names, in the order of the zmanim.
 std::vector<uint32_t> ZmanimNamed(const std::vector<DocumentZman>& zmanim, const std::vector<std::string>& names);
 
+// The names of which the zmanim have none: of another selection, for which they stay remembered.
+std::vector<std::string> NamesOfOthers(const std::vector<DocumentZman>& zmanim, std::vector<std::string> names);
+
 // Those that most calendars of days have: sunrise, latest Shema and Tefila by the Vilna Gaon, midday, sunset, and the
 // first nightfall.
 std::vector<uint32_t> UsualZmanim(const std::vector<DocumentZman>& zmanim);

@@ -33,11 +33,11 @@ publishing::CivilDate CivilDateOf(const CalendarDate& date) {
 
 // A sunset after midnight, as it is in the far north, stands in the block as the small hours of its own date.
 ClockTime EveningTime(uint32_t hour, uint32_t minute) {
-  constexpr uint32_t kMorning = 6;
-  return {static_cast<int32_t>(hour < kMorning ? hour + kHoursPerDay : hour), static_cast<int32_t>(minute)};
+  const bool isSmallHour = IsAfterMidnight(hour) && hour < kHoursPerDay;
+  return {static_cast<int32_t>(isSmallHour ? hour + kHoursPerDay : hour), static_cast<int32_t>(minute)};
 }
 
-// Hours are the date's own, or within a day of it.
+// Hours are the date's own, or within a day of it; else there is no time.
 bool IsTime(ClockTime time) {
   return time.hour > -kHoursPerDay && time.hour < 2 * kHoursPerDay && time.minute > -kMinutesPerHour &&
          time.minute < kMinutesPerHour;
@@ -163,7 +163,6 @@ void Calendar::AddWholeDay(std::size_t item, const CalendarDate& date, const cha
 }
 
 void Calendar::AddMoment(const CalendarDate& date, ClockTime time, Event event) {
-  if (!IsTime({time.hour % kHoursPerDay, time.minute})) return;
   const int32_t minuteOfDay = time.hour * kMinutesPerHour + time.minute;
   const int64_t onClock = source_.services.AbsoluteDay(date) * kSecondsPerDay + minuteOfDay * kSecondsPerMinute;
   const int64_t utc = onClock - source_.services.ClockOffsetSeconds(date, minuteOfDay);

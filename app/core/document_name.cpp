@@ -7,6 +7,7 @@
 namespace {
 
 constexpr std::size_t kMostCharacters = 100;
+constexpr std::size_t kMostOfEnds = 40;  // of kind and range each
 
 struct Extension {
   std::string_view text;
@@ -32,6 +33,24 @@ bool IsAllowed(char32_t character) {
   const bool isUnseen = (character >= 0x200B && character <= 0x200F) || (character >= 0x2028 && character <= 0x202E) ||
                         (character >= 0x2066 && character <= 0x2069) || character == 0xFEFF || character == 0xFFFD;
   return !isControl && !isUnseen && kForbidden.find(character) == kForbidden.npos;
+}
+
+std::size_t CharactersIn(std::string_view text) {
+  std::size_t count = 0;
+  for (; !text.empty(); ++count) publishing::TakeCharacter(text);
+  return count;
+}
+
+// The first of a text's characters that a name may have.
+std::string AllowedPart(std::string_view text, std::size_t most) {
+  std::string part;
+  for (std::size_t characters = 0; !text.empty() && characters < most;) {
+    const char32_t character = publishing::TakeCharacter(text);
+    if (!IsAllowed(character)) continue;
+    publishing::AppendUtf8(part, character);
+    ++characters;
+  }
+  return part;
 }
 
 }  // namespace
@@ -69,16 +88,13 @@ bool HasExtension(std::string_view file) {
 }
 
 std::string FileNameOf(std::string_view kind, std::string_view place, std::string_view range) {
-  std::string name;
-  std::size_t characters = 0;
-  for (std::string_view part : {kind, place, range}) {
+  const std::string first = AllowedPart(kind, kMostOfEnds);
+  const std::string last = AllowedPart(range, kMostOfEnds);
+  const std::size_t taken = CharactersIn(first) + CharactersIn(last);
+  std::string name = first;
+  for (const std::string& part : {AllowedPart(place, kMostCharacters - taken), last}) {
     if (!name.empty()) name += ' ';
-    while (!part.empty() && characters < kMostCharacters) {
-      const char32_t character = publishing::TakeCharacter(part);
-      if (!IsAllowed(character)) continue;
-      publishing::AppendUtf8(name, character);
-      ++characters;
-    }
+    name += part;
   }
   while (name.ends_with(' ') || name.ends_with('.')) name.pop_back();
   return name;

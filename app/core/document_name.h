@@ -18,6 +18,7 @@ std::optional<DocumentType> TypeOfName(std::string_view file);
 // "St. Louis" and "1.5.2007" begin none.
 bool HasExtension(std::string_view file);
 
-// The parts joined by blanks, without characters that no file's name may have, not longer than such names usually are.
+// The parts joined by blanks, without characters that no file's name may have, the place cut where they are longer than
+// such names usually are.
 // UTF-8.
 std::string FileNameOf(std::string_view kind, std::string_view place, std::string_view range);

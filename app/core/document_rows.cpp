@@ -31,6 +31,12 @@ std::string ShortDate(const CalendarDate& date) {
   return text;
 }
 
+// A time of the date after the row's says so.
+std::string Marked(std::string time, bool isOfNextDay) {
+  if (isOfNextDay) time += " (+1)";
+  return time;
+}
+
 void AppendLine(std::string& lines, const std::string& line) {
   if (line.empty()) return;
   if (!lines.empty()) lines += '\n';
@@ -124,6 +130,7 @@ void DocumentRows::ReadMonth(std::size_t item, Row& row) const {
   const CalendarDate date = DateOf(item);
   row.kind = RowKind::kGroup;
   row.isBold = true;
+  row.beginsPage = item > 0 && (choice_.kind == DocumentKind::kDays || choice_.kind == DocumentKind::kZmanim);
   row.cells.push_back(source_.services.CivilMonth(date, choice_.language) + " " + std::to_string(date.uYear));
 }
 
@@ -133,16 +140,20 @@ std::string DocumentRows::Time(ClockTime time) const {
 }
 
 std::string DocumentRows::Candles(const ShabbatTimeEntry& entry) const {
-  return Time({static_cast<int32_t>(entry.candleHour), static_cast<int32_t>(entry.candleMinute)});
+  return Marked(Time({static_cast<int32_t>(entry.candleHour), static_cast<int32_t>(entry.candleMinute)}),
+                IsAfterMidnight(entry.candleHour));
 }
 
 std::string DocumentRows::End(const ShabbatTimeEntry& entry) const {
-  return Time({static_cast<int32_t>(entry.endHour), static_cast<int32_t>(entry.endMinute)});
+  return Marked(Time({static_cast<int32_t>(entry.endHour), static_cast<int32_t>(entry.endMinute)}),
+                IsAfterMidnight(entry.endHour));
 }
 
 // A day that is not in the document has no times here.
 void DocumentRows::AddZmanim(const ZmanimDay* day, Row& row) const {
-  for (const uint32_t zman : choice_.zmanim) row.cells.push_back(day ? Time(day->times[zman]) : std::string());
+  for (const uint32_t zman : choice_.zmanim) {
+    row.cells.push_back(day ? Marked(Time(day->times[zman]), IsOfNextDay(source_, *day, zman)) : std::string());
+  }
 }
 
 void DocumentRows::ReadWeek(const ShabbatTimeEntry& entry, Row& row) const {

@@ -7,6 +7,9 @@
 
 namespace {
 
+// No Shabbat begins or ends later than this after midnight, and no zman of the evening is.
+constexpr uint32_t kFirstHourOfMorning = 6;
+
 auto Order(const CalendarDate& date) {
   return std::tuple(date.uYear, date.uMonth, date.uDay);
 }
@@ -45,6 +48,17 @@ const ShabbatTimeEntry* ShabbatTimesOf(const DocumentSource& source, const Calen
 
 const ZmanimDay* ZmanimOf(const DocumentSource& source, const CalendarDate& date) {
   return Find(source.zmanimDays, date, [](const ZmanimDay& day) { return day.date; });
+}
+
+bool IsAfterMidnight(uint32_t hour) {
+  return hour < kFirstHourOfMorning || (hour >= kHoursPerDay && hour < 2 * kHoursPerDay);
+}
+
+// Only the small hours can be in question: the libraries are asked about them alone.
+bool IsOfNextDay(const DocumentSource& source, const ZmanimDay& day, uint32_t zman) {
+  const int32_t hour = day.times[zman].hour;
+  if (hour >= kHoursPerDay) return hour < 2 * kHoursPerDay;
+  return hour >= 0 && hour < static_cast<int32_t>(kFirstHourOfMorning) && source.services.ZmanDayOffset(day, zman) > 0;
 }
 
 std::string JewishDateOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language) {

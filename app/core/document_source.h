@@ -74,6 +74,13 @@ inline CalendarDate FridayOf(const ShabbatTimeEntry& entry) {
   return {entry.day, entry.month, entry.year};
 }
 
+// Whether an hour of candle lighting or of the end of Shabbat is one of the date after: in the far north the sun sets
+// after midnight, which is told as the small hours, or as hours from 24 on.
+bool IsAfterMidnight(uint32_t hour);
+
+// Whether a zman of a day has a time that is one of the date after.
+bool IsOfNextDay(const DocumentSource& source, const ZmanimDay& day, uint32_t zman);
+
 // "18 Kislev 5787", as the language writes it.
 std::string JewishDateOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language);
 

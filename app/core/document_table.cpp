@@ -17,11 +17,33 @@ std::string RangeText(const DocumentSource& source, const DateRange& range, uint
          " - " + jewish(range.end) + ")";
 }
 
-bool HasMissingTimes(const DocumentSource& source, const DocumentChoice& choice) {
+// Whether any time of the rows is such a one. found: of a day and a zman.
+template <typename Found>
+bool HasTime(const DocumentSource& source, const DocumentChoice& choice, Found found) {
   if (!HasZmanim(choice.kind)) return false;
-  return std::ranges::any_of(source.zmanimDays, [&](const ZmanimDay& day) {
-    return std::ranges::any_of(choice.zmanim, [&](uint32_t zman) { return day.times[zman].hour == kNoTimeHour; });
+  const auto isFound = [&](const ZmanimDay& day) {
+    return std::ranges::any_of(choice.zmanim, [&](uint32_t zman) { return found(day, zman); });
+  };
+  if (choice.kind != DocumentKind::kWeeks) return std::ranges::any_of(source.zmanimDays, isFound);
+  return std::ranges::any_of(source.shabbatTimes, [&](const ShabbatTimeEntry& entry) {
+    const int32_t saturday = source.services.AbsoluteDay(FridayOf(entry)) + 1;
+    const ZmanimDay* const day = ZmanimOf(source, source.services.Gregorian(saturday));
+    return day && isFound(*day);
   });
+}
+
+bool HasMissingTimes(const DocumentSource& source, const DocumentChoice& choice) {
+  return HasTime(source, choice,
+                 [](const ZmanimDay& day, uint32_t zman) { return day.times[zman].hour == kNoTimeHour; });
+}
+
+bool HasTimesOfTheNextDay(const DocumentSource& source, const DocumentChoice& choice) {
+  const bool hasShabbatTimes = choice.kind != DocumentKind::kReadings && choice.kind != DocumentKind::kZmanim;
+  const auto isOfNextDay = [](const ShabbatTimeEntry& entry) {
+    return IsAfterMidnight(entry.candleHour) || IsAfterMidnight(entry.endHour);
+  };
+  if (hasShabbatTimes && std::ranges::any_of(source.shabbatTimes, isOfNextDay)) return true;
+  return HasTime(source, choice, [&](const ZmanimDay& day, uint32_t zman) { return IsOfNextDay(source, day, zman); });
 }
 
 }  // namespace
@@ -76,6 +98,7 @@ publishing::Table DocumentTable(const DocumentSource& source, const DocumentChoi
   table.language = language.tag;
   if (choice.kind != DocumentKind::kReadings) table.notes.emplace_back(WordOf(Word::kClockNote, choice.language));
   if (HasMissingTimes(source, choice)) table.notes.emplace_back(WordOf(Word::kNoTimeNote, choice.language));
+  if (HasTimesOfTheNextDay(source, choice)) table.notes.emplace_back(WordOf(Word::kNextDayNote, choice.language));
   table.pageText = WordOf(Word::kPageOf, choice.language);
   table.runningHead = table.title + ", " + DocumentDate(range.start, false) + " - " + DocumentDate(range.end, false);
   return table;

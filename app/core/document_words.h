@@ -23,9 +23,10 @@ enum class Word : uint8_t {
   kZmanim,
   kReadings,
   kCalendar,
-  kPageOf,      // with %1 and %2 for the numbers
-  kClockNote,   // below times
-  kNoTimeNote,  // below times of which some are missing
+  kPageOf,       // with %1 and %2 for the numbers
+  kClockNote,    // below times
+  kNoTimeNote,   // below times of which some are missing
+  kNextDayNote,  // below times of which some are after midnight
   kCount,
 };
 

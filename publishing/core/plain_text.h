@@ -14,8 +14,6 @@ std::string_view ValidUtf8(std::string_view text, std::string& room);
 // Takes the first line off a text, its end (LF, CR LF or CR) too; after the last line the text is empty.
 std::string_view TakeLine(std::string_view& text);
 
-std::size_t LineCount(std::string_view text);  // at least 1
-
 // That of the widest line (unicode.h).
 std::size_t WidthOfLines(std::string_view text);
 

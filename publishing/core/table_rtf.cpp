@@ -40,6 +40,9 @@ constexpr int kMostHalfPoints = 400;
 // Where columns have no room side by side, letters become smaller, but not below 7 points, nor for the sake of texts
 // that are longer than this: those are broken.
 constexpr int kLeastSmallHalfPoints = 14;
+// Words, dates and times stay whole even where that takes smaller letters and gaps.
+constexpr int kLeastTinyHalfPoints = 10;
+constexpr int kLeastCellGap = 30;
 constexpr std::size_t kMostUnbroken = 24;
 
 constexpr std::size_t kLettersToOneMore = 6;  // bold letters are wider
@@ -51,15 +54,19 @@ int HalfPointsOf(const RtfStyle& style) {
   return std::clamp(style.halfPoints, kLeastHalfPoints, kMostHalfPoints);
 }
 
-// A heading may be broken between its words. Its letters are bold.
-std::size_t WidestWord(std::string_view heading) {
+// A text may be broken between its words.
+std::size_t WidestWord(std::string_view text) {
   std::size_t widest = 0;
-  while (!heading.empty()) {
-    const std::size_t end = std::min(heading.find_first_of(" \t\r\n"), heading.size());
-    widest = std::max(widest, WidthInCharacters(heading.substr(0, end)));
-    heading.remove_prefix(std::min(end + 1, heading.size()));
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find_first_of(" \t\r\n"), text.size());
+    widest = std::max(widest, WidthInCharacters(text.substr(0, end)));
+    text.remove_prefix(std::min(end + 1, text.size()));
   }
-  return widest + widest / kLettersToOneMore;
+  return widest;
+}
+
+std::size_t WithBold(std::size_t characters) {
+  return characters + characters / kLettersToOneMore;
 }
 
 class Writer {
@@ -95,20 +102,29 @@ class Writer {
  private:
   bool MeasureColumns() {
     std::vector<std::size_t> longest;
-    for (const Column& column : table_.columns) longest.push_back(WidestWord(column.heading));
+    for (const Column& column : table_.columns) longest.push_back(WithBold(WidestWord(column.heading)));
+    std::vector<std::size_t> words = longest;
     const bool isWhole = passes_.ForEach([&](const Row& row, std::size_t) {
       if (row.kind == RowKind::kGroup) return;
       for (std::size_t column = 0; column < longest.size(); ++column) {
-        longest[column] = std::max(longest[column], WidthOfLines(CellOf(row, column)));
+        const std::string_view text = CellOf(row, column);
+        longest[column] = std::max(longest[column], WidthOfLines(text));
+        words[column] = std::max(words[column], WidestWord(text));
       }
     });
     const int upright = paper_.shortEdge - 2 * kMargin;
     isLandscape_ = style_.orientation == Orientation::kAutomatic ? Total(OwnWidths(longest, kMostCharacters)) > upright
                                                                  : style_.orientation == Orientation::kLandscape;
     const int room = isLandscape_ ? paper_.longEdge - 2 * kMargin : upright;
-    while (halfPoints_ > kLeastSmallHalfPoints && Total(OwnWidths(longest, kMostUnbroken)) > room)
-      SetSize(halfPoints_ - 1);
-    widths_ = ColumnWidths(OwnWidths(longest, kMostCharacters), room);
+    const auto shrinkTo = [&](int least, const std::vector<std::size_t>& characters, std::size_t most) {
+      while (halfPoints_ > least && Total(OwnWidths(characters, most)) > room) SetSize(halfPoints_ - 1);
+    };
+    shrinkTo(kLeastSmallHalfPoints, longest, kMostUnbroken);
+    if (Total(OwnWidths(words, kMostUnbroken)) > room) {
+      gap_ = kLeastCellGap;
+      shrinkTo(kLeastTinyHalfPoints, words, kMostUnbroken);
+    }
+    widths_ = ColumnWidths(OwnWidths(longest, kMostCharacters), OwnWidths(words, kMostUnbroken), room);
     if (table_.rightToLeft) widths_ = Filling(std::move(widths_), room);
     return isWhole;
   }
@@ -119,7 +135,7 @@ class Writer {
     for (const std::size_t count : characters) {
       // One more, because the average is no promise.
       const auto room = static_cast<double>(std::min(count, most) + 1);
-      widths.push_back(static_cast<int>(room * kCharacterWidth * halfPoints_) + 2 * kCellGap);
+      widths.push_back(static_cast<int>(room * kCharacterWidth * halfPoints_) + 2 * gap_);
     }
     return widths;
   }
@@ -194,7 +210,7 @@ class Writer {
   // form: what the row has beside this, border: what each cell has.
   std::string RowDefinition(const char* form, const char* border, const std::vector<int>& widths) const {
     std::string definition = std::string("\\trowd") + form + (table_.rightToLeft ? "\\rtlrow\\taprtl" : "") +
-                             "\\trkeep\\trgaph" + std::to_string(kCellGap);
+                             "\\trkeep\\trgaph" + std::to_string(gap_);
     int right = 0;
     for (const int width : widths) {
       right += width;
@@ -251,6 +267,7 @@ class Writer {
   const Table& table_;
   const RtfStyle& style_;
   int halfPoints_;
+  int gap_ = kCellGap;
   RtfLetters text_;
   RtfLetters bold_;
   const Paper paper_;

@@ -181,18 +181,6 @@ std::size_t WidthInCharacters(std::string_view text) {
   return width;
 }
 
-std::string InOneLine(std::string_view text) {
-  std::string line;
-  line.reserve(text.size());
-  char before = '\0';
-  for (const char byte : text) {
-    const bool isBreak = byte == '\r' || byte == '\n' || byte == '\t' || byte == '\v' || byte == '\f';
-    if (!(byte == '\n' && before == '\r')) line += isBreak ? ' ' : byte;
-    before = byte;
-  }
-  return line;
-}
-
 Direction DirectionOf(char32_t character) {
   if (character < 0x100) return IsLatin1Letter(character) ? Direction::kLeftToRight : Direction::kNeutral;
   if (character == 0x200E) return Direction::kLeftToRight;

@@ -31,9 +31,6 @@ bool IsCombining(char32_t character);
 // In columns of a typewriter.
 std::size_t WidthInCharacters(std::string_view text);
 
-// A text in one line: its line ends and tabs are blanks, a CR LF one.
-std::string InOneLine(std::string_view text);
-
 enum class Direction : uint8_t { kNeutral, kLeftToRight, kRightToLeft };
 
 // Which way a character is written; kNeutral for what goes with its neighbours.

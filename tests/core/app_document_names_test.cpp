@@ -39,7 +39,8 @@ TEST(DocumentName, OfferedNamesHaveNoCharactersThatFilesCannotHave) {
             "Zmanim abc x");
   EXPECT_EQ(FileNameOf("זמני היום", "ירושלים", "2026"), "זמני היום ירושלים 2026");
   EXPECT_EQ(FileNameOf("a", "b", " . "), "a b");
-  EXPECT_EQ(FileNameOf(std::string(300, 'k'), "b", "c").size(), 100u);
+  EXPECT_EQ(FileNameOf(std::string(300, 'k'), "b", "c"), std::string(40, 'k') + " b c");
+  EXPECT_EQ(FileNameOf("a", std::string(300, 'b'), "2026"), "a " + std::string(95, 'b') + " 2026");
 }
 
 TEST(DocumentName, TheExtensionSaysTheType) {

@@ -132,10 +132,10 @@ TEST(DocumentTable, ZmanimAreInTheirOrderWithMarksWhereThereIsNoTime) {
   EXPECT_THAT(RowsOf(DocumentTable(document.source, choice)),
               ElementsAre(ElementsAre("weekday 5", "05.01.2007", "15 month 10 5767", "07:01", "----"),
                           ElementsAre("weekday 6", "06.01.2007", "16 month 10 5767", "??:??", "08:02"),
-                          ElementsAre("weekday 0", "07.01.2007", "17 month 10 5767", "07:03", "01:18")));
+                          ElementsAre("weekday 0", "07.01.2007", "17 month 10 5767", "07:03", "01:18 (+1)")));
   EXPECT_THAT(DocumentTable(document.source, choice).notes,
               ElementsAre("All times are those of the clock in force at the place, summer time included.",
-                          "----: does not occur on that day."));
+                          "----: does not occur on that day.", "(+1): the next day."));
   choice.zmanim = {0};
   EXPECT_EQ(DocumentTable(document.source, choice).notes.size(), 1u) << "the missing one is not in it";
 }

@@ -46,7 +46,7 @@ TEST(TableRtf, LettersBecomeSmallerWhereColumnsHaveNoRoom) {
   EXPECT_THAT(ofTimes(8), Not(HasSubstr("\\landscape")));
   EXPECT_THAT(ofTimes(13), AllOf(HasSubstr("\\landscape"), HasSubstr("\\fs20 ")));
   EXPECT_THAT(ofTimes(16), AllOf(HasSubstr("\\fs15 "), Not(HasSubstr("\\fs20 "))));
-  EXPECT_THAT(ofTimes(40), AllOf(HasSubstr("\\fs14 "), Not(HasSubstr("\\fs13 "))));
+  EXPECT_THAT(ofTimes(40), AllOf(HasSubstr("\\fs10 "), HasSubstr("\\trgaph30\\")));
 }
 
 TEST(TableRtf, ALongTextIsBrokenRatherThanSmall) {

@@ -50,11 +50,6 @@ TEST(WidthInCharacters, PointsAndAccentsTakeNoRoom) {
   EXPECT_EQ(WidthInCharacters("\u200Fא"), 1u);
 }
 
-TEST(InOneLine, BreaksAreBlanks) {
-  EXPECT_EQ(InOneLine("a\r\nb\nc\rd\te"), "a b c d e");
-  EXPECT_EQ(InOneLine("\n\n"), "  ");
-}
-
 TEST(Direction, TheFirstLetterDecides) {
   EXPECT_TRUE(IsRightToLeft("שלום Moshe"));
   EXPECT_TRUE(IsRightToLeft("12. (א"));
