@@ -7,6 +7,7 @@
 #include "tests/doubles/call_log.h"
 #include "tests/doubles/real_call.h"
 #include "tests/doubles/system_calls.h"
+#include "win/unicode_text.h"
 
 namespace {
 
@@ -81,6 +82,27 @@ BOOL WINAPI FakeDeleteDC(HDC dc) {
   return real(dc);
 }
 
+// Asked only for the default printer.
+BOOL WINAPI FakePrintDlgW(LPPRINTDLGW) {
+  return FALSE;
+}
+
+BOOL WINAPI FakePageSetupDlgW(LPPAGESETUPDLGW dialog) {
+  constexpr int kHundredthsInAnInch = 2540;
+  const int inch = (dialog->Flags & PSD_INTHOUSANDTHSOFINCHES) ? 1000 : kHundredthsInAnInch;
+  LogCall("page setup with margins of %d", MulDiv(dialog->rtMargin.left, kHundredthsInAnInch, inch));
+  const int chosen = MulDiv(Printer().chosenMargin, inch, kHundredthsInAnInch);
+  dialog->rtMargin = {chosen, chosen, chosen, chosen};
+  return chosen != 0;
+}
+
+BOOL WINAPI NotedExtTextOutW(HDC dc, int x, int y, UINT options, const RECT* box, LPCWSTR text, UINT length,
+                             const INT* widths) {
+  static const auto real = REAL("gdi32.dll", ExtTextOutW);
+  Printer().shownTexts.push_back(Utf8Of({text, length}));
+  return real(dc, x, y, options, box, text, length, widths);
+}
+
 }  // namespace
 
 extern "C" {
@@ -92,7 +114,17 @@ decltype(&StartPage) __imp_StartPage = FakeStartPage;
 decltype(&EndPage) __imp_EndPage = FakeEndPage;
 decltype(&EndDoc) __imp_EndDoc = FakeEndDoc;
 decltype(&AbortDoc) __imp_AbortDoc = FakeAbortDoc;
+decltype(&PrintDlgW) __imp_PrintDlgW = FakePrintDlgW;
+decltype(&PageSetupDlgW) __imp_PageSetupDlgW = FakePageSetupDlgW;
+decltype(&ExtTextOutW) __imp_ExtTextOutW = NotedExtTextOutW;
 decltype(&DeleteDC) __imp_DeleteDC = FakeDeleteDC;
+}
+
+// Its header, which would rename ResetPrinter, has it called directly, not by a pointer. There is always a printer.
+extern "C" BOOL WINAPI EnumPrintersW(DWORD, LPWSTR, DWORD, LPBYTE, DWORD, LPDWORD size, LPDWORD count) {
+  *size = 100;
+  *count = 0;
+  return FALSE;
 }
 
 PrinterScript& Printer() {

@@ -34,6 +34,11 @@ struct PrinterScript {
   int startedPages = 0;
   ABORTPROC abortProc = nullptr;
   std::vector<std::vector<Draw>> pages;  // what was drawn on each
+
+  // The preview of documents: no printer is asked for its paper, and the dialog of page setup has the user choose this
+  // for all margins, in 1/100 mm; 0: cancelled.
+  int chosenMargin = 0;
+  std::vector<std::string> shownTexts;  // what is drawn in UTF-16, as UTF-8
 };
 
 PrinterScript& Printer();

@@ -3,16 +3,25 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <string_view>
 
 namespace {
 
 const std::function<void(HWND)>* pendingDrive = nullptr;
+std::string pendingEnd;
+
+bool HasPendingEnd(HWND window) {
+  char caption[256] = "";
+  GetWindowTextA(window, caption, sizeof caption);
+  return std::string_view(caption).ends_with(pendingEnd);
+}
 
 BOOL CALLBACK FindDialog(HWND window, LPARAM found) {
   char className[16] = "";
   GetClassNameA(window, className, sizeof className);
   // The owner of a dialog that is just coming up is disabled already.
   if (std::strcmp(className, "#32770") != 0 || !IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+  if (!HasPendingEnd(window)) return TRUE;
   *reinterpret_cast<HWND*>(found) = window;
   return FALSE;
 }
@@ -33,8 +42,9 @@ VOID CALLBACK OnTimer(HWND, UINT, UINT_PTR timer, DWORD) {
 
 }  // namespace
 
-void WithDialog(const std::function<void()>& open, const std::function<void(HWND)>& drive) {
+void WithDialog(const std::function<void()>& open, const std::function<void(HWND)>& drive, const std::string& end) {
   pendingDrive = &drive;
+  pendingEnd = end;
   const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, OnTimer);
   open();
   KillTimer(nullptr, timer);

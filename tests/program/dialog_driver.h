@@ -7,8 +7,9 @@
 #include <string>
 
 // Runs open, which shows a modal dialog, and drive on the dialog once it is there. A dialog that drive leaves open is
-// reported and cancelled.
-void WithDialog(const std::function<void()>& open, const std::function<void(HWND dialog)>& drive);
+// reported and cancelled. end: of its caption, where another may come up before it.
+void WithDialog(const std::function<void()>& open, const std::function<void(HWND dialog)>& drive,
+                const std::string& end = "");
 
 std::string FieldText(HWND dialog, int field);
 void SetField(HWND dialog, int field, const char* text);
