@@ -44,7 +44,7 @@ class Preview {
   INT_PTR Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
-  bool LayOutAgain(const PageSetup& before);
+  bool LayOutAgain(const Printer::Kept& before);
   void OnInitDialog(HWND dialog);
   void OnSize() const;
   void OnMinMaxInfo(MINMAXINFO& limits) const;
@@ -90,7 +90,7 @@ bool Preview::LayOutFirst(HWND owner) {
 
 // For the paper as it is now. The preview closes when the user cancels, and keeps to the paper of before when this one
 // is too small. Whether it has been done.
-bool Preview::LayOutAgain(const PageSetup& before) {
+bool Preview::LayOutAgain(const Printer::Kept& before) {
   const LayingOut done = laidOut_.LayOut(dialog_, printer_.sheet());
   if (done == LayingOut::kCancelled) {
     EndDialog(dialog_, kShown);
@@ -98,7 +98,7 @@ bool Preview::LayOutAgain(const PageSetup& before) {
   }
   if (done == LayingOut::kNoRoom) {
     ShowNoRoom(dialog_);
-    printer_.Use(before);
+    printer_.GoBackTo(before);
     return false;
   }
   page_ = std::min(page_, PageCount() - 1);
@@ -190,12 +190,12 @@ void Preview::ShowCurrent() {
 }
 
 void Preview::OnSetup() {
-  const PageSetup before = setup_;
+  const Printer::Kept before = printer_.Keep();
   if (printer_.AskSetup(dialog_)) LayOutAgain(before);
 }
 
 void Preview::OnPrint() {
-  const PageSetup before = setup_;
+  const Printer::Kept before = printer_.Keep();
   const Printer::Choice choice = printer_.Ask(dialog_, PageCount());
   // Another printer may have other paper.
   if (choice.dc && LayOutAgain(before)) PrintChosen(choice);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "win/scoped.h"
 
@@ -75,6 +76,21 @@ void ShowNoPrinter(HWND owner, DWORD error) {
   MessageBoxW(owner, text.c_str(), L"Error", MB_OK | MB_ICONSTOP);
 }
 
+std::vector<char> BytesOf(HGLOBAL block) {
+  const ScopedGlobalLock<const char> bytes(block);
+  if (!bytes) return {};
+  return {bytes.get(), bytes.get() + GlobalSize(block)};
+}
+
+// Without memory the block stays as it is.
+void Replace(HGLOBAL& block, const std::vector<char>& bytes) {
+  const HGLOBAL replacement = bytes.empty() ? nullptr : GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+  if (!bytes.empty() && !replacement) return;
+  if (const ScopedGlobalLock<char> locked(replacement); locked) std::ranges::copy(bytes, locked.get());
+  if (block) GlobalFree(block);
+  block = replacement;
+}
+
 }  // namespace
 
 DeviceScale ScaleOf(HDC printer) {
@@ -97,6 +113,17 @@ Printer::Printer(PageSetup& setup, const PageMargins& usual) : setup_(setup), us
 Printer::~Printer() {
   if (mode_) GlobalFree(mode_);
   if (names_) GlobalFree(names_);
+}
+
+Printer::Kept Printer::Keep() const {
+  return {setup_, BytesOf(mode_), BytesOf(names_)};
+}
+
+void Printer::GoBackTo(const Kept& kept) {
+  setup_ = kept.setup;
+  Replace(mode_, kept.mode);
+  Replace(names_, kept.names);
+  Measure();
 }
 
 void Printer::Use(const PageSetup& setup) {
@@ -202,7 +229,7 @@ bool Printer::AskSetup(HWND owner) {
     return false;
   }
   const Paper before = PaperNow();
-  const PageSetup setupBefore = setup_;
+  const Kept kept = Keep();
   const int unitsInAnInch = HasInches() ? 1000 : kHundredthsInAnInch;
   const auto toDialog = [&](int hundredths) { return MulDiv(hundredths, unitsInAnInch, kHundredthsInAnInch); };
   const auto fromDialog = [&](LONG units) {
@@ -224,7 +251,7 @@ bool Printer::AskSetup(HWND owner) {
     names_ = dialog.hDevNames;
     if (!chosen) {
       if (const DWORD error = CommDlgExtendedError()) ShowNoPrinter(owner, error);
-      if (setup_ != setupBefore) Use(setupBefore);
+      if (setup_ != kept.setup) GoBackTo(kept);
       return false;
     }
     const RECT& told = dialog.rtMargin;

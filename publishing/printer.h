@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <vector>
+
 #include "publishing/core/page_setup.h"
 #include "publishing/core/page_surface.h"
 #include "publishing/dc_surface.h"
@@ -31,6 +33,15 @@ class Printer {
   // Runs the page setup dialog until its margins leave room. Whether anything was chosen; else the user cancelled, or
   // was told why there is no choice.
   bool AskSetup(HWND owner);
+
+  // Everything that is chosen, to go back to.
+  struct Kept {
+    PageSetup setup;
+    std::vector<char> mode;
+    std::vector<char> names;
+  };
+  Kept Keep() const;
+  void GoBackTo(const Kept& kept);
 
   struct Choice {
     OwnedContext dc = {};  // null when the user cancelled, or was told why there is no printing

@@ -112,3 +112,9 @@ TEST(DoorYears, AreWithinTheYearsOfRanges) {
   }
   EXPECT_FALSE(DaysOfYear(services, DoorYear::kJewish, 0));
 }
+
+TEST(ChosenNames, ThoseOfAnotherSelectionStayRemembered) {
+  const std::vector<DocumentZman> zmanim = {{"Shkia", ""}, {"Chatzot", ""}};
+  EXPECT_THAT(NamesOfOthers(zmanim, {"Shkia", "Plag", "Chatzot", "Mincha"}), testing::ElementsAre("Plag", "Mincha"));
+  EXPECT_EQ(NamesOfOthers(zmanim, std::vector<std::string>(150, "Plag")).size(), 100u);
+}
