@@ -9,6 +9,7 @@
 #include "app/compute_document.h"
 #include "engine/optional_entries.h"
 #include "resources/ids.h"
+#include "tests/doubles/bound_doubles.h"
 #include "tests/program/dialog_driver.h"
 #include "tests/program/exports_fixture.h"
 
@@ -172,6 +173,57 @@ TEST_F(SaveDocumentTest, ChoicesAreNotWrittenOverSettingsThatCannotBeRead) {
   Libraries().unreadFiles = {"shab30.ini"};
   EXPECT_THAT(Saved(L"times.txt", [](HWND dialog) { Choose(dialog, kWeeks); }), HasSubstr("Aachen"));
   EXPECT_THAT(CallsWith("write"), IsEmpty());
+}
+
+// The sun sets at three minutes after midnight, as in the far north in June; Rabbeinu Tam's nightfall is 72 minutes
+// later.
+TEST_F(SaveDocumentTest, BuiltInZmanimAfterMidnightAreOfTheNextDay) {
+  Libraries().settings["shab30.ini|Settings|EnableZmanim"] = "0";
+  Bound().sunset = [](const CalendarDate&) { return DoubledTime{0, 3}; };
+  CalculateShabbatTimes(ActiveDocument(), 5, 1, 2007, 6, 1, 2007);
+  const auto zmanim = [](HWND dialog) { Choose(dialog, kZmanim); };
+  EXPECT_THAT(Saved(L"zmanim.csv", zmanim), AllOf(HasSubstr("<0:3> (+1)"), HasSubstr("<1:15> (+1)")));
+  const std::string calendar = Saved(L"zmanim.ics", zmanim);
+  EXPECT_THAT(calendar, HasSubstr("DTSTART:20070106T001500Z"));  // an hour ahead of UTC: 01:15 on Saturday
+  EXPECT_THAT(calendar, Not(HasSubstr("DTSTART:20070105T001500Z")));
+}
+
+TEST_F(SaveDocumentTest, OnlyShabbatTimesHaveAReminder) {
+  WithSaving([](HWND dialog) {
+    const HWND reminder = GetDlgItem(dialog, IDC_DOCUMENT_REMINDER);
+    EXPECT_TRUE(IsWindowEnabled(reminder));
+    Choose(dialog, kWeeks);
+    EXPECT_FALSE(IsWindowEnabled(reminder));
+    Choose(dialog, IDC_DOCUMENT_FIRST_KIND);
+    EXPECT_TRUE(IsWindowEnabled(reminder));
+    Click(dialog, IDCANCEL);
+  });
+}
+
+TEST_F(SaveDocumentTest, ATableThatWordProcessorsDoNotKnowIsNotWritten) {
+  Libraries().zmanimCount = 61;  // and weekday, date and Jewish date: 64
+  CalculateShabbatTimes(ActiveDocument(), 5, 1, 2007, 6, 1, 2007);
+  System().savedDocument = (folder_ / "wide.rtf").wstring();
+  WithSaving([](HWND dialog) {
+    Choose(dialog, kZmanim);
+    Click(dialog, IDOK);
+    EXPECT_THAT(CallsWith("message box"), ElementsAre(HasSubstr("more than 63 columns")));
+    EXPECT_TRUE(IsWindowVisible(dialog));
+    Click(dialog, IDCANCEL);
+  });
+  EXPECT_EQ(CountOfFiles(), 0u);
+  Libraries().zmanimCount = 60;
+  CalculateShabbatTimes(ActiveDocument(), 5, 1, 2007, 6, 1, 2007);
+  EXPECT_THAT(Saved(L"wide.rtf", [](HWND dialog) { Choose(dialog, kZmanim); }), HasSubstr("\\trowd"));
+}
+
+TEST_F(SaveDocumentTest, MarksOfAnotherSelectionStayRemembered) {
+  Libraries().settings["shab30.ini|Document|ZmanimOfWeeks"] = "|Plag|Zman 1|";
+  Saved(L"weeks.txt", [](HWND dialog) {
+    Choose(dialog, kWeeks);
+    ListView_SetCheckState(GetDlgItem(dialog, IDC_DOCUMENT_ZMANIM), 0, TRUE);
+  });
+  EXPECT_EQ(Libraries().settings["shab30.ini|Document|ZmanimOfWeeks"], "|Plag|Zman 0|Zman 1|");
 }
 
 TEST_F(SaveDocumentTest, WithoutADocumentNothingHappens) {
