@@ -41,6 +41,11 @@ std::string_view TakeLine(std::string_view& text) {
   return line;
 }
 
+bool IsKeptWhole(std::string_view text) {
+  constexpr std::size_t kLongestWhole = 18;
+  return WidthInCharacters(text) <= kLongestWhole && text.find_first_of("\r\n") == std::string_view::npos;
+}
+
 std::size_t WidthOfLines(std::string_view text) {
   if (text.find_first_of("\r\n") == std::string_view::npos) return WidthInCharacters(text);
   std::size_t widest = 0;

@@ -14,6 +14,9 @@ std::string_view ValidUtf8(std::string_view text, std::string& room);
 // Takes the first line off a text, its end (LF, CR LF or CR) too; after the last line the text is empty.
 std::string_view TakeLine(std::string_view& text);
 
+// Whether a cell's text is too short to be broken over lines: dates of either calendar and times are.
+bool IsKeptWhole(std::string_view text);
+
 // That of the widest line (unicode.h).
 std::size_t WidthOfLines(std::string_view text);
 

@@ -16,13 +16,6 @@ constexpr char kNameOfNameless[] = "Times / Readings";  // a page has a name
 constexpr std::size_t kManyColumns = 8;
 constexpr std::size_t kMostColumns = 16;
 
-// Longer texts may be broken over lines. Dates of either calendar and times are not.
-constexpr std::size_t kLongestWhole = 18;
-
-bool IsKeptWhole(std::string_view text) {
-  return text.find_first_of(" -") != std::string_view::npos && WidthInCharacters(text) <= kLongestWhole;
-}
-
 std::string_view NameOf(Direction direction) {
   return direction == Direction::kRightToLeft ? "rtl" : "ltr";
 }
@@ -164,7 +157,8 @@ class Writer {
     html += attributes;
     constexpr std::string_view kClasses[] = {"", " class=\"end\"", " class=\"whole\"", " class=\"end whole\""};
     const bool isAtEnd = isTurned == (column.align == Align::kStart);
-    html += kClasses[(isAtEnd ? 1 : 0) + (name == "td" && IsKeptWhole(text) ? 2 : 0)];
+    html += kClasses[(isAtEnd ? 1 : 0) +
+                     (name == "td" && text.find_first_of(" -") != std::string_view::npos && IsKeptWhole(text) ? 2 : 0)];
     html += '>';
     AppendIsolated(text, column.direction);
     html += "</";

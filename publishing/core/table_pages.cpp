@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "publishing/core/column_widths.h"
+#include "publishing/core/plain_text.h"
 #include "publishing/core/printed_text.h"
 #include "publishing/core/unicode.h"
 #include "publishing/core/wrapped_text.h"
@@ -105,7 +106,8 @@ void TablePages::MeasureRows(const Progress& progress, std::size_t step) {
     for (std::size_t column = 0; column < own_.size(); ++column) {
       const TextWidth width = widths.Of(CellOf(row, column));
       own_[column] = std::max(own_[column], width.whole);
-      least_[column] = std::max(least_[column], width.widestWord);
+      const bool isWhole = IsKeptWhole(CellOf(row, column));
+      least_[column] = std::max(least_[column], isWhole ? width.whole : width.widestWord);
       haveLineEnds_ = haveLineEnds_ || !width.isOneLine;
     }
   }

@@ -109,7 +109,7 @@ class Writer {
       for (std::size_t column = 0; column < longest.size(); ++column) {
         const std::string_view text = CellOf(row, column);
         longest[column] = std::max(longest[column], WidthOfLines(text));
-        words[column] = std::max(words[column], WidestWord(text));
+        words[column] = std::max(words[column], IsKeptWhole(text) ? WidthInCharacters(text) : WidestWord(text));
       }
     });
     const int upright = paper_.shortEdge - 2 * kMargin;
