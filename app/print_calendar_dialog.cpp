@@ -5,6 +5,7 @@
 
 #include "app/core/door_year.h"
 #include "app/document_contents.h"
+#include "app/document_dialog.h"
 #include "publishing/preview_window.h"
 #include "resources/ids.h"
 #include "win/dialog.h"
@@ -17,11 +18,11 @@ constexpr wchar_t kFace[] = L"Arial";
 class PrintDialog {
  public:
   explicit PrintDialog(HWND document) : window_(document), document_(document) {}
-  INT_PTR Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-
- private:
   void OnInitDialog(HWND dialog);
   void OnCommand(int control, int notification);
+  void OnNotify(const NMHDR& header);
+
+ private:
   void OnPreview();
   void OnYearKind();
   void EnableYear() const;
@@ -119,31 +120,13 @@ void PrintDialog::OnCommand(int control, int notification) {
   }
 }
 
-INT_PTR PrintDialog::Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_INITDIALOG: OnInitDialog(dialog); return TRUE;
-    case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return TRUE;
-    case WM_NOTIFY:
-      if (contents_) contents_->OnNotify(*reinterpret_cast<NMHDR*>(lParam));
-      return FALSE;
-    case WM_HELP:  // answered by the last of the owners
-      SendMessageA(GetParent(dialog), message, wParam, lParam);
-      return TRUE;
-  }
-  return FALSE;
-}
-
-// In UTF-16, for the names of languages and of zmanim.
-INT_PTR CALLBACK PrintDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-  auto* const print = reinterpret_cast<PrintDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  return print ? print->Handle(dialog, message, wParam, lParam) : FALSE;
+void PrintDialog::OnNotify(const NMHDR& header) {
+  if (contents_) contents_->OnNotify(header);
 }
 
 }  // namespace
 
 void RunPrintCalendarDialog(HWND frame, HWND document) {
   PrintDialog print(document);
-  DialogBoxParamW(GetModuleHandleW(nullptr), L"PRINTCALENDAR", frame, PrintDialogProc,
-                  reinterpret_cast<LPARAM>(&print));
+  RunDocumentDialog(frame, L"PRINTCALENDAR", print);
 }

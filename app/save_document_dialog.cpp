@@ -4,6 +4,7 @@
 
 #include "app/core/document_rows.h"
 #include "app/document_contents.h"
+#include "app/document_dialog.h"
 #include "app/document_file.h"
 #include "resources/ids.h"
 #include "win/dialog.h"
@@ -23,11 +24,11 @@ constexpr std::size_t kMostRtfColumns = 63;
 class SaveDialog {
  public:
   explicit SaveDialog(HWND document) : document_(document) {}
-  INT_PTR Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-
- private:
   void OnInitDialog(HWND dialog);
   void OnCommand(int control, int notification);
+  void OnNotify(const NMHDR& header);
+
+ private:
   void OnSave();
   void EnableReminder() const;
   void Tell(SavingResult result, const DocumentFile& file) const;
@@ -142,30 +143,13 @@ void SaveDialog::OnCommand(int control, int notification) {
   }
 }
 
-INT_PTR SaveDialog::Handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_INITDIALOG: OnInitDialog(dialog); return TRUE;
-    case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return TRUE;
-    case WM_NOTIFY:
-      if (contents_) contents_->OnNotify(*reinterpret_cast<NMHDR*>(lParam));
-      return FALSE;
-    case WM_HELP:  // answered by the last of the owners
-      SendMessageA(GetParent(dialog), message, wParam, lParam);
-      return TRUE;
-  }
-  return FALSE;
-}
-
-// In UTF-16, for the names of languages and of zmanim.
-INT_PTR CALLBACK SaveDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_INITDIALOG) SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-  auto* const save = reinterpret_cast<SaveDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  return save ? save->Handle(dialog, message, wParam, lParam) : FALSE;
+void SaveDialog::OnNotify(const NMHDR& header) {
+  if (contents_) contents_->OnNotify(header);
 }
 
 }  // namespace
 
 void RunSaveDocumentDialog(HWND frame, HWND document) {
   SaveDialog save(document);
-  DialogBoxParamW(GetModuleHandleW(nullptr), L"SAVEDOCUMENT", frame, SaveDialogProc, reinterpret_cast<LPARAM>(&save));
+  RunDocumentDialog(frame, L"SAVEDOCUMENT", save);
 }
