@@ -66,6 +66,9 @@ void MeasureKind(const DocumentSource& source, DocumentKind kind, const std::str
 }  // namespace
 
 void MeasureDocuments(const SettingsHome& home) {
+  // The end that a window of an earlier measurement has asked for would cancel long jobs.
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
   if (!ChooseZmanim(home, kZmanim)) return;
   const HWND document = Document();
   {
