@@ -1,9 +1,5 @@
 #include "app/document_file.h"
 
-#include <commdlg.h>
-
-#include <cderr.h>
-
 #include "app/core/document_calendar.h"
 #include "publishing/core/csv.h"
 #include "publishing/core/table_html.h"
@@ -26,13 +22,6 @@ constexpr wchar_t kTypes[] =
     L"Calendar (*.ics)\0*.ics\0Plain text (*.txt)\0*.txt\0";
 
 constexpr char kReplace[] = "There is a file of this name with its extension already. Do you want to replace it?";
-
-bool Run(OPENFILENAMEW& dialog) {
-  if (GetSaveFileNameW(&dialog)) return true;
-  if (CommDlgExtendedError() != FNERR_INVALIDFILENAME || dialog.lpstrFile[0] == L'\0') return false;
-  dialog.lpstrFile[0] = L'\0';
-  return GetSaveFileNameW(&dialog) != FALSE;
-}
 
 SavingResult ResultOf(CalendarResult result) {
   switch (result) {
@@ -79,7 +68,7 @@ std::optional<DocumentFile> AskForDocumentFile(HWND owner, DocumentType type, co
   const std::wstring usual = WideOf(ExtensionOf(type), CP_UTF8);
   dialog.lpstrDefExt = usual.c_str();
   dialog.Flags = OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
-  if (!Run(dialog)) {
+  if (!RunSaveDialog(dialog, GetSaveFileNameW)) {
     ShowIfNameTooLong(owner);
     return std::nullopt;
   }
@@ -96,14 +85,6 @@ std::optional<DocumentFile> AskForDocumentFile(HWND owner, DocumentType type, co
   const bool isThere = GetFileAttributesW(file.path.c_str()) != INVALID_FILE_ATTRIBUTES;
   if (isThere && !Ask(owner, kReplace, "Save as document")) return std::nullopt;
   return file;
-}
-
-// As UnwritableFileText, of a name in any script.
-void ShowUnwritableDocument(HWND owner, const std::wstring& path) {
-  const std::wstring text = L"File " + path +
-                            L" could not be written.\nPlease choose another name or folder, close the file in other "
-                            L"programs, or make room on the disk. An older file of this name is as it was.";
-  MessageBoxW(owner, text.c_str(), L"Error", MB_OK | MB_ICONSTOP);
 }
 
 SavingResult SaveDocument(HWND owner, const DocumentSource& source, const DocumentForm& form,

@@ -29,7 +29,5 @@ struct DocumentForm {
 
 enum class SavingResult : uint8_t { kSaved, kCancelled, kUnwritable, kNoEvents };
 
-void ShowUnwritableDocument(HWND owner, const std::wstring& path);
-
 // With progress over the owner. But for kSaved an older file is as it was, and there is no new one.
 SavingResult SaveDocument(HWND owner, const DocumentSource& source, const DocumentForm& form, const DocumentFile& file);

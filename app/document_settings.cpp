@@ -1,14 +1,12 @@
 #include "app/document_settings.h"
 
-#include <windows.h>
-
 #include <algorithm>
-#include <iterator>
 
 #include "app/core/chosen_names.h"
 #include "companion/profile.h"
 #include "engine/settings_flags.h"
 #include "engine/unread_settings.h"
+#include "publishing/printer.h"
 
 namespace {
 
@@ -51,13 +49,6 @@ std::vector<uint32_t> AllBut(std::size_t count, const std::vector<uint32_t>& lef
     if (!std::ranges::binary_search(leftOut, zman)) rest.push_back(zman);
   }
   return rest;
-}
-
-// LOCALE_IPAPERSIZE: 1 letter, 5 legal, 8 A3, 9 A4.
-publishing::PaperSize UsualPaper() {
-  wchar_t usual[3] = {};
-  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IPAPERSIZE, usual, static_cast<int>(std::size(usual)));
-  return usual[0] == L'1' || usual[0] == L'5' ? publishing::PaperSize::kLetter : publishing::PaperSize::kA4;
 }
 
 }  // namespace
@@ -113,7 +104,8 @@ void DocumentSettings::SetType(DocumentType type) const {
 }
 
 publishing::PaperSize DocumentSettings::Paper() const {
-  if (Read("Paper").empty()) return UsualPaper();
+  if (Read("Paper").empty())
+    return publishing::IsLetterUsual() ? publishing::PaperSize::kLetter : publishing::PaperSize::kA4;
   return ReadChoice("Paper", publishing::PaperSize::kLetter);
 }
 void DocumentSettings::SetPaper(publishing::PaperSize paper) const {

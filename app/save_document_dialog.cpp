@@ -9,6 +9,7 @@
 #include "resources/ids.h"
 #include "win/dialog.h"
 #include "win/message_box.h"
+#include "win/save_dialog.h"
 
 namespace {
 
@@ -125,7 +126,7 @@ void SaveDialog::Tell(SavingResult result, const DocumentFile& file) const {
   switch (result) {
     case SavingResult::kSaved: EndDialog(dialog_, IDOK); return;
     case SavingResult::kCancelled: return;
-    case SavingResult::kUnwritable: ShowUnwritableDocument(dialog_, file.path); return;
+    case SavingResult::kUnwritable: ShowUnwritableFile(dialog_, file.path); return;
     case SavingResult::kNoEvents:
       ShowStop(dialog_,
                "There is nothing in these days that could stand in a calendar, so no file was written.\nPlease choose "

@@ -218,9 +218,21 @@ std::string TakenDocument::OfWestern(std::string_view text) const {
   return Decoded(text, kWestern);
 }
 
+// Clocks change on few days: on the others one answer serves all times of a date, those of its neighbours too.
 int32_t TakenDocument::ClockOffsetSeconds(const CalendarDate& date, int32_t minuteOfDay) const {
+  if (!OptionalEntries.SolarGetClockOffset) return StandardOffsetSeconds(source_.location);
+  const int32_t day = AbsoluteFromDate(date);
+  if (clockDay_ != day) {
+    const int32_t before = AskedClockOffset(date, -kMinutesPerDay);
+    const bool isSame = before == AskedClockOffset(date, 2 * kMinutesPerDay);
+    clockOffset_ = isSame ? std::optional(before) : std::nullopt;
+    clockDay_ = day;
+  }
+  return clockOffset_ ? *clockOffset_ : AskedClockOffset(date, minuteOfDay);
+}
+
+int32_t TakenDocument::AskedClockOffset(const CalendarDate& date, int32_t minuteOfDay) const {
   const Location& place = source_.location;
-  if (!OptionalEntries.SolarGetClockOffset) return StandardOffsetSeconds(place);
   return OptionalEntries.SolarGetClockOffset(date.uDay, date.uMonth, date.uYear, minuteOfDay, place.latitude,
                                              place.longitude, place.zoneHours, place.zoneMinutes);
 }

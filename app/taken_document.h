@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <vector>
 
 #include "app/core/document_source.h"
@@ -39,6 +40,7 @@ class TakenDocument : private DocumentServices {
   int32_t ClockOffsetSeconds(const CalendarDate& date, int32_t minuteOfDay) const override;
   int32_t ZmanDayOffset(const ZmanimDay& day, uint32_t zman) const override;
   const DaySun& SunOf(const CalendarDate& date) const;
+  int32_t AskedClockOffset(const CalendarDate& date, int32_t minuteOfDay) const;
 
   std::vector<ShabbatTimeEntry> shabbatTimes_;
   std::vector<ZmanimDay> zmanim_;
@@ -48,5 +50,7 @@ class TakenDocument : private DocumentServices {
   bool zmanimFromLibrary_ = false;
   DocumentSource source_;
   mutable DaySun sun_{};
-  mutable int32_t sunDay_ = 0;  // no day of a document
+  mutable int32_t sunDay_ = 0;                  // no day of a document
+  mutable std::optional<int32_t> clockOffset_;  // all around clockDay_, unless the clock changes then
+  mutable int32_t clockDay_ = 0;
 };

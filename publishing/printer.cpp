@@ -93,6 +93,13 @@ void Replace(HGLOBAL& block, const std::vector<char>& bytes) {
 
 }  // namespace
 
+bool IsLetterUsual() {
+  // LOCALE_IPAPERSIZE: 1 letter, 5 legal, 8 A3, 9 A4.
+  wchar_t usual[3] = {};
+  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IPAPERSIZE, usual, static_cast<int>(std::size(usual)));
+  return usual[0] == L'1' || usual[0] == L'5';
+}
+
 DeviceScale ScaleOf(HDC printer) {
   return {static_cast<double>(GetDeviceCaps(printer, LOGPIXELSX)) / kDotsPerInch,
           static_cast<double>(GetDeviceCaps(printer, LOGPIXELSY)) / kDotsPerInch,
@@ -190,11 +197,7 @@ void Printer::MeasureSheet(HDC dc) {
 }
 
 void Printer::TakeUsualPaper() {
-  // LOCALE_IPAPERSIZE: 1 letter, 5 legal, 8 A3, 9 A4. Whoever is used to legal or A3 prints tables on its smaller form.
-  wchar_t usual[3] = {};
-  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IPAPERSIZE, usual, static_cast<int>(std::size(usual)));
-  const bool isUsuallyLetter = usual[0] == L'1' || usual[0] == L'5';
-  const bool isLetter = setup_.paper == DMPAPER_LETTER || (isUsuallyLetter && setup_.paper != DMPAPER_A4);
+  const bool isLetter = setup_.paper == DMPAPER_LETTER || (IsLetterUsual() && setup_.paper != DMPAPER_A4);
   int width = isLetter ? kDotsPerInch * 17 / 2 : Dots(210);
   int height = isLetter ? kDotsPerInch * 11 : Dots(297);
   if (setup_.orientation == Orientation::kLandscape) std::swap(width, height);
@@ -255,8 +258,9 @@ bool Printer::AskSetup(HWND owner) {
       return false;
     }
     const RECT& told = dialog.rtMargin;
-    setup_.margins = {fromDialog(told.left), fromDialog(told.top), fromDialog(told.right), fromDialog(told.bottom)};
-    if (setup_.margins == usual_) setup_.margins = {};
+    setup_.margins =
+        PageMargins{fromDialog(told.left), fromDialog(told.top), fromDialog(told.right), fromDialog(told.bottom)};
+    if (setup_.margins == usual_) setup_.margins.reset();
     StorePaper(before);
     Measure();
     if (HasRoom()) return true;

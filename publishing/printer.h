@@ -76,6 +76,10 @@ class Printer {
   Sheet sheet_ = {};
 };
 
+// Whether Letter is usual where the user lives, rather than A4. Whoever is used to legal or A3 has tables on its
+// smaller form.
+bool IsLetterUsual();
+
 // How a page lies on the paper of a printer.
 DeviceScale ScaleOf(HDC printer);
 

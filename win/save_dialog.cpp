@@ -1,9 +1,7 @@
 #include "win/save_dialog.h"
 
-#include <cderr.h>
-#include <commdlg.h>
-
 #include "win/message_box.h"
+#include "win/unicode_text.h"
 
 namespace {
 
@@ -16,13 +14,10 @@ constexpr char kRtfTypes[] =
 constexpr DWORD kUsualRtf = 1;
 constexpr DWORD kRtfForAll = 2;
 
-// The dialog's answer; a name to begin with that the dialog refuses is left out.
-bool Run(OPENFILENAMEA& dialog) {
-  if (GetSaveFileNameA(&dialog)) return true;
-  if (CommDlgExtendedError() != FNERR_INVALIDFILENAME || dialog.lpstrFile[0] == '\0') return false;
-  dialog.lpstrFile[0] = '\0';
-  return GetSaveFileNameA(&dialog);
-}
+constexpr char kCouldNotBeWritten[] =
+    " could not be written.\nPlease choose another name or folder, close the file in other programs, or make room on "
+    "the "
+    "disk. An older file of this name is as it was.";
 
 }  // namespace
 
@@ -39,7 +34,7 @@ std::optional<std::string> AskForExportFile(HWND owner, ExportFormat format, Las
   dialog.nMaxFile = kFileNameSize;
   dialog.lpstrDefExt = ExtensionOf(format);
   dialog.Flags = OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
-  if (!Run(dialog)) {
+  if (!RunSaveDialog(dialog, GetSaveFileNameA)) {
     ShowIfNameTooLong(owner);
     return std::nullopt;
   }
@@ -63,11 +58,14 @@ void ShowIfNameTooLong(HWND owner) {
 }
 
 std::string UnwritableFileText(const std::string& file) {
-  return "File " + file +
-         " could not be written.\nPlease choose another name or folder, close the file in other programs, or make room "
-         "on the disk. An older file of this name is as it was.";
+  return "File " + file + kCouldNotBeWritten;
 }
 
 void ShowUnwritableFile(HWND owner, const std::string& file) {
   ShowStop(owner, UnwritableFileText(file).c_str(), "Error");
+}
+
+void ShowUnwritableFile(HWND owner, const std::wstring& file) {
+  const std::wstring text = L"File " + file + WideOf(kCouldNotBeWritten, CP_UTF8);
+  MessageBoxW(owner, text.c_str(), L"Error", MB_OK | MB_ICONSTOP);
 }

@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <cderr.h>
+#include <commdlg.h>
+
 #include <optional>
 #include <string>
 
@@ -28,3 +31,14 @@ void ShowIfNameTooLong(HWND owner);
 // What to say of a file that could not be written while an older one was left alone: its name and what to do.
 std::string UnwritableFileText(const std::string& file);
 void ShowUnwritableFile(HWND owner, const std::string& file);
+void ShowUnwritableFile(HWND owner, const std::wstring& file);
+
+// Runs a save dialog of either character set by the system's function; whether a file was chosen. A name to begin with
+// that the dialog refuses is left out.
+template <typename Dialog>
+bool RunSaveDialog(Dialog& dialog, BOOL(WINAPI* run)(Dialog*)) {
+  if (run(&dialog)) return true;
+  if (CommDlgExtendedError() != FNERR_INVALIDFILENAME || dialog.lpstrFile[0] == 0) return false;
+  dialog.lpstrFile[0] = 0;
+  return run(&dialog) != FALSE;
+}

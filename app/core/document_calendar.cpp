@@ -163,7 +163,9 @@ void Calendar::AddWholeDay(std::size_t item, const CalendarDate& date, const cha
 }
 
 void Calendar::AddMoment(const CalendarDate& date, ClockTime time, Event event) {
-  const int32_t minuteOfDay = time.hour * kMinutesPerHour + time.minute;
+  const int64_t minutes = int64_t{time.hour} * kMinutesPerHour + time.minute;
+  if (minutes < -kMinutesPerDay || minutes > 2 * kMinutesPerDay) return;  // by settings that no calculation can mean
+  const auto minuteOfDay = static_cast<int32_t>(minutes);
   const int64_t onClock = source_.services.AbsoluteDay(date) * kSecondsPerDay + minuteOfDay * kSecondsPerMinute;
   const int64_t utc = onClock - source_.services.ClockOffsetSeconds(date, minuteOfDay);
   const int64_t day = FloorDivided(utc, kSecondsPerDay);

@@ -31,9 +31,9 @@ std::string ShortDate(const CalendarDate& date) {
   return text;
 }
 
-// A time of the date after the row's says so.
-std::string Marked(std::string time, bool isOfNextDay) {
-  if (isOfNextDay) time += " (+1)";
+// A time of the date after or before the row's says so.
+std::string Marked(std::string time, int32_t dayOffset) {
+  if (dayOffset != 0) time += dayOffset > 0 ? " (+1)" : " (-1)";
   return time;
 }
 
@@ -141,18 +141,18 @@ std::string DocumentRows::Time(ClockTime time) const {
 
 std::string DocumentRows::Candles(const ShabbatTimeEntry& entry) const {
   return Marked(Time({static_cast<int32_t>(entry.candleHour), static_cast<int32_t>(entry.candleMinute)}),
-                IsAfterMidnight(entry.candleHour));
+                IsAfterMidnight(entry.candleHour) ? 1 : 0);
 }
 
 std::string DocumentRows::End(const ShabbatTimeEntry& entry) const {
   return Marked(Time({static_cast<int32_t>(entry.endHour), static_cast<int32_t>(entry.endMinute)}),
-                IsAfterMidnight(entry.endHour));
+                IsAfterMidnight(entry.endHour) ? 1 : 0);
 }
 
 // A day that is not in the document has no times here.
 void DocumentRows::AddZmanim(const ZmanimDay* day, Row& row) const {
   for (const uint32_t zman : choice_.zmanim) {
-    row.cells.push_back(day ? Marked(Time(day->times[zman]), IsOfNextDay(source_, *day, zman)) : std::string());
+    row.cells.push_back(day ? Marked(Time(day->times[zman]), DayOffsetOf(source_, *day, zman)) : std::string());
   }
 }
 

@@ -10,6 +10,9 @@ namespace {
 // No Shabbat begins or ends later than this after midnight, and no zman of the evening is.
 constexpr uint32_t kFirstHourOfMorning = 6;
 
+// Where the sun rises soon after midnight, dawn is at most this early in the night before.
+constexpr int32_t kFirstHourOfNight = 21;
+
 auto Order(const CalendarDate& date) {
   return std::tuple(date.uYear, date.uMonth, date.uDay);
 }
@@ -54,11 +57,12 @@ bool IsAfterMidnight(uint32_t hour) {
   return hour < kFirstHourOfMorning || (hour >= kHoursPerDay && hour < 2 * kHoursPerDay);
 }
 
-// Only the small hours can be in question: the libraries are asked about them alone.
-bool IsOfNextDay(const DocumentSource& source, const ZmanimDay& day, uint32_t zman) {
+// Only the hours around midnight can be in question: the libraries are asked about them alone.
+int32_t DayOffsetOf(const DocumentSource& source, const ZmanimDay& day, uint32_t zman) {
   const int32_t hour = day.times[zman].hour;
-  if (hour >= kHoursPerDay) return hour < 2 * kHoursPerDay;
-  return hour >= 0 && hour < static_cast<int32_t>(kFirstHourOfMorning) && source.services.ZmanDayOffset(day, zman) > 0;
+  if (hour >= kHoursPerDay) return hour < 2 * kHoursPerDay ? 1 : 0;
+  const bool isNearMidnight = hour < static_cast<int32_t>(kFirstHourOfMorning) || hour >= kFirstHourOfNight;
+  return hour >= 0 && isNearMidnight ? source.services.ZmanDayOffset(day, zman) : 0;
 }
 
 std::string JewishDateOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language) {

@@ -78,8 +78,8 @@ inline CalendarDate FridayOf(const ShabbatTimeEntry& entry) {
 // after midnight, which is told as the small hours, or as hours from 24 on.
 bool IsAfterMidnight(uint32_t hour);
 
-// Whether a zman of a day has a time that is one of the date after.
-bool IsOfNextDay(const DocumentSource& source, const ZmanimDay& day, uint32_t zman);
+// How many days after its date the time of a zman is that a day has: -1, 0 or 1.
+int32_t DayOffsetOf(const DocumentSource& source, const ZmanimDay& day, uint32_t zman);
 
 // "18 Kislev 5787", as the language writes it.
 std::string JewishDateOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language);

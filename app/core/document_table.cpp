@@ -37,13 +37,25 @@ bool HasMissingTimes(const DocumentSource& source, const DocumentChoice& choice)
                  [](const ZmanimDay& day, uint32_t zman) { return day.times[zman].hour == kNoTimeHour; });
 }
 
-bool HasTimesOfTheNextDay(const DocumentSource& source, const DocumentChoice& choice) {
+// Whether any time of the rows is one of the day after its row's, and any of the day before.
+struct OtherDays {
+  bool after = false;
+  bool before = false;
+};
+
+OtherDays OtherDaysOf(const DocumentSource& source, const DocumentChoice& choice) {
+  OtherDays found;
   const bool hasShabbatTimes = choice.kind != DocumentKind::kReadings && choice.kind != DocumentKind::kZmanim;
-  const auto isOfNextDay = [](const ShabbatTimeEntry& entry) {
-    return IsAfterMidnight(entry.candleHour) || IsAfterMidnight(entry.endHour);
-  };
-  if (hasShabbatTimes && std::ranges::any_of(source.shabbatTimes, isOfNextDay)) return true;
-  return HasTime(source, choice, [&](const ZmanimDay& day, uint32_t zman) { return IsOfNextDay(source, day, zman); });
+  found.after = hasShabbatTimes && std::ranges::any_of(source.shabbatTimes, [](const ShabbatTimeEntry& entry) {
+                  return IsAfterMidnight(entry.candleHour) || IsAfterMidnight(entry.endHour);
+                });
+  HasTime(source, choice, [&](const ZmanimDay& day, uint32_t zman) {
+    const int32_t offset = DayOffsetOf(source, day, zman);
+    found.after = found.after || offset > 0;
+    found.before = found.before || offset < 0;
+    return found.after && found.before;
+  });
+  return found;
 }
 
 }  // namespace
@@ -98,7 +110,9 @@ publishing::Table DocumentTable(const DocumentSource& source, const DocumentChoi
   table.language = language.tag;
   if (choice.kind != DocumentKind::kReadings) table.notes.emplace_back(WordOf(Word::kClockNote, choice.language));
   if (HasMissingTimes(source, choice)) table.notes.emplace_back(WordOf(Word::kNoTimeNote, choice.language));
-  if (HasTimesOfTheNextDay(source, choice)) table.notes.emplace_back(WordOf(Word::kNextDayNote, choice.language));
+  const OtherDays others = OtherDaysOf(source, choice);
+  if (others.after) table.notes.emplace_back(WordOf(Word::kNextDayNote, choice.language));
+  if (others.before) table.notes.emplace_back(WordOf(Word::kDayBeforeNote, choice.language));
   table.pageText = WordOf(Word::kPageOf, choice.language);
   table.runningHead = table.title + ", " + DocumentDate(range.start, false) + " - " + DocumentDate(range.end, false);
   return table;

@@ -23,10 +23,11 @@ enum class Word : uint8_t {
   kZmanim,
   kReadings,
   kCalendar,
-  kPageOf,       // with %1 and %2 for the numbers
-  kClockNote,    // below times
-  kNoTimeNote,   // below times of which some are missing
-  kNextDayNote,  // below times of which some are after midnight
+  kPageOf,         // with %1 and %2 for the numbers
+  kClockNote,      // below times
+  kNoTimeNote,     // below times of which some are missing
+  kNextDayNote,    // below times of which some are after midnight
+  kDayBeforeNote,  // below times of which some are before midnight
   kCount,
 };
 

@@ -1,6 +1,5 @@
 #include "publishing/core/page_setup.h"
 
-#include <array>
 #include <charconv>
 
 namespace publishing {
@@ -8,9 +7,7 @@ namespace {
 
 constexpr int kMostPaper = 0xFFFF;
 
-// Orientation, paper, and the margins.
-using Numbers = std::array<int, 6>;
-constexpr Numbers kMost = {2, kMostPaper, kMostMargin, kMostMargin, kMostMargin, kMostMargin};
+constexpr int kMostOrientation = static_cast<int>(Orientation::kLandscape);
 
 // Takes a number and the blanks after it off a text.
 bool TakeNumber(std::string_view& text, int most, int& number) {
@@ -26,25 +23,30 @@ bool TakeNumber(std::string_view& text, int most, int& number) {
 }  // namespace
 
 PageMargins MarginsOf(const PageSetup& setup, const PageMargins& usual) {
-  return setup.margins == PageMargins{} ? usual : setup.margins;
+  return setup.margins.value_or(usual);
 }
 
 std::string TextOf(const PageSetup& setup) {
-  const PageMargins& margins = setup.margins;
-  std::string text = std::to_string(static_cast<int>(setup.orientation));
-  for (const int number : {setup.paper, margins.left, margins.top, margins.right, margins.bottom}) {
-    text += ' ' + std::to_string(number);
+  std::string text = std::to_string(static_cast<int>(setup.orientation)) + ' ' + std::to_string(setup.paper);
+  if (!setup.margins) return text;
+  for (const int margin : {setup.margins->left, setup.margins->top, setup.margins->right, setup.margins->bottom}) {
+    text += ' ' + std::to_string(margin);
   }
   return text;
 }
 
 PageSetup PageSetupOf(std::string_view text) {
-  Numbers numbers{};
-  for (std::size_t index = 0; index < numbers.size(); ++index) {
-    if (!TakeNumber(text, kMost[index], numbers[index])) return {};
+  int orientation = 0;
+  PageSetup setup;
+  if (!TakeNumber(text, kMostOrientation, orientation) || !TakeNumber(text, kMostPaper, setup.paper)) return {};
+  setup.orientation = static_cast<Orientation>(orientation);
+  if (text.empty()) return setup;
+  PageMargins margins;
+  for (int* const margin : {&margins.left, &margins.top, &margins.right, &margins.bottom}) {
+    if (!TakeNumber(text, kMostMargin, *margin)) return {};
   }
-  if (!text.empty()) return {};
-  return {static_cast<Orientation>(numbers[0]), numbers[1], {numbers[2], numbers[3], numbers[4], numbers[5]}};
+  setup.margins = margins;
+  return text.empty() ? setup : PageSetup{};
 }
 
 }  // namespace publishing

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,14 +28,15 @@ constexpr int kMostMargin = 20000;
 struct PageSetup {
   Orientation orientation = Orientation::kAutomatic;
   int paper = 0;  // by the system's numbers of papers (DMPAPER_LETTER is 1, DMPAPER_A4 9); 0: the printer's own
-  PageMargins margins = {};  // all 0: the usual ones
+  std::optional<PageMargins> margins = {};  // none: the usual ones
   friend bool operator==(const PageSetup&, const PageSetup&) = default;
 };
 
-// The margins that hold. usual: for all 0.
+// The margins that hold.
 PageMargins MarginsOf(const PageSetup& setup, const PageMargins& usual);
 
-// For a settings file: orientation, paper and the four margins as numbers, "2 9 1500 1500 1500 1500".
+// For a settings file: orientation and paper as numbers, and the four margins where they are chosen, "2 9 1500 1500
+// 1500 1500".
 std::string TextOf(const PageSetup& setup);
 
 // A text that is none of these gives what holds without a choice.

@@ -140,6 +140,22 @@ TEST(DocumentTable, ZmanimAreInTheirOrderWithMarksWhereThereIsNoTime) {
   EXPECT_EQ(DocumentTable(document.source, choice).notes.size(), 1u) << "the missing one is not in it";
 }
 
+// In the far north dawn can be before midnight, and midnight after it.
+TEST(DocumentTable, TimesOfAnotherDaySaySo) {
+  DocumentFixture document({5, 1, 2007}, {5, 1, 2007}, 4);
+  document.days[0].times[0] = {23, 2};
+  document.days[0].times[1] = {0, 36};
+  document.days[0].times[2] = {23, 49};
+  document.services.dayOffsets = {{0, -1}, {1, 1}, {3, 1}};
+  const publishing::Table table =
+      DocumentTable(document.source, {.kind = DocumentKind::kZmanim, .zmanim = {0, 1, 2, 3}});
+  EXPECT_THAT(RowsOf(table), ElementsAre(ElementsAre("weekday 5", "05.01.2007", "15 month 10 5767", "23:02 (-1)",
+                                                     "00:36 (+1)", "23:49", "10:01")))
+      << "of a time by day the libraries are not asked";
+  EXPECT_THAT(table.notes, ElementsAre("All times are those of the clock in force at the place, summer time included.",
+                                       "(+1): the next day.", "(-1): the day before."));
+}
+
 TEST(DocumentTable, ASpreadsheetHasNothingForMissingTimesAndDatesAsItLikes) {
   DocumentFixture document = Weekend();
   document.days[0].times[0] = kNoTime;

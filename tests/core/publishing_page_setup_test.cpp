@@ -6,9 +6,11 @@ namespace publishing {
 namespace {
 
 TEST(PageSetup, ItsTextGivesItBack) {
-  const PageSetup setup = {Orientation::kLandscape, 9, {1500, 1600, 0, 1800}};
+  const PageSetup setup = {Orientation::kLandscape, 9, PageMargins{1500, 1600, 0, 1800}};
   EXPECT_EQ(TextOf(setup), "2 9 1500 1600 0 1800");
   EXPECT_EQ(PageSetupOf(TextOf(setup)), setup);
+  EXPECT_EQ(TextOf({.paper = 9}), "0 9");
+  EXPECT_EQ(PageSetupOf("0 9"), (PageSetup{.paper = 9}));
   EXPECT_EQ(PageSetupOf(TextOf({})), PageSetup{});
 }
 
@@ -22,7 +24,15 @@ TEST(PageSetup, AnyOtherTextIsNoChoice) {
 
 TEST(PageSetup, WithoutMarginsTheUsualOnesHold) {
   EXPECT_EQ(MarginsOf({}, kUsualMargins), (PageMargins{1905, 1905, 1905, 1905}));
-  EXPECT_EQ(MarginsOf({.margins = {0, 0, 0, 500}}, kUsualMargins), (PageMargins{0, 0, 0, 500}));
+  EXPECT_EQ(MarginsOf({.margins = PageMargins{0, 0, 0, 500}}, kUsualMargins), (PageMargins{0, 0, 0, 500}));
+}
+
+// On paper that can be printed to its edges.
+TEST(PageSetup, NoMarginsAreAChoiceToo) {
+  const PageSetup setup = {.margins = PageMargins{}};
+  EXPECT_EQ(TextOf(setup), "0 0 0 0 0 0");
+  EXPECT_EQ(PageSetupOf("0 0 0 0 0 0"), setup);
+  EXPECT_EQ(MarginsOf(setup, kUsualMargins), PageMargins{});
 }
 
 }  // namespace

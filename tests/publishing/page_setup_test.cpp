@@ -36,7 +36,7 @@ TEST_F(PreviewedSetup, MarginsThatAreChosenHoldAndAreLeftToTheCaller) {
 }
 
 TEST_F(PreviewedSetup, MarginsOfTheLastTimeHold) {
-  setup_.margins = {5080, 5080, 5080, 5080};
+  setup_.margins = publishing::PageMargins{5080, 5080, 5080, 5080};
   Open(TableOfNames(200));
   EXPECT_EQ(Number(), L"Page 1 of 6");
   PressSetup();
@@ -46,7 +46,7 @@ TEST_F(PreviewedSetup, MarginsOfTheLastTimeHold) {
 
 TEST_F(PreviewedSetup, TheUsualMarginsAreNoChoice) {
   Spooler().chosenMargins = {1905};
-  setup_.margins = {5080, 5080, 5080, 5080};
+  setup_.margins = publishing::PageMargins{5080, 5080, 5080, 5080};
   Open(TableOfNames(200));
   PressSetup();
   EXPECT_TRUE(Eventually([this] { return Number() == L"Page 1 of 4"; }));
@@ -62,7 +62,7 @@ TEST_F(PreviewedSetup, MarginsWithoutRoomForATableAreAnErrorAndAskedAgain) {
   EXPECT_TRUE(Eventually([this] { return Calls().size() == 2; }));
   Close();
   EXPECT_THAT(Calls(), ElementsAre("PageSetupDlg with 1905 1905 1905 1905", "PageSetupDlg with 8890 8890 8890 8890"));
-  EXPECT_EQ(setup_.margins.left, 2540);
+  EXPECT_EQ(setup_.margins->left, 2540);
 }
 
 TEST_F(PreviewedSetup, AfterWrongMarginsTheUserCanStillCancel) {
@@ -76,7 +76,7 @@ TEST_F(PreviewedSetup, AfterWrongMarginsTheUserCanStillCancel) {
 }
 
 TEST_F(PreviewedSetup, MarginsThatWereMeantForOtherPaperAreTheUsualOnes) {
-  setup_.margins = {15000, 15000, 15000, 15000};
+  setup_.margins = publishing::PageMargins{15000, 15000, 15000, 15000};
   Open(TableOfNames(200));
   EXPECT_EQ(Number(), L"Page 1 of 4");
 }
@@ -113,7 +113,7 @@ TEST_F(PreviewedSetup, TheSystemsDialogTurnsThePaper) {
   EXPECT_TRUE(Eventually([this] { return Number() == L"Page 1 of 6"; }));
   Close();
   EXPECT_EQ(setup_.orientation, publishing::Orientation::kLandscape);
-  EXPECT_EQ(setup_.margins, publishing::PageMargins{});
+  EXPECT_EQ(setup_.margins, std::nullopt);
 }
 
 // Rows that take their time.
