@@ -1,0 +1,64 @@
+#include "libraries/candles/shabbat_rule.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+#include "libraries/sun/clock_in_force.h"
+#include "libraries/sun/sun_day.h"
+#include "libraries/twilight/decimal_number.h"
+#include "libraries/twilight/twilight_core.h"
+
+namespace candles {
+namespace {
+
+constexpr char kFile[] = "shabbat2.ini";
+constexpr char kSection[] = "Shabbat";
+constexpr std::string_view kJerusalem = "Jerusalem";
+
+double ReadNumber(const sun::SettingsReader& reader, const char* key, double defaultValue, double otherText) {
+  std::array<char, 256> text;
+  reader.readText(kSection, key, "", text.data(), text.size(), kFile);
+  if (text[0] == '\0') return defaultValue;
+  const twilight::DecimalPrefix number = twilight::ReadDecimalPrefix(text.data());
+  return number.isNumber ? number.value : otherText;
+}
+
+// The whole number that the text starts with, 0 when it starts with none.
+int32_t ReadMinutes(const sun::SettingsReader& reader, const char* key, int32_t defaultValue) {
+  using Limits = std::numeric_limits<int32_t>;
+  const double number = std::trunc(ReadNumber(reader, key, defaultValue, 0));
+  return static_cast<int32_t>(std::clamp<double>(number, Limits::min(), Limits::max()));
+}
+
+}  // namespace
+
+ShabbatRule ReadShabbatRule(const sun::SettingsReader& reader, std::string_view place) {
+  ShabbatRule rule;
+  rule.isJerusalem = place == kJerusalem;
+  rule.candleMinutes = rule.isJerusalem ? kJerusalemMinutes : ReadMinutes(reader, "CandleLighting", rule.candleMinutes);
+  rule.endsByMinutes = reader.readInt(kSection, "DoMinutes", 1, kFile) != 0;
+  rule.endMinutes = ReadMinutes(reader, "End", rule.endMinutes);
+  rule.endDegrees = ReadNumber(reader, "DegreesBelowHorizon", rule.endDegrees, rule.endDegrees);
+  rule.minutesAfterDegrees = ReadMinutes(reader, "AddMinutesAfterDegrees", rule.minutesAfterDegrees);
+  return rule;
+}
+
+int64_t SunsetMinute(int32_t unixDay, const sun::PlaceSettings& place) {
+  const sun::SunDay day = sun::ComputeSunDay(unixDay, place.site);
+  const double sunset = sun::Sunset(day, place.elevationMetres).utcSeconds;
+  return sun::NearestMinute(sunset, sun::ClockOffsetSeconds(place.clock, sunset));
+}
+
+int64_t LightingMinute(int32_t unixDay, const sun::PlaceSettings& place, const ShabbatRule& rule) {
+  return SunsetMinute(unixDay, place) - rule.candleMinutes;
+}
+
+int64_t EndMinute(int32_t unixDay, const sun::PlaceSettings& place, const ShabbatRule& rule) {
+  const int64_t sunset = SunsetMinute(unixDay, place);
+  if (rule.endsByMinutes) return sunset + rule.endMinutes;
+  return sunset + twilight::EveningIntervalMinutes(unixDay, place, rule.endDegrees) + rule.minutesAfterDegrees;
+}
+
+}  // namespace candles
