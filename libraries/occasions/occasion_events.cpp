@@ -4,7 +4,6 @@
 #include <string>
 
 #include "libraries/calendar/gregorian.h"
-#include "libraries/sun/clock_in_force.h"
 
 namespace occasions {
 namespace {
@@ -18,11 +17,9 @@ publishing::CivilDate CivilDateOf(int32_t day) {
   return {date.year, date.month, date.day};
 }
 
-// A time that the clock shows twice, as it is put back, is the first.
-publishing::UtcMoment UtcMomentOf(const sun::PlaceClock& clock, int32_t day, int32_t minute) {
+publishing::UtcMoment UtcMomentOf(int32_t day, int32_t minute, int32_t offsetSeconds) {
   const int64_t unixDay = int64_t{day} - calendar::kAbsoluteDayOfUnixDay0;
-  const int64_t shown = unixDay * kSecondsPerDay + minute * kSecondsPerMinute;
-  const int64_t utc = shown - sun::ClockOffsetShowing(clock, shown);
+  const int64_t utc = unixDay * kSecondsPerDay + minute * kSecondsPerMinute - offsetSeconds;
   int64_t utcDay = utc / kSecondsPerDay;
   int64_t second = utc % kSecondsPerDay;
   if (second < 0) {
@@ -52,7 +49,7 @@ std::optional<publishing::Event> EventOf(const Taken& taken, const Row& row) {
   publishing::Event event;
   event.uid = UidOf(taken.packed, row);
   if (row.minute) {
-    event.start = UtcMomentOf(taken.question.settings.clock, row.day, *row.minute);
+    event.start = UtcMomentOf(row.day, *row.minute, row.offsetSeconds);
   } else {
     event.date = CivilDateOf(row.day);
   }

@@ -10,13 +10,14 @@
 #define IDC_TYPED 105
 #define IDC_NEXT_TEXT 106
 #define IDC_OCCASIONS 107
-#define IDC_STATE 108
+#define IDC_REMARK 108
 #define IDC_NEXT 109
 #define IDC_HEBREW 110
 #define IDC_COPY 111
 #define IDC_PRINT 112
 #define IDC_SAVE 113
 #define IDC_SETTINGS 114
+#define IDC_STATE 115
 
 #define IDD_TAKE 200
 #define IDC_TAKE_LIST 201

@@ -24,19 +24,19 @@ constexpr UINT kClockMilliseconds = 15'000;
 constexpr Anchor kAnchors[] = {
     {IDC_TYPED, Follow::kGrow, Follow::kNo},       {IDC_NEXT_TEXT, Follow::kGrow, Follow::kNo},
     {IDC_OCCASIONS, Follow::kGrow, Follow::kGrow}, {IDC_STATE, Follow::kGrow, Follow::kMove},
-    {IDC_NEXT, Follow::kNo, Follow::kMove},        {IDC_HEBREW, Follow::kNo, Follow::kMove},
-    {IDC_COPY, Follow::kMove, Follow::kMove},      {IDC_PRINT, Follow::kMove, Follow::kMove},
-    {IDC_SAVE, Follow::kMove, Follow::kMove},      {IDC_SETTINGS, Follow::kMove, Follow::kMove},
-    {IDCANCEL, Follow::kMove, Follow::kMove},
+    {IDC_REMARK, Follow::kGrow, Follow::kMove},    {IDC_NEXT, Follow::kNo, Follow::kMove},
+    {IDC_HEBREW, Follow::kNo, Follow::kMove},      {IDC_COPY, Follow::kMove, Follow::kMove},
+    {IDC_PRINT, Follow::kMove, Follow::kMove},     {IDC_SAVE, Follow::kMove, Follow::kMove},
+    {IDC_SETTINGS, Follow::kMove, Follow::kMove},  {IDCANCEL, Follow::kMove, Follow::kMove},
 };
 
 // In the order of Column.
 constexpr std::array<dialogs::ListColumn, kColumns> kListColumns = {{{L"Date", L"88.88.8888", 0},
                                                                      {L"Day", L"Wednesday", 0},
                                                                      {L"Jewish date", L"28 Cheshvan 5788", 0},
-                                                                     {L"Occasion", L"Mmmmmmmmmmmmm", 5},
+                                                                     {L"Occasion", L"Mmmmmmmmmmmmmmm", 1},
                                                                      {L"Time", L"08:08 p.m.", 0},
-                                                                     {L"Remark", L"Mmmmmmmmmm", 4}}};
+                                                                     {L"Remark", L"Mmmmmmmmmm", 3}}};
 
 // In the order of Span.
 constexpr const wchar_t* kSpanTexts[kSpans] = {L"The document's range", L"Jewish year", L"Civil year"};
@@ -148,6 +148,8 @@ INT_PTR OccasionsWindow::OnNotify(NMHDR& header) {
       SetWindowLongPtrW(dialog_, DWLP_MSGRESULT, row);
       return TRUE;
     }
+    case LVN_ITEMCHANGED:
+    case LVN_ODSTATECHANGED: ShowRemark(); return TRUE;
     case LVN_KEYDOWN: OnListKey(reinterpret_cast<const NMLVKEYDOWN&>(header).wVKey); return TRUE;
   }
   return FALSE;

@@ -62,6 +62,7 @@ class OccasionsWindow {
   void GoToNext();
   void ShowNext();
   void ShowState() const;
+  void ShowRemark() const;
   std::wstring StateText() const;
   std::wstring ReasonOfNothing() const;
   void UpdateButtons() const;

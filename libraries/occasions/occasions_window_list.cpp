@@ -15,8 +15,9 @@
 namespace occasions {
 namespace {
 
-constexpr int32_t kDaysAhead = 400;  // in which everything comes that comes every year
-constexpr int kYearsAhead = 2;       // in which "Next occasion" looks, beside the present one
+constexpr int32_t kDaysAhead = 400;            // in which everything comes that comes every year
+constexpr int kYearsAhead = 2;                 // in which "Next occasion" looks, beside the present one
+constexpr char kLeftToRightMark[] = "\u200E";  // behind Hebrew in a line of English
 constexpr uint32_t kAllKinds = (1u << kKinds) - 1;
 
 // Since 1970-01-01 00:00 UTC.
@@ -150,6 +151,7 @@ void OccasionsWindow::Fill(std::optional<int32_t> day) {
   list_.SetCount(rows_.Count());
   SelectRow(day ? rows_.NearestTo(*day) : 0);
   ShowState();
+  ShowRemark();
   UpdateButtons();
 }
 
@@ -163,6 +165,7 @@ void OccasionsWindow::GoToNext() {
     SetFocus(list_.Window());
     return;
   }
+  SetFocus(list_.Window());
   const ClockMoment now = Now();
   const Span span = choice_.span;
   const int32_t year = year_;
@@ -189,8 +192,9 @@ void OccasionsWindow::ShowNext() {
     if (!IsToCome(row, now)) continue;
     const Wording wording = WordingNow();
     const std::string time = TimeText(row, wording.form);
-    text = L"Next: " + WideText(TitleOf(row, wording.language) + ", " + WeekdayName(row.day, wording.language) + " " +
-                                DateText(row.day) + (time.empty() ? "" : ", " + time));
+    const std::string end = choice_.hebrew ? kLeftToRightMark : "";
+    text = L"Next: " + WideText(TitleOf(row, wording.language) + end + ", " + WeekdayName(row.day, wording.language) +
+                                end + " " + DateText(row.day) + (time.empty() ? "" : ", " + time));
     break;
   }
   if (text != dialogs::TextOf(Control(IDC_NEXT_TEXT))) SetDlgItemTextW(dialog_, IDC_NEXT_TEXT, text.c_str());
@@ -198,6 +202,14 @@ void OccasionsWindow::ShowNext() {
 
 void OccasionsWindow::ShowState() const {
   SetDlgItemTextW(dialog_, IDC_STATE, StateText().c_str());
+}
+
+// Of the row that is selected alone: the column has no room for long ones.
+void OccasionsWindow::ShowRemark() const {
+  const int row = list_.SelectedCount() == 1 ? list_.FirstSelected() : -1;
+  const bool isThere = row >= 0 && row < rows_.Count();
+  const std::wstring text = isThere ? WideText(RemarkOf(rows_.question(), rows_.At(row))) : L"";
+  if (text != dialogs::TextOf(Control(IDC_REMARK))) SetDlgItemTextW(dialog_, IDC_REMARK, text.c_str());
 }
 
 std::wstring OccasionsWindow::StateText() const {
