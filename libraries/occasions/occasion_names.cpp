@@ -17,7 +17,7 @@ struct Words {
 };
 
 // What a row's number adds to the name.
-enum class NumberIs : uint8_t { kNothing, kDay, kMonth, kFast };
+enum class NumberIs : uint8_t { kNothing, kDay, kCholHamoedDay, kMonth, kFast };
 
 struct OccasionName {
   Words words;
@@ -29,12 +29,12 @@ constexpr OccasionName kNames[] = {
     {{"Rosh Hashana", "ראש השנה"}, NumberIs::kDay},
     {{"Yom Kippur", "יום כיפור"}},
     {{"Sukkot", "סוכות"}, NumberIs::kDay},
-    {{"Chol HaMoed Sukkot", "חול המועד סוכות"}, NumberIs::kDay},
+    {{"Sukkot", "סוכות"}, NumberIs::kCholHamoedDay},
     {{"Hoshana Rabba", "הושענא רבה"}},
     {{"Shemini Atzeret", "שמיני עצרת"}},
     {{"Simchat Torah", "שמחת תורה"}},
     {{"Pesach", "פסח"}, NumberIs::kDay},
-    {{"Chol HaMoed Pesach", "חול המועד פסח"}, NumberIs::kDay},
+    {{"Pesach", "פסח"}, NumberIs::kCholHamoedDay},
     {{"Shavuot", "שבועות"}, NumberIs::kDay},
     {{"Shabbat", "שבת"}},
     {{"Eruv tavshilin", "עירוב תבשילין"}},
@@ -90,6 +90,7 @@ constexpr Words kSheminiAtzeretAndSimchatTorah = {"Shemini Atzeret and Simchat T
 constexpr Words kDays[] = {{"first day", "יום א׳"},   {"second day", "יום ב׳"}, {"third day", "יום ג׳"},
                            {"fourth day", "יום ד׳"},  {"fifth day", "יום ה׳"},  {"sixth day", "יום ו׳"},
                            {"seventh day", "יום ז׳"}, {"eighth day", "יום ח׳"}};
+constexpr Words kCholHamoed = {" (Chol HaMoed)", " (חול המועד)"};
 constexpr Words kLights[] = {{"first light", "נר ראשון"},   {"second light", "נר שני"},  {"third light", "נר שלישי"},
                              {"fourth light", "נר רביעי"},  {"fifth light", "נר חמישי"}, {"sixth light", "נר שישי"},
                              {"seventh light", "נר שביעי"}, {"eighth light", "נר שמיני"}};
@@ -195,6 +196,7 @@ std::string NameOf(const Row& row, Language language) {
   switch (name.number) {
     case NumberIs::kNothing: return words;
     case NumberIs::kDay: return words + ", " + kDays[index].In(language);
+    case NumberIs::kCholHamoedDay: return words + ", " + kDays[index].In(language) + kCholHamoed.In(language);
     case NumberIs::kMonth: return words + " " + MonthOfNumber(row.number, language);
     case NumberIs::kFast: return words + ", " + kFasts[index].In(language);
   }
