@@ -91,12 +91,14 @@ std::string MonthText(const calendar::Date& date, Language language) {
   return std::string(kMonths[date.month - 1][language == Language::kHebrew]) + " " + std::to_string(date.year);
 }
 
+constexpr const char* kShortDays[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+
 // "Fri 27": the month stands above.
 std::string DayText(int32_t day, Language language) {
-  constexpr size_t kShortName = 3;
-  const std::string name = WeekdayName(day, language);
-  const std::string shown = language == Language::kHebrew ? name : name.substr(0, kShortName);
-  return shown + " " + std::to_string(calendar::GregorianFromAbsolute(day).day);
+  const bool isHebrew = language == Language::kHebrew;
+  const std::string name =
+      isHebrew ? WeekdayName(day, language) : kShortDays[static_cast<int>(calendar::WeekdayOf(day))];
+  return name + " " + std::to_string(calendar::GregorianFromAbsolute(day).day);
 }
 
 std::vector<publishing::Row> RowsInMonths(const std::vector<Evening>& evenings, Language language) {

@@ -135,7 +135,7 @@ void OccasionsWindow::Save() {
   choice_.format = answer->format;
   const Taken taken = answer->candlesAlone ? AllCandles() : WhatIsShown();
   const FormatLook& look = kLooks[static_cast<size_t>(answer->format)];
-  const std::wstring path = dialogs::AskForFileToWrite(dialog_, {L"Save Occasions", look.filter, look.extension},
+  const std::wstring path = dialogs::AskForFileToWrite(dialog_, {L"Save Occasions to File", look.filter, look.extension},
                                                        OfferedName(taken, look.extension));
   if (path.empty()) return;
   const std::optional<std::string> text = SavedText(dialog_, taken, answer->format);

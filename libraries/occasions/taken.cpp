@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "publishing/core/hebrew_numeral.h"
+
 namespace occasions {
 namespace {
 
@@ -29,6 +31,14 @@ constexpr SpanTitle kCandleTitles[kSpans] = {
     {"Candle lighting and end from %1 to %2", "הדלקת נרות ויציאה מיום %1 עד יום %2"},
     {"Candle lighting and end in the Jewish year %1", "הדלקת נרות ויציאה בשנה העברית %1"},
     {"Candle lighting and end in the year %1", "הדלקת נרות ויציאה בשנה האזרחית %1"}};
+
+// In Hebrew a Jewish year is written without its thousands.
+std::string YearText(const Taken& taken) {
+  constexpr int32_t kThousand = 1000;
+  const bool inLetters = taken.span == Span::kJewishYear && taken.wording.language == Language::kHebrew;
+  if (!inLetters || taken.year % kThousand == 0) return std::to_string(taken.year);
+  return publishing::HebrewNumeral(static_cast<uint32_t>(taken.year % kThousand));
+}
 
 std::string Degrees(double degrees) {
   char text[32];
@@ -68,7 +78,7 @@ std::string TitleText(const Taken& taken) {
   const SpanTitle& title = (taken.candlesAlone ? kCandleTitles : kListTitles)[static_cast<int>(taken.span)];
   const char* const text = taken.wording.language == Language::kHebrew ? title.hebrew : title.english;
   if (taken.span == Span::kRange) return Filled(text, DateText(taken.days.first), DateText(taken.days.last));
-  return Filled(text, std::to_string(taken.year));
+  return Filled(text, YearText(taken));
 }
 
 std::string CandleRuleText(const candles::ShabbatRule& rule, Language language) {
