@@ -18,6 +18,8 @@
 #define IDC_SAVE 113
 #define IDC_SETTINGS 114
 #define IDC_STATE 115
+#define IDC_YEAR_BACK 116 /* these two are commands without a control */
+#define IDC_YEAR_ON 117
 
 #define IDD_TAKE 200
 #define IDC_TAKE_LIST 201

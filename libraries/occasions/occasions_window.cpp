@@ -31,12 +31,13 @@ constexpr Anchor kAnchors[] = {
 };
 
 // In the order of Column.
-constexpr std::array<dialogs::ListColumn, kColumns> kListColumns = {{{L"Date", L"88.88.8888", 0},
-                                                                     {L"Day", L"Wednesday", 0},
-                                                                     {L"Jewish date", L"28 Cheshvan 5788", 0},
-                                                                     {L"Occasion", L"Mmmmmmmmmmmmmmm", 1},
-                                                                     {L"Time", L"08:08 p.m.", 0},
-                                                                     {L"Remark", L"Mmmmmmmmmm", 3}}};
+constexpr std::array<dialogs::ListColumn, kColumns> kListColumns = {
+    {{L"Date", L"88.88.8888", 0},
+     {L"Day", L"Wednesday", 0},
+     {L"Jewish date", L"28 Cheshvan 5788", 0},
+     {L"Occasion", L"Pesach, seventh day: candle lighting", 1},
+     {L"Time", L"08:08 p.m.", 0},
+     {L"Remark", L"Mmmmmmmmmm", 3}}};
 
 // In the order of Span.
 constexpr const wchar_t* kSpanTexts[kSpans] = {L"The document's range", L"Jewish year", L"Civil year"};
@@ -127,6 +128,8 @@ INT_PTR OccasionsWindow::OnYear(int notification) {
 INT_PTR OccasionsWindow::OnButton(int control) {
   switch (control) {
     case IDC_NEXT: GoToNext(); return TRUE;
+    case IDC_YEAR_BACK: TurnYear(-1); return TRUE;
+    case IDC_YEAR_ON: TurnYear(1); return TRUE;
     case IDC_HEBREW: OnHebrew(); return TRUE;
     case IDC_COPY: Copy(); return TRUE;
     case IDC_PRINT: Print(); return TRUE;
@@ -159,8 +162,9 @@ void OccasionsWindow::OnListKey(WORD key) {
   if (GetKeyState(VK_CONTROL) >= 0) return;
   if (key == 'A') list_.SelectAll();
   if (key == 'C') Copy();
-  if (key == VK_PRIOR) TurnYear(-1);
-  if (key == VK_NEXT) TurnYear(1);
+  // Once the list has done with the key itself.
+  if (key == VK_PRIOR) PostMessageW(dialog_, WM_COMMAND, IDC_YEAR_BACK, 0);
+  if (key == VK_NEXT) PostMessageW(dialog_, WM_COMMAND, IDC_YEAR_ON, 0);
 }
 
 void OccasionsWindow::OnGetDisplayInfo(NMLVDISPINFOW& info) const {

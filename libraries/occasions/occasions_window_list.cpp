@@ -155,8 +155,14 @@ void OccasionsWindow::Fill(std::optional<int32_t> day) {
   UpdateButtons();
 }
 
+// With what comes after it in sight.
 void OccasionsWindow::SelectRow(int row) {
-  if (row >= 0 && row < rows_.Count()) list_.SelectOnly({row});
+  if (row < 0 || row >= rows_.Count()) return;
+  constexpr int kRowsAbove = 2;
+  const int page = static_cast<int>(Send(IDC_OCCASIONS, LVM_GETCOUNTPERPAGE, 0, 0));
+  const int last = std::clamp(row + page - 1 - kRowsAbove, row, rows_.Count() - 1);
+  Send(IDC_OCCASIONS, LVM_ENSUREVISIBLE, static_cast<WPARAM>(last), FALSE);
+  list_.SelectOnly({row});
 }
 
 // Enter in the field of the year is for that year.

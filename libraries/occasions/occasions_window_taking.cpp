@@ -71,15 +71,16 @@ Taken OccasionsWindow::WhatIsShown() const {
   return taken;
 }
 
-// Whatever kinds are shown. An evening is of the day on which it begins: the end after the last day is of its evening,
-// that of the first day is not.
+// Whatever kinds are shown. An evening has the end of the day after: the one on the first day is of an evening before,
+// and one after the last day belongs here, but the evening that ends a Jewish year is of the next one.
 Taken OccasionsWindow::AllCandles() const {
   Taken taken = WhatIsShown();
   taken.candlesAlone = true;
   taken.question.customs.hiddenKinds = 0;
-  taken.rows = RowsBetween(taken.question, days_.first, days_.last + 1);
-  std::erase_if(taken.rows, [this](const Row& row) {
-    if (row.moment == Moment::kCandles) return row.day > days_.last;
+  const int32_t lastEvening = choice_.span == Span::kJewishYear ? days_.last - 1 : days_.last;
+  taken.rows = RowsBetween(taken.question, days_.first, lastEvening + 1);
+  std::erase_if(taken.rows, [&](const Row& row) {
+    if (row.moment == Moment::kCandles) return row.day > lastEvening;
     return row.moment != Moment::kEnd || row.day == days_.first;
   });
   return taken;
@@ -135,8 +136,8 @@ void OccasionsWindow::Save() {
   choice_.format = answer->format;
   const Taken taken = answer->candlesAlone ? AllCandles() : WhatIsShown();
   const FormatLook& look = kLooks[static_cast<size_t>(answer->format)];
-  const std::wstring path = dialogs::AskForFileToWrite(dialog_, {L"Save Occasions to File", look.filter, look.extension},
-                                                       OfferedName(taken, look.extension));
+  const std::wstring path = dialogs::AskForFileToWrite(
+      dialog_, {L"Save Occasions to File", look.filter, look.extension}, OfferedName(taken, look.extension));
   if (path.empty()) return;
   const std::optional<std::string> text = SavedText(dialog_, taken, answer->format);
   if (text) dialogs::WriteOrTell(dialog_, path, *text, L"save again");

@@ -22,7 +22,7 @@ YearLimits YearLimitsOf(Span span) {
 }
 
 Days DaysOfYear(Span span, int32_t year) {
-  if (span == Span::kJewishYear) return {calendar::JewishNewYear(year), calendar::JewishNewYear(year + 1) - 1};
+  if (span == Span::kJewishYear) return {calendar::JewishNewYear(year) - 1, calendar::JewishNewYear(year + 1) - 1};
   return {calendar::AbsoluteFromGregorian({1, 1, year}), calendar::AbsoluteFromGregorian({31, kDecember, year})};
 }
 

@@ -31,7 +31,7 @@ struct YearLimits {
 // The years of a calendar whose days all have occasions. span: no range.
 YearLimits YearLimitsOf(Span span);
 
-// year: within the limits.
+// year: within the limits. A Jewish year has the day before too, on whose evening it begins.
 Days DaysOfYear(Span span, int32_t year);
 
 // The year of a day, or the nearest one within the limits.

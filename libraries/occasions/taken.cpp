@@ -93,7 +93,8 @@ std::vector<std::string> RemarksOf(const Taken& taken) {
   const Language language = taken.wording.language;
   const bool isHebrew = language == Language::kHebrew;
   std::vector<std::string> remarks;
-  if (!taken.place.empty()) remarks.push_back(taken.place);
+  // A Hebrew page has its lines begin at the right, which a name in Latin letters alone would not.
+  if (!taken.place.empty()) remarks.push_back((isHebrew ? "המקום: " : "") + taken.place);
   remarks.emplace_back(LandText(taken.question.land, language));
   remarks.push_back(CandleRuleText(taken.question.shabbat, language));
   if (taken.candlesAlone) return remarks;

@@ -142,6 +142,21 @@ TEST_F(OccasionsFilesTest, CandleLightingsAreSavedWhateverTheListShows) {
   run.End();
 }
 
+// Rosh Hashana of 5761 is 30 September 2000, that of 5762 is 18 September 2001.
+TEST_F(OccasionsFilesTest, TheCandlesOfAYearAreThoseOfItsOwnEvenings) {
+  OccasionsRun run;
+  run.ChooseSpan(OccasionsRun::kJewishYear);
+  const std::string jewish = Saved(run, kCsv, "a.csv", IDC_TAKE_CANDLES);
+  EXPECT_THAT(jewish, HasSubstr("Evening,Occasion,Lighting,End\r\n2000-09-29,\"Rosh Hashana, first day\","));
+  EXPECT_THAT(jewish, HasSubstr("\r\n2001-09-14,Shabbat,"));
+  EXPECT_THAT(jewish, Not(HasSubstr("2001-09-17")));
+  run.ChooseSpan(OccasionsRun::kCivilYear);
+  const std::string civil = Saved(run, kCsv, "b.csv", IDC_TAKE_CANDLES);
+  EXPECT_THAT(civil, HasSubstr("Evening,Occasion,Lighting,End\r\n2001-01-05,Shabbat,"));
+  EXPECT_THAT(civil, HasSubstr("\r\n2001-09-17,\"Rosh Hashana, first day\","));
+  run.End();
+}
+
 TEST_F(OccasionsFilesTest, WhatWasChosenLastIsOfferedAgain) {
   {
     OccasionsRun run;
