@@ -33,6 +33,11 @@ constexpr bool HasZmanim(DocumentKind kind) {
   return kind == DocumentKind::kWeeks || kind == DocumentKind::kDays || kind == DocumentKind::kZmanim;
 }
 
+// Whether a kind has a column of what is kept on each day.
+constexpr bool HasOccasions(DocumentKind kind) {
+  return kind == DocumentKind::kDays;
+}
+
 // What a kind is called in a language, "Shabbat times".
 std::string KindName(DocumentKind kind, uint32_t language);
 
