@@ -38,7 +38,7 @@ bool HasMissingTimes(const DocumentSource& source, const DocumentChoice& choice)
 }
 
 bool HasMissingOccasions(const DocumentSource& source, const DocumentChoice& choice) {
-  if (!source.hasOccasions || !HasOccasions(choice.kind)) return false;
+  if (!HasOccasions(source, choice)) return false;
   return std::ranges::any_of(source.zmanimDays, [&](const ZmanimDay& day) {
     return std::ranges::any_of(source.services.Occasions(source.services.AbsoluteDay(day.date), choice.language),
                                [](const DocumentOccasion& occasion) { return occasion.time == kNoTime; });

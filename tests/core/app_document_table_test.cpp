@@ -290,6 +290,14 @@ TEST(DocumentTable, SpreadsheetsHaveTheSameColumnOfOccasions) {
   EXPECT_EQ(RowsOf(table)[0].back(), "Fast of Tevet; Fast of Tevet: begins 05:11; Lights ----");
 }
 
+TEST(DocumentTable, OccasionsThatAreNotWantedAreLeftOut) {
+  const DocumentWithOccasions document;
+  const publishing::Table table = DocumentTable(document.source, {.kind = DocumentKind::kDays, .occasions = false});
+  EXPECT_EQ(HeadingsOf(table).back(), "End of Shabbat");
+  EXPECT_THAT(RowsOf(table)[0], SizeIs(6));
+  EXPECT_THAT(table.notes, SizeIs(1));
+}
+
 TEST(DocumentTable, OtherKindsHaveNoOccasions) {
   const DocumentWithOccasions document;
   for (const DocumentKind kind : {DocumentKind::kShabbatTimes, DocumentKind::kWeeks, DocumentKind::kZmanim,

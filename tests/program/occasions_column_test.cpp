@@ -36,12 +36,15 @@ class OccasionsColumnTest : public ExportsFixture {
     WithDialog([&] { Command(IDM_SAVE_DOCUMENT); },
                [&](HWND dialog) {
                  Click(dialog, kind);
+                 if (unmarkOccasions_) Click(dialog, IDC_DOCUMENT_OCCASIONS);
                  SendDlgItemMessageA(dialog, IDC_DOCUMENT_LANGUAGE, CB_SELECTSTRING, static_cast<WPARAM>(-1),
                                      reinterpret_cast<LPARAM>(language));
                  Click(dialog, IDOK);
                });
     return Bytes(PathOf(std::filesystem::path(name).string()));
   }
+
+  bool unmarkOccasions_ = false;  // in the dialog
 };
 
 }  // namespace
@@ -73,6 +76,43 @@ TEST_F(OccasionsColumnTest, OtherKindsHaveNone) {
         << kind;
   }
   EXPECT_THAT(CallsWith("enumerate"), IsEmpty());
+}
+
+TEST_F(OccasionsColumnTest, TheyAreLeftOutWhereTheUserDoesNotWantThemWhichIsRemembered) {
+  unmarkOccasions_ = true;
+  EXPECT_THAT(Saved(L"days.csv", kDays, "English"), Not(HasSubstr("Occasions")));
+  unmarkOccasions_ = false;
+  EXPECT_THAT(Saved(L"days.csv", kDays, "English"), Not(HasSubstr("Occasions")));
+  EXPECT_EQ(Libraries().settings["shab30.ini|Document|Occasions"], "0");
+  EXPECT_THAT(CallsWith("enumerate"), IsEmpty());
+}
+
+TEST_F(OccasionsColumnTest, OnlyDaysCanHaveThem) {
+  for (const unsigned command : {IDM_SAVE_DOCUMENT, IDM_PRINT_CALENDAR}) {
+    WithDialog([&] { Command(command); },
+               [&](HWND dialog) {
+                 const HWND box = GetDlgItem(dialog, IDC_DOCUMENT_OCCASIONS);
+                 EXPECT_EQ(IsDlgButtonChecked(dialog, IDC_DOCUMENT_OCCASIONS), BST_CHECKED);
+                 for (int kind = 0; kind < 5; ++kind) {
+                   Click(dialog, IDC_DOCUMENT_FIRST_KIND + kind);
+                   EXPECT_EQ(IsWindowEnabled(box), kind == 2) << kind;
+                 }
+                 Click(dialog, IDCANCEL);
+               },
+               command == IDM_PRINT_CALENDAR ? "Print calendar" : "Save as document");
+  }
+}
+
+TEST_F(OccasionsColumnTest, WithoutTheLibraryTheirBoxIsGreyAndWhatWasChosenStays) {
+  OptionalEntries.OccasionsEnumerate = nullptr;
+  WithDialog([&] { Command(IDM_SAVE_DOCUMENT); },
+             [&](HWND dialog) {
+               Click(dialog, kDays);
+               EXPECT_FALSE(IsWindowEnabled(GetDlgItem(dialog, IDC_DOCUMENT_OCCASIONS)));
+               Click(dialog, IDCANCEL);
+             });
+  Saved(L"days.csv", kDays, "English");
+  EXPECT_EQ(Libraries().settings["shab30.ini|Document|Occasions"], "1");
 }
 
 TEST_F(OccasionsColumnTest, WithoutTheLibraryThereIsNone) {
