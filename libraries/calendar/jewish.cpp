@@ -3,32 +3,13 @@
 #include <algorithm>
 #include <array>
 
+#include "libraries/calendar/molad.h"
+
 namespace calendar {
 namespace {
 
-// The molad is reckoned in days from 18:00 (the start of the Jewish day), 24 hours of 1080 parts (chalakim).
-constexpr int64_t kPartsPerHour = 1080;
-constexpr int64_t kPartsPerDay = 24 * kPartsPerHour;
-
-constexpr int64_t Parts(int64_t hours, int64_t parts) {
-  return hours * kPartsPerHour + parts;
-}
-
-// The month of the calendar: 29 days 12 hours 793 parts.
-constexpr int64_t kPartsPerMonth = 29 * kPartsPerDay + Parts(12, 793);
-
-// BaHaRaD: the molad of Tishri of year 1 is Monday, 5 hours 204 parts. That Monday, 1 Tishri 1, is 7 October 3761 BCE
-// of the Julian calendar.
-constexpr int64_t kBaharad = Parts(5, 204);
-constexpr int32_t kEpoch = -1373427;
-
 constexpr bool IsLeap(int64_t year) {
   return (7 * year + 1) % 19 < 7;
-}
-
-// Months from Tishri of year 1 to Tishri of the given year, 235 in every 19 years.
-constexpr int64_t MonthsBefore(int64_t year) {
-  return (235 * year - 234) / 19;
 }
 
 // 1 Tishri by the molad and the four postponements (dechiyot; Maimonides, Kiddush haChodesh 6-8). No clamping: the year

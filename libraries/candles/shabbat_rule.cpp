@@ -5,8 +5,6 @@
 #include <cmath>
 #include <limits>
 
-#include "libraries/sun/clock_in_force.h"
-#include "libraries/sun/sun_day.h"
 #include "libraries/twilight/decimal_number.h"
 #include "libraries/twilight/twilight_core.h"
 
@@ -45,20 +43,9 @@ ShabbatRule ReadShabbatRule(const sun::SettingsReader& reader, std::string_view 
   return rule;
 }
 
-int64_t SunsetMinute(int32_t unixDay, const sun::PlaceSettings& place) {
-  const sun::SunDay day = sun::ComputeSunDay(unixDay, place.site);
-  const double sunset = sun::Sunset(day, place.elevationMetres).utcSeconds;
-  return sun::NearestMinute(sunset, sun::ClockOffsetSeconds(place.clock, sunset));
-}
-
-int64_t LightingMinute(int32_t unixDay, const sun::PlaceSettings& place, const ShabbatRule& rule) {
-  return SunsetMinute(unixDay, place) - rule.candleMinutes;
-}
-
-int64_t EndMinute(int32_t unixDay, const sun::PlaceSettings& place, const ShabbatRule& rule) {
-  const int64_t sunset = SunsetMinute(unixDay, place);
-  if (rule.endsByMinutes) return sunset + rule.endMinutes;
-  return sunset + twilight::EveningIntervalMinutes(unixDay, place, rule.endDegrees) + rule.minutesAfterDegrees;
+int32_t MinutesToEnd(int32_t unixDay, const sun::PlaceSettings& place, const ShabbatRule& rule) {
+  if (rule.endsByMinutes) return rule.endMinutes;
+  return twilight::EveningIntervalMinutes(unixDay, place, rule.endDegrees) + rule.minutesAfterDegrees;
 }
 
 }  // namespace candles

@@ -32,11 +32,9 @@ struct ShabbatRule {
 // place: the name; only one that is exactly "Jerusalem" is that city.
 ShabbatRule ReadShabbatRule(const sun::SettingsReader& reader, std::string_view place);
 
-// Minutes of the clock in force, counted since its 1970-01-01 00:00, on a day since 1970-01-01. Sunset is the solar
-// library's minute; where the sun does not set, its lowest point.
-int64_t SunsetMinute(int32_t unixDay, const sun::PlaceSettings& place);
-int64_t LightingMinute(int32_t unixDay, const sun::PlaceSettings& place, const ShabbatRule& rule);
-int64_t EndMinute(int32_t unixDay, const sun::PlaceSettings& place, const ShabbatRule& rule);
+// Minutes from the sunset of a day since 1970-01-01, the solar library's minute, to the end of Shabbat or Yom Tov.
+// Where the sun does not get as low as the rule wants, its lowest point ends the day.
+int32_t MinutesToEnd(int32_t unixDay, const sun::PlaceSettings& place, const ShabbatRule& rule);
 
 // The times that the user has set for a place and the Friday of an absolute day.
 using OwnTimes = std::function<std::optional<Times>(int32_t friday)>;

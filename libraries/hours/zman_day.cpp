@@ -40,6 +40,13 @@ int64_t MinuteShown(int64_t computed, int64_t shownOfDay) {
 }  // namespace
 
 ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSun& shown)
+    : ZmanDay(unixDay, place, &shown) {
+}
+
+ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place) : ZmanDay(unixDay, place, nullptr) {
+}
+
+ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSun* shown)
     : unixDay_(unixDay), place_(place), sun_(sun::ComputeSunDay(unixDay, place.site)) {
   keptKeys_.fill(kNoKey);
   const double before = sun_.noonUtcSeconds - kSecondsPerDay;
@@ -49,15 +56,15 @@ ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSu
   sunrise_ = sun::Sunrise(sun_, place.elevationMetres).utcSeconds;
   sunset_ = sun::Sunset(sun_, place.elevationMetres).utcSeconds;
 
-  const auto momentShown = [this](double exact, int64_t shownMinutes) {
+  const auto momentShown = [this, shown](double exact, int64_t ShownSun::*shownMinutes) {
     const int32_t offset = OffsetSeconds(exact);
     const int64_t computed = sun::NearestMinute(exact, offset);
-    const int64_t minute = MinuteShown(computed, shownMinutes);
+    const int64_t minute = shown ? MinuteShown(computed, shown->*shownMinutes) : computed;
     agreesWithShown_ = agreesWithShown_ && minute == computed;
     return 60.0 * static_cast<double>(minute) - offset;
   };
-  shownSunrise_ = momentShown(sunrise_, shown.sunriseMinutes);
-  shownSunset_ = momentShown(sunset_, shown.sunsetMinutes);
+  shownSunrise_ = momentShown(sunrise_, &ShownSun::sunriseMinutes);
+  shownSunset_ = momentShown(sunset_, &ShownSun::sunsetMinutes);
 }
 
 int32_t ZmanDay::OffsetSeconds(double utcSeconds) const {

@@ -26,6 +26,9 @@ class ZmanDay {
   // unixDay: days since 1970-01-01 of the years 1 to 9999 (sun::UnixDayOfDate).
   ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSun& shown);
 
+  // With sunrise and sunset as the place's settings have them.
+  ZmanDay(int32_t unixDay, const sun::PlaceSettings& place);
+
   // Whether sunrise and sunset are shown as the place's settings have them. If not, the settings have changed since.
   bool AgreesWithShown() const { return agreesWithShown_; }
 
@@ -40,6 +43,8 @@ class ZmanDay {
   std::optional<int64_t> ClockMinute(const Definition& zman);
 
  private:
+  ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSun* shown);
+
   // The morning's bound or the evening's.
   enum class End : uint8_t { kStart, kEnd };
 

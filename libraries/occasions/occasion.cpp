@@ -32,6 +32,7 @@ constexpr OccasionTraits kTraits[] = {
     {"fast-of-firstborn", kFast},
     {"17-tammuz", kFast},
     {"tisha-beav", kFast},
+    {"fast-of-yom-kippur", kFast},
     {"search-for-chametz", kChametz},
     {"chametz", kChametz},
     {"chanukah", kChanukah},

@@ -44,6 +44,7 @@ enum class Occasion : uint8_t {
   kFastOfFirstborn,
   kSeventeenthOfTammuz,
   kTishaBeAv,
+  kFastOfYomKippur,
   kSearchForChametz,
   kChametz,
   kChanukah,  // lights and days, 1 to 8
@@ -111,33 +112,35 @@ enum class Rule : uint8_t {
   kEndMinutes,     // the user's minutes after sunset
   kEndDegrees,     // the user's depression, and the minutes added
   kSunset,         // the solar library's minute
-  kSunsetPlus,     // and the user's minutes
+  kChanukahMinutes,
+  kHalfTwilight,
   kSunrise,
   kDawn,           // the user's
   kNightfall,      // the user's
   kNightfallOfAv,  // the user's for 9 Av
   kChametzZman,    // the user's authority
   kWithCandles,    // at candle lighting
+  kWithEnd,        // at the end of the day
   kBeforeCandles,  // before the Shabbat candles
   kAfterShabbat,   // when Shabbat has ended
-  kMolad,          // in Jerusalem's mean time
-  kSinceMolad,     // so long after it, which is at night
-  kFirstNight,     // so long after it is by day: from the nightfall that follows
-  kLastNight,      // so long after it is by day: until the dawn before
-  kTekufa,         // in Jerusalem's mean time
+  kMolad,
+  kSinceMolad,  // so long after it, which is at night
+  kFirstNight,  // so long after it is by day: from the nightfall that follows
+  kLastNight,   // so long after it is by day: until the dawn before
+  kTekufa,
   kMidnight,
-  kEvening,  // from the evening prayer
 };
 
 // What a remark has to add.
 enum Note : uint16_t {
-  kSunDoesNotSet = 1,  // or rise: the sun's lowest or highest point stood for it
-  kNotReached = 2,     // the sun does not get so low: the moment has no time
-  kFromShabbatToSunday = 4,
-  kFromShabbatToThursday = 8,
-  kOnShabbat = 16,
-  kOnFriday = 32,
-  kMovedByLaw = 64,  // a modern day from its date
+  kSunDoesNotSet = 1,  // or rise: its lowest or highest point stands for that
+  kLowestPoint = 2,    // the sun does not get so low: its lowest point stands for that
+  kNotReached = 4,     // the same: the moment has no time
+  kFromShabbatToSunday = 8,
+  kFromShabbatToThursday = 16,
+  kOnShabbat = 32,
+  kOnFriday = 64,
+  kMovedByLaw = 128,  // a modern day from its date
 };
 
 // One line of what is kept: an occasion's day, or a moment of it.
@@ -150,6 +153,7 @@ struct Row {
   int32_t number = 0;                  // as Occasion says; 0 where it says nothing
   std::optional<int32_t> minute = {};  // of the day on the clock in force, 0 to 1439; none for a whole day, and where
                                        // the moment does not occur
+  int32_t offsetSeconds = 0;           // of that clock from UTC, at that moment
 
   bool operator==(const Row&) const = default;
 };
