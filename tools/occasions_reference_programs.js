@@ -111,7 +111,7 @@ class Hebcal {
   times(year, isIsrael, place, customs) {
     const { HebrewCalendar, Zmanim } = this.library;
     const location = this.locationOf(place, isIsrael);
-    const events = HebrewCalendar.calendar({ year, isHebrewYear: true, il: isIsrael, location, candlelighting: true,
+    const events = HebrewCalendar.calendar({ year, isHebrewYear: true, il: isIsrael, location, candlelighting: true, omer: true,
       candleLightingMins: place.candleMinutes, fastEndDeg: 7.083,
       ...(customs.endDegrees ? { havdalahDeg: customs.endDegrees } : { havdalahMins: customs.endMinutes }) });
     const times = [];
@@ -141,25 +141,42 @@ class Hebcal {
       }
       if (description === "Finish eating chametz" && customs.chametz === "gra") add("eating-ends", zmanim.sofZmanTfilla(), "down");
       if (description === "Biur Chametz" && customs.chametz === "gra") add("burning-ends", zmanim.sofZmanBiurChametzGRA(), "down");
+      if (event.omer) {
+        const eve = sun(event.getDate().prev());
+        times.push({ key: `${plusDays(iso, -1)} count ${event.omer}`, program: this.name, exact: eve.tzeit(7.083).getTime(),
+          rounding: "up", plus: 0 });
+      }
       const light = /^Chanukah: (\d) Candle/.exec(description);
-      if (light && weekdayOf(iso) < 5 && customs.chanukah === "HalfTwilight") add(`lights ${light[1]}`, zmanim.beinHaShmashos(), "up");
-      if (light && weekdayOf(iso) === 6) end(`lights ${light[1]}`);
+      if (!light) continue;
+      const what = `lights ${light[1]}`;
+      const dusk = customs.chanukah === "HalfTwilight" ? zmanim.beinHaShmashos() : zmanim.tzeit(7.083);
+      const isDusk = weekdayOf(iso) < 5 || (weekdayOf(iso) === 6 && dusk > this.endOf(zmanim, customs));
+      if (weekdayOf(iso) === 5) add(what, zmanim.sunset(), "nearest", -place.candleMinutes);
+      else if (isDusk) add(what, dusk, "up", 0, customs.chanukah === "HalfTwilight" ? event.eventTime : null);
+      else end(what);
     }
     return times.concat(this.moonTimes(year, place, location, customs));
+  }
+
+  endOf(zmanim, customs) {
+    return customs.endDegrees ? zmanim.tzeit(customs.endDegrees)
+      : new Date(zmanim.sunset().getTime() + customs.endMinutes * MINUTE);
   }
 
   // After the molad, at night.
   moonTimes(year, place, location, customs) {
     const { Molad, HDate, Zmanim } = this.library;
     const times = [];
-    for (let month = 1; month <= HDate.monthsInYear(year); ++month) {
-      const molad = new Molad(year, month);
+    const months = Array.from({ length: HDate.monthsInYear(year) }, (_, index) => [year, index + 1]);
+    for (const [moladYear, month] of [...months, [year + 1, 7]]) {
+      const molad = new Molad(moladYear, month);
+      times.push({ key: "molad", program: this.name, exact: molad.getInstant().epochMilliseconds, rounding: "nearest", plus: 0 });
       const from = customs.levanaDays === 7 ? molad.getTchilasZmanKidushLevana7Days() : molad.getTchilasZmanKidushLevana3Days();
       const until = customs.levanaHalf ? molad.getSofZmanKidushLevanaBetweenMoldos() : molad.getSofZmanKidushLevana15Days();
       const night = (iso) => {
         const zmanim = new Zmanim(location, dateOf(iso), false);
-        return [customs.dawn === 16.1 ? zmanim.alotHaShachar().getTime() : zmanim.sunrise().getTime() - customs.dawn * MINUTE,
-          zmanim.tzeit(7.083).getTime()];
+        const dawn = customs.dawn === 16.1 ? zmanim.alotHaShachar() : zmanim.sunrise();
+        return [dawnAt(dawn.getTime(), customs, zmanim.timeAtAngle(16, true).getTime()), nightAt(zmanim.tzeit(7.083).getTime())];
       };
       times.push(...levanaTimes(this.name, place, from.epochMilliseconds, until.epochMilliseconds, night));
     }
@@ -167,13 +184,28 @@ class Hebcal {
   }
 }
 
-// From and until as they are when they are at night, else at its edge; night answers a date's dawn and nightfall.
+// A dawn of degrees is exact, one of minutes counted from the sunrise as it is shown. Null where it does not occur.
+const dawnAt = (exact, customs, brighter) => (!exact ? { isBarely: Boolean(brighter) } : customs.dawn === 16.1 ?
+  { exact, rounding: "down", plus: 0 } : { exact, rounding: "nearest", plus: -customs.dawn });
+const nightAt = (exact) => (exact ? { exact, rounding: "up", plus: 0 } : null);
+
+// From and until as they are when they are at night, else at its edge; night answers a date's dawn and nightfall
+// (moments with how they are rounded). isNearEdge: the limit is less than two minutes
+// from one of them. isBarely: a tenth of a degree less would have had a dawn.
 function levanaTimes(program, place, from, until, night) {
-  const time = (what, exact, rounding) => ({ key: `${place.dateAt(exact)} ${what}`, program, exact, rounding, plus: 0 });
-  const [fromDawn, fromNight] = night(place.dateAt(from));
-  const [untilDawn, untilNight] = night(place.dateAt(until));
-  return [time("from kiddush-levana", from > fromDawn && from < fromNight ? fromNight : from, "up"),
-    time("until kiddush-levana", until > untilDawn && until < untilNight ? untilDawn : until, "down")];
+  return [levanaTime("from", from, "up"), levanaTime("until", until, "down")];
+
+  function levanaTime(what, limit, rounding) {
+    const [dawn, nightfall] = night(place.dateAt(limit));
+    if (!dawn?.exact || !nightfall?.exact) {
+      return { key: `${place.dateAt(limit)} ${what} kiddush-levana`, program, exact: null, isBarely: dawn?.isBarely };
+    }
+    const isDay = limit > dawn.exact + dawn.plus * MINUTE && limit < nightfall.exact;
+    const edge = what === "from" ? nightfall : dawn;
+    const time = isDay ? edge : { exact: limit, rounding, plus: 0 };
+    const isNearEdge = [dawn, nightfall].some((one) => Math.abs(limit - one.exact - one.plus * MINUTE) < 2 * MINUTE);
+    return { ...time, key: `${place.dateAt(time.exact + (rounding === "up" ? MINUTE : 0))} ${what} kiddush-levana`, program, isNearEdge };
+  }
 }
 
 class KosherJava {
@@ -258,23 +290,20 @@ class KosherJava {
     return place.kosherCalendar;
   }
 
-  static dawnOf(zmanim, customs) {
-    return customs.dawn === 16.1 ? zmanim.getAlos16Point1Degrees() : zmanim.getAlos72();
-  }
-
   // Of the days that the facts name.
   times(facts, range, isIsrael, place, customs) {
     const times = [];
     for (const fact of facts) {
       const [iso, occasion, number] = fact.split(" ");
       const add = (date, what, zman, rounding, plus = 0) => times.push({ key: `${date} ${what}`, program: this.name,
-        exact: zman.toMillis(), rounding, plus });
+        exact: zman?.toMillis() ?? null, rounding, plus });
       const zmanim = (date) => this.zmanimAt(place, date);
-      if (["fast-of-gedaliah", "10-tevet", "fast-of-esther", "17-tammuz"].includes(occasion)) {
-        add(iso, `fast-begins ${occasion}`, KosherJava.dawnOf(zmanim(iso), customs), "down");
-        add(iso, `fast-ends ${occasion}`, zmanim(iso).getTzaisGeonim7Point083Degrees(), "up");
+      if (["fast-of-gedaliah", "10-tevet", "fast-of-esther", "17-tammuz", "fast-of-firstborn"].includes(occasion)) {
+        if (customs.dawn === 16.1) add(iso, `fast-begins ${occasion}`, zmanim(iso).getAlos16Point1Degrees(), "down");
+        else add(iso, `fast-begins ${occasion}`, zmanim(iso).getSunrise(), "nearest", -customs.dawn);
+        const isUntilSeder = occasion === "fast-of-firstborn" && facts.has(`${plusDays(iso, 1)} pesach 1`);
+        if (!isUntilSeder) add(iso, `fast-ends ${occasion}`, zmanim(iso).getTzaisGeonim7Point083Degrees(), "up");
       }
-      if (occasion === "fast-of-firstborn") add(iso, `fast-begins ${occasion}`, KosherJava.dawnOf(zmanim(iso), customs), "down");
       if (occasion === "tisha-beav") {
         const eve = plusDays(iso, -1);
         add(eve, `fast-begins ${occasion}`, zmanim(eve).getSunset(), "nearest");
@@ -286,6 +315,7 @@ class KosherJava {
         const night = zmanim(evening).getTzaisGeonim7Point083Degrees();
         add(evening, `lights ${number}`, customs.chanukah === "HalfTwilight" ? night.minus({ seconds: 810 }) : night, "up");
       }
+      if (occasion === "omer") add(evening, `count ${number}`, zmanim(evening).getTzaisGeonim7Point083Degrees(), "up");
       if (occasion === "pesach" && number === "1") times.push(...this.chametzTimes(plusDays(iso, -1), place, customs));
     }
     return times.concat(this.moonTimes(range, place, customs));
@@ -295,7 +325,7 @@ class KosherJava {
     const zmanim = this.zmanimAt(place, eve);
     const isGra = customs.chametz === "gra";
     const eating = isGra ? zmanim.getSofZmanAchilasChametzGRA() : zmanim.getSofZmanAchilasChametzMGA72Minutes();
-    const burning = () => (isGra ? zmanim.getSofZmanTfilaGRA() && zmanim.getSofZmanBiurChametzGRA() : zmanim.getSofZmanBiurChametzMGA72Minutes());
+    const burning = () => (isGra ? zmanim.getSofZmanBiurChametzGRA() : zmanim.getSofZmanBiurChametzMGA72Minutes());
     const time = (date, what, zman) => ({ key: `${date} ${what}`, program: this.name, exact: zman.toMillis(), rounding: "down", plus: 0 });
     const times = [time(eve, "eating-ends", eating), time(eve, "burning-ends", burning())];
     if (weekdayOf(eve) === 6) {
@@ -309,14 +339,16 @@ class KosherJava {
   moonTimes(range, place, customs) {
     const { JewishCalendar } = this.library;
     const times = [];
-    for (let iso = range[0]; iso <= range[1]; iso = plusDays(iso, 1)) {
+    for (let iso = range[0]; iso <= plusDays(range[1], 1); iso = plusDays(iso, 1)) {
       const calendar = new JewishCalendar(dateOf(iso));
       if (calendar.getJewishDayOfMonth() !== 1) continue;
+      times.push({ key: "molad", program: this.name, exact: calendar.getMoladAsDate().toMillis(), rounding: "nearest", plus: 0 });
       const from = customs.levanaDays === 7 ? calendar.getTchilasZmanKidushLevana7Days() : calendar.getTchilasZmanKidushLevana3Days();
       const until = customs.levanaHalf ? calendar.getSofZmanKidushLevanaBetweenMoldos() : calendar.getSofZmanKidushLevana15Days();
       const night = (date) => {
         const zmanim = this.zmanimAt(place, date);
-        return [KosherJava.dawnOf(zmanim, customs).toMillis(), zmanim.getTzaisGeonim7Point083Degrees().toMillis()];
+        const dawn = customs.dawn === 16.1 ? zmanim.getAlos16Point1Degrees() : zmanim.getSunrise();
+        return [dawnAt(dawn?.toMillis(), customs, zmanim.getSunriseOffsetByDegrees(106)), nightAt(zmanim.getTzaisGeonim7Point083Degrees()?.toMillis())];
       };
       times.push(...levanaTimes(this.name, place, from.toMillis(), until.toMillis(), night));
     }
@@ -324,4 +356,34 @@ class KosherJava {
   }
 }
 
-module.exports = { Hebcal, KosherJava, DAY, MINUTE, isoOf, dateOf, plusDays, weekdayOf };
+// The seasons of Shmuel: in the Julian calendar the one of Tishri is always on 24 September, at 3:00 of Jerusalem's mean
+// time in leap years and six hours later from year to year; the others are 91 days 7.5 hours apart.
+class JulianCalendar {
+  constructor() {
+    this.name = "the Julian calendar";
+    this.offers = new Set(["tal-umatar"]);
+  }
+
+  // Milliseconds of Jerusalem's mean time as if it were UTC. From March 1900 to February 2100 the calendars are 13 days
+  // apart.
+  static tekufa(civilYear, number) {
+    const tishri = Date.UTC(civilYear, 8, 24 + 13, 3 + 6 * (civilYear % 4));
+    return tishri + number * (91 * DAY + 7.5 * 60 * MINUTE);
+  }
+
+  // The evening before the 60th day, the tekufa's own day, which begins at 18:00, counted first; 7 Cheshvan in Israel.
+  facts(year, isIsrael, hebcal) {
+    const { HDate } = hebcal.library;
+    if (isIsrael) return new Set([`${plusDays(isoOf(new HDate(7, 8, year).greg()), -1)} tal-umatar 0`]);
+    const dayOfTekufa = new Date(JulianCalendar.tekufa(year - 3761, 0) + 6 * 60 * MINUTE).toISOString().slice(0, 10);
+    return new Set([`${plusDays(dayOfTekufa, 58)} tal-umatar 0`]);
+  }
+
+  times(year) {
+    const meanTime = 35.235 * 4 * MINUTE;
+    return [0, 1, 2, 3].map((number) => ({ key: "tekufa", program: this.name,
+      exact: JulianCalendar.tekufa(year - 3761, number) - meanTime, rounding: "nearest", plus: 0 }));
+  }
+}
+
+module.exports = { Hebcal, KosherJava, JulianCalendar, DAY, MINUTE, isoOf, dateOf, plusDays, weekdayOf };
