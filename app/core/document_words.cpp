@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "publishing/core/hebrew_numeral.h"
+
 namespace {
 
 constexpr uint32_t kEnglish = 1;
@@ -139,15 +141,7 @@ constexpr WordsLanguage kLanguages[] = {
       "(+1): nästa dag.",
       "(-1): dagen innan."}},
 };
-
-constexpr const char* kHebrewUnits[] = {"", "א", "ב", "ג", "ד", "ה", "ו", "ז", "ח", "ט"};
-constexpr const char* kHebrewTens[] = {"", "י", "כ", "ל", "מ", "נ", "ס", "ע", "פ", "צ"};
-constexpr const char* kHebrewHundreds[] = {"", "ק", "ר", "ש", "ת", "תק", "תר", "תש", "תת", "תתק"};
 // clang-format on
-
-constexpr std::string_view kGeresh = "׳";
-constexpr std::string_view kGershayim = "״";
-constexpr std::size_t kHebrewLetterSize = 2;  // in UTF-8
 
 }  // namespace
 
@@ -164,24 +158,11 @@ std::string_view WordOf(Word word, uint32_t language) {
   return WordsLanguageOf(language).words[static_cast<std::size_t>(word)];
 }
 
-std::string HebrewNumeral(uint32_t number) {
-  if (number < 1 || number > 999) return std::to_string(number);
-  const uint32_t ofTen = number % 100;
-  std::string letters = kHebrewHundreds[number / 100];
-  if (ofTen == 15 || ofTen == 16) {  // else they would be letters of the Name
-    letters += std::string(kHebrewUnits[9]) + kHebrewUnits[ofTen - 9];
-  } else {
-    letters += std::string(kHebrewTens[ofTen / 10]) + kHebrewUnits[ofTen % 10];
-  }
-  if (letters.size() == kHebrewLetterSize) return letters.append(kGeresh);
-  return letters.insert(letters.size() - kHebrewLetterSize, kGershayim);
-}
-
 std::string JewishDateInWords(uint32_t day, std::string_view month, uint32_t year, uint32_t language) {
   const std::string name(month);
   constexpr uint32_t kThousand = 1000;
   if (language == kHebrew && year % kThousand != 0) {
-    return HebrewNumeral(day) + " ב" + name + " " + HebrewNumeral(year % kThousand);
+    return publishing::HebrewNumeral(day) + " ב" + name + " " + publishing::HebrewNumeral(year % kThousand);
   }
   const char* const point = language == kGerman ? ". " : " ";
   return std::to_string(day) + point + name + " " + std::to_string(year);

@@ -52,6 +52,3 @@ std::string_view WordOf(Word word, uint32_t language);
 // A Jewish date as the language writes it, with the name of its month: "18 Kislev 5787", in German with a point after
 // the day, in Hebrew with letters for numbers, the thousands left out.
 std::string JewishDateInWords(uint32_t day, std::string_view month, uint32_t year, uint32_t language);
-
-// A number from 1 to 999 in Hebrew letters, with geresh or gershayim; 15 and 16 as 9 and 6, 9 and 7.
-std::string HebrewNumeral(uint32_t number);

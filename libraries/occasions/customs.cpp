@@ -65,6 +65,12 @@ std::string HiddenText(uint32_t hidden) {
   return text;
 }
 
+// "MGA, 72 min" of "Latest Eating of Chametz (MGA, 72 min)".
+std::string InBrackets(std::string_view description) {
+  const size_t from = description.find('(') + 1;
+  return std::string(description.substr(from, description.rfind(')') - from));
+}
+
 std::vector<Choice> ChoicesOfKind(hours::Kind kind) {
   std::vector<Choice> choices;
   for (const hours::CatalogueZman& zman : hours::Catalogue()) {
@@ -123,10 +129,7 @@ std::vector<Choice> ChametzChoices() {
   for (const hours::CatalogueZman& zman : hours::Catalogue()) {
     const std::string_view id = zman.id;
     if (!id.starts_with(kEat)) continue;
-    const std::string_view description = zman.description;
-    const size_t from = description.find('(') + 1;
-    const std::string_view opinion = description.substr(from, description.rfind(')') - from);
-    choices.push_back({std::string(id.substr(kEat.size())), std::string(opinion) + ": " + zman.authority});
+    choices.push_back({std::string(id.substr(kEat.size())), InBrackets(zman.description) + ": " + zman.authority});
   }
   return choices;
 }
@@ -158,6 +161,11 @@ std::string TextOfZman(const std::string& id) {
   if (const std::optional<int32_t> minutes = MinutesOfId(id)) return std::to_string(*minutes) + " minutes after sunset";
   const hours::CatalogueZman* const zman = hours::FindInCatalogue(id);
   return zman ? zman->description : "";
+}
+
+std::string OpinionOfChametz(const Customs& customs) {
+  const std::string authority = IsAuthority(customs.chametz) ? customs.chametz : Customs().chametz;
+  return InBrackets(hours::FindInCatalogue(std::string(kEat) + authority)->description);
 }
 
 }  // namespace occasions

@@ -84,13 +84,16 @@ std::vector<Choice> DawnChoices();
 std::vector<Choice> NightfallChoices();  // without those of minutes that the user types
 std::vector<Choice> ChametzChoices();
 
-// The zmanim that a choice names; an id that names none has its default's. hoursAtSeaLevel: as hours.txt says.
+// The zmanim that a choice names; an id that names none has its default's.
 hours::Definition DawnOf(const Customs& customs);
 hours::Definition NightfallOf(const std::string& id);
 hours::Definition EatingChametz(const Customs& customs);
 hours::Definition BurningChametz(const Customs& customs);
 
-// Of NightfallOf and DawnOf in words, UTF-8: "sun 7.083 degrees below the horizon" is for people to read.
+// A dawn or a nightfall in words, UTF-8: "Alot HaShachar (16.1°)", "27 minutes after sunset".
 std::string TextOfZman(const std::string& id);
+
+// Whose opinion the times of chametz follow, UTF-8, as the catalogue's descriptions have it in brackets.
+std::string OpinionOfChametz(const Customs& customs);
 
 }  // namespace occasions

@@ -12,24 +12,25 @@ struct HolyDate {
   int32_t month;
   int32_t day;
   HolyDay holy;
-  bool inIsrael = true;
+  Lands lands = Lands::kBoth;
 };
 
 // Leviticus 23; the second days of the diaspora, and of Rosh Hashana everywhere (Shulchan Aruch, Orach Chaim 496, 601).
 constexpr HolyDate kHolyDates[] = {
     {calendar::kNisan, 15, {Occasion::kPesach, 1}},
-    {calendar::kNisan, 16, {Occasion::kPesach, 2}, false},
+    {calendar::kNisan, 16, {Occasion::kPesach, 2}, Lands::kDiaspora},
     {calendar::kNisan, 21, {Occasion::kPesach, 7}},
-    {calendar::kNisan, 22, {Occasion::kPesach, 8}, false},
+    {calendar::kNisan, 22, {Occasion::kPesach, 8}, Lands::kDiaspora},
     {calendar::kSivan, 6, {Occasion::kShavuot, 1}},
-    {calendar::kSivan, 7, {Occasion::kShavuot, 2}, false},
+    {calendar::kSivan, 7, {Occasion::kShavuot, 2}, Lands::kDiaspora},
     {calendar::kTishri, 1, {Occasion::kRoshHashana, 1}},
     {calendar::kTishri, 2, {Occasion::kRoshHashana, 2}},
     {calendar::kTishri, 10, {Occasion::kYomKippur, 0}},
     {calendar::kTishri, 15, {Occasion::kSukkot, 1}},
-    {calendar::kTishri, 16, {Occasion::kSukkot, 2}, false},
-    {calendar::kTishri, 22, {Occasion::kSheminiAtzeret, 0}},
-    {calendar::kTishri, 23, {Occasion::kSimchatTorah, 0}, false},
+    {calendar::kTishri, 16, {Occasion::kSukkot, 2}, Lands::kDiaspora},
+    {calendar::kTishri, 22, {Occasion::kSheminiAtzeret, 0}, Lands::kDiaspora},
+    {calendar::kTishri, 22, {Occasion::kSheminiAtzeret, 1}, Lands::kIsrael},
+    {calendar::kTishri, 23, {Occasion::kSimchatTorah, 0}, Lands::kDiaspora},
 };
 
 constexpr bool IsShabbat(int32_t day) {
@@ -39,9 +40,7 @@ constexpr bool IsShabbat(int32_t day) {
 std::optional<HolyDay> YomTovOn(int32_t day, Land land) {
   const calendar::Date date = calendar::JewishFromAbsolute(day);
   for (const HolyDate& holy : kHolyDates) {
-    if (holy.month == date.month && holy.day == date.day && (holy.inIsrael || land == Land::kDiaspora)) {
-      return holy.holy;
-    }
+    if (holy.month == date.month && holy.day == date.day && IsKept(holy.lands, land)) return holy.holy;
   }
   return std::nullopt;
 }

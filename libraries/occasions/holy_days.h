@@ -10,6 +10,12 @@
 
 namespace occasions {
 
+enum class Lands : uint8_t { kBoth, kDiaspora, kIsrael };
+
+constexpr bool IsKept(Lands lands, calendar::Land land) {
+  return lands == Lands::kBoth || (lands == Lands::kIsrael) == (land == calendar::Land::kIsrael);
+}
+
 // A day on which no work is done: Yom Tov, or a Shabbat that is none.
 struct HolyDay {
   Occasion occasion;

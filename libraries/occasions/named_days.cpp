@@ -8,10 +8,6 @@
 namespace occasions {
 namespace {
 
-using calendar::Land;
-
-enum class Lands : uint8_t { kBoth, kDiaspora, kIsrael };
-
 // An occasion's day by the calendar's table of holidays, which has the dates, what Shabbat moves, the laws and their
 // sources.
 struct NamedDay {
@@ -34,7 +30,8 @@ constexpr NamedDay kNamedDays[] = {
     {"Sukkot, fifth day (Chol HaMoed)", Occasion::kCholHamoedSukkot, 5},
     {"Sukkot, sixth day (Chol HaMoed)", Occasion::kCholHamoedSukkot, 6},
     {"Hoshana Rabba", Occasion::kHoshanaRabba},
-    {"Shemini Atzeret (in Israel also Simchat Torah)", Occasion::kSheminiAtzeret},
+    {"Shemini Atzeret (in Israel also Simchat Torah)", Occasion::kSheminiAtzeret, 0, Lands::kDiaspora},
+    {"Shemini Atzeret (in Israel also Simchat Torah)", Occasion::kSheminiAtzeret, 1, Lands::kIsrael},
     {"Simchat Torah (diaspora)", Occasion::kSimchatTorah, 0, Lands::kDiaspora},
     {"Chanukah, first day", Occasion::kChanukah, 1},
     {"Chanukah, second day", Occasion::kChanukah, 2},
@@ -96,10 +93,6 @@ const std::vector<DatedDay>& DatedDays() {
     return found;
   }();
   return days;
-}
-
-bool IsKept(Lands lands, Land land) {
-  return lands == Lands::kBoth || (lands == Lands::kIsrael) == (land == Land::kIsrael);
 }
 
 uint16_t NotesOf(const DatedDay& dated, int32_t day) {

@@ -31,7 +31,7 @@ enum class Occasion : uint8_t {
   kSukkot,            // 1, in the diaspora 2
   kCholHamoedSukkot,  // the festival's day, 2 or 3 to 6
   kHoshanaRabba,
-  kSheminiAtzeret,
+  kSheminiAtzeret,    // 1 in Israel, where it is Simchat Torah too
   kSimchatTorah,      // of the diaspora
   kPesach,            // 1, 7, in the diaspora 2, 8
   kCholHamoedPesach,  // the festival's day, 2 or 3 to 6

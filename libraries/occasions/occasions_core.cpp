@@ -11,7 +11,8 @@ namespace occasions {
 
 std::vector<Row> RowCollector::Take() {
   const auto order = [](const Row& row) {
-    return std::tuple(row.day, row.minute.value_or(-1), row.occasion, row.moment, row.number);
+    const bool isAfterCandles = row.rule != Rule::kBeforeCandles && row.occasion != Occasion::kEruvTavshilin;
+    return std::tuple(row.day, row.minute.value_or(-1), isAfterCandles, row.occasion, row.moment, row.number);
   };
   std::sort(rows_.begin(), rows_.end(), [&](const Row& a, const Row& b) { return order(a) < order(b); });
   return std::move(rows_);

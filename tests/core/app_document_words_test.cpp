@@ -30,22 +30,6 @@ TEST(DocumentWords, AnUnknownLanguageIsEnglish) {
   EXPECT_EQ(WordsLanguageOf(99).code, 1u);
 }
 
-TEST(DocumentWords, HebrewNumeralsSpareTheLettersOfTheName) {
-  EXPECT_EQ(HebrewNumeral(1), "א׳");
-  EXPECT_EQ(HebrewNumeral(10), "י׳");
-  EXPECT_EQ(HebrewNumeral(15), "ט״ו");
-  EXPECT_EQ(HebrewNumeral(16), "ט״ז");
-  EXPECT_EQ(HebrewNumeral(18), "י״ח");
-  EXPECT_EQ(HebrewNumeral(30), "ל׳");
-  EXPECT_EQ(HebrewNumeral(100), "ק׳");
-  EXPECT_EQ(HebrewNumeral(715), "תשט״ו");
-  EXPECT_EQ(HebrewNumeral(787), "תשפ״ז");
-  EXPECT_EQ(HebrewNumeral(800), "ת״ת");
-  EXPECT_EQ(HebrewNumeral(999), "תתקצ״ט");
-  EXPECT_EQ(HebrewNumeral(0), "0");
-  EXPECT_EQ(HebrewNumeral(1000), "1000");
-}
-
 TEST(DocumentWords, JewishDatesAreWrittenAsTheLanguageDoes) {
   EXPECT_EQ(JewishDateInWords(18, "Kislev", 5787, 1), "18 Kislev 5787");
   EXPECT_EQ(JewishDateInWords(18, "Kislew", 5787, 3), "18. Kislew 5787");
