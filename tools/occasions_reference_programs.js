@@ -25,6 +25,10 @@ const plusDays = (iso, days) => {
 };
 const weekdayOf = (iso) => dateOf(iso).getDay();
 
+// In Israel Shemini Atzeret, which is Simchat Torah there, has the number 1.
+const simchatTorahIn = ([date, occasion, number], isIsrael) =>
+  [date, occasion, isIsrael && occasion === "shemini-atzeret" ? 1 : number];
+
 const HEBCAL_DAYS = {
   "Rosh Hashana II": ["rosh-hashana", 2], "Yom Kippur": ["yom-kippur", 0],
   "Sukkot I": ["sukkot", 1], "Sukkot II": ["sukkot", 2], "Sukkot VII (Hoshana Raba)": ["hoshana-rabba", 0],
@@ -99,7 +103,7 @@ class Hebcal {
     const facts = new Set();
     for (const event of events) {
       const fact = this.factOf(event, isoOf(event.getDate().greg()), count);
-      if (fact) facts.add(fact.join(" "));
+      if (fact) facts.add(simchatTorahIn(fact, isIsrael).join(" "));
     }
     return facts;
   }
@@ -277,7 +281,8 @@ class KosherJava {
       calendar.setInIsrael(isIsrael);
       calendar.setUseModernHolidays(true);
       for (const [occasion, number] of this.factsOf(calendar)) {
-        facts.add(`${iso} ${occasion} ${occasion === "behab" ? (behab++ % 3) + 1 : number}`);
+        const fact = [iso, occasion, occasion === "behab" ? (behab++ % 3) + 1 : number];
+        facts.add(simchatTorahIn(fact, isIsrael).join(" "));
       }
     }
     return facts;

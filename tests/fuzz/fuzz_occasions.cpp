@@ -125,7 +125,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   elevationMetres = number(-500, 9000);
   const int32_t first = number(577736, 1096000);  // 1 October 1582 to 2 October 3001
   const int32_t days = input.ConsumeIntegralInRange(-1, kMostDays);
-  const int32_t last = static_cast<int32_t>(std::min<int64_t>(int64_t{first} + days, INT32_MAX));
+  const auto last = static_cast<int32_t>(std::clamp<int64_t>(int64_t{first} + days, INT32_MIN, INT32_MAX));
   file.emplace(SettingsText(input));
 
   Question question;
