@@ -175,7 +175,8 @@ TEST(OccasionCases, TheOmerIsCountedFromTheSecondNightOfPesachToTheNightBeforeSh
 }
 
 // Rosh Hashana 26 September 2022 is a Monday, 23 September 2025 a Tuesday, 3 October 2024 a Thursday, 16 September 2023
-// a Shabbat. Midnight is after 0:00 of summer time, so it is the Sunday's.
+// a Shabbat. Midnight is twelve hours after noon, which is at 12:56 of summer time less the 3 to 10 minutes of
+// September's equation of time: on Sunday.
 TEST(OccasionCases, SelichotOfAshkenazimBeginInTheNightOfASundayFourDaysBeforeRoshHashanaAtLeast) {
   const Wanted selichot = {Occasion::kSelichot};
   EXPECT_EQ(DaysOfYear(InNewYork(), 5782, selichot), (Texts{"2022-09-18 Sun selichot from"}));
@@ -296,6 +297,71 @@ TEST(OccasionCases, KiddushLevanaIsAtNight) {
   EXPECT_EQ(FindRow(rows, Occasion::kKiddushLevana, Moment::kFrom, calendar::kTishri)->rule, Rule::kFirstNight);
   EXPECT_EQ(FindRow(rows, Occasion::kKiddushLevana, Moment::kFrom, calendar::kTammuz)->rule, Rule::kSinceMolad);
   EXPECT_EQ(FindRow(rows, Occasion::kKiddushLevana, Moment::kUntil, calendar::kCheshvan)->rule, Rule::kLastNight);
+}
+
+// 1 Iyar 5785 is Tuesday, 29 April 2025; 1 Cheshvan Shabbat, 2 November 2024, so that the first Shabbat after it is a
+// week later.
+TEST(OccasionCases, BehabIsMondayThursdayAndMondayAfterTheFirstShabbatBehindRoshChodesh) {
+  Texts begins;
+  for (const Row& row : RowsOfJewishYear(InNewYork(), 5785)) {
+    if (row.occasion != Occasion::kBehab || row.moment != Moment::kFastBegins) continue;
+    begins.push_back(DayText(row.day) + " " + std::to_string(row.number));
+  }
+  EXPECT_EQ(begins, (Texts{"2024-11-11 Mon 1", "2024-11-14 Thu 2", "2024-11-18 Mon 3", "2025-05-05 Mon 1",
+                           "2025-05-08 Thu 2", "2025-05-12 Mon 3"}));
+}
+
+TEST(OccasionCases, YomKippurIsAFastFromItsCandlesToItsEnd) {
+  const auto rows = RowsBetween(InNewYork(), CivilDay(2024, 10, 11), CivilDay(2024, 10, 12));
+  const auto minuteOf = [&rows](Occasion occasion, Moment moment) { return FindRow(rows, occasion, moment)->minute; };
+  EXPECT_EQ(minuteOf(Occasion::kFastOfYomKippur, Moment::kFastBegins),
+            minuteOf(Occasion::kYomKippur, Moment::kCandles));
+  EXPECT_EQ(minuteOf(Occasion::kFastOfYomKippur, Moment::kFastEnds), minuteOf(Occasion::kYomKippur, Moment::kEnd));
+}
+
+// 6.45 degrees: 20:41:56 in New York, 7.083 degrees: 20:45:47 (Hebcal).
+TEST(OccasionCases, The9thOfAvMayEndByANightfallOfItsOwn) {
+  Question question = InNewYork();
+  const auto endIn = [&question] {
+    const auto rows = RowsBetween(question, CivilDay(2025, 8, 3), CivilDay(2025, 8, 3));
+    return TimeText(*FindRow(rows, Occasion::kTishaBeAv, Moment::kFastEnds));
+  };
+  EXPECT_EQ(endIn(), "20:46");
+  question.customs.nightfallOfAv = "nightfall-6.45";
+  EXPECT_EQ(endIn(), "20:42");
+}
+
+// The season of Tishri 5770 is on 7 October 2009 at 9:00 in the mean time of Jerusalem, 6:39:04 UTC; the others are 91
+// days 7.5 hours later each.
+TEST(OccasionCases, TheSeasonsStandOnTheClockOfThePlace) {
+  EXPECT_EQ(Times(InJerusalem(), CivilDay(2009, 10, 1), CivilDay(2010, 9, 1), {Occasion::kTekufa}),
+            (Texts{"2009-10-07 Wed 08:39 tekufa 7 instant", "2010-01-06 Wed 16:09 tekufa 10 instant",
+                   "2010-04-08 Thu 00:39 tekufa 1 instant", "2010-07-08 Thu 08:09 tekufa 4 instant"}));
+}
+
+TEST(OccasionCases, TimesOfTheUsersOwnForAFridayAreThoseOfItsCandlesLightsAndEnd) {
+  Question question = InNewYork();
+  question.ownTimes = [](int32_t friday) -> std::optional<candles::Times> {
+    if (friday != CivilDay(2025, 12, 19)) return std::nullopt;
+    return candles::Times{15, 50, 17, 40};
+  };
+  const auto rows = RowsBetween(question, CivilDay(2025, 12, 19), CivilDay(2025, 12, 20));
+  EXPECT_EQ(TimeText(*FindRow(rows, kShabbat, Moment::kCandles)), "15:50");
+  EXPECT_EQ(TimeText(*FindRow(rows, Occasion::kChanukah, Moment::kLights, 6)), "15:50");
+  EXPECT_EQ(TimeText(*FindRow(rows, kShabbat, Moment::kEnd)), "17:40");
+  EXPECT_EQ(TimeText(*FindRow(rows, Occasion::kChanukah, Moment::kLights, 7)), "17:40");
+  EXPECT_EQ(FindRow(rows, kShabbat, Moment::kCandles)->rule, Rule::kOwnTime);
+}
+
+TEST(OccasionCases, KindsThatAreHiddenAreNotThere) {
+  Question question = InNewYork();
+  const auto all = RowsOfJewishYear(question, 5785);
+  question.customs.hiddenKinds = 1u << static_cast<int>(Kind::kOmer) | 1u << static_cast<int>(Kind::kFast);
+  const auto shown = RowsOfJewishYear(question, 5785);
+  const auto hidden = std::ranges::count_if(
+      all, [](const Row& row) { return KindOf(row.occasion) == Kind::kOmer || KindOf(row.occasion) == Kind::kFast; });
+  EXPECT_GT(hidden, 49);
+  EXPECT_EQ(shown.size() + static_cast<size_t>(hidden), all.size());
 }
 
 }  // namespace
