@@ -256,4 +256,30 @@ TEST(OccasionRanges, BeyondTheDateLineFridayIsTheCivilFriday) {
   }
 }
 
+// The date line was moved across Apia at the end of 2011 and across Kiritimati at the end of 1994.
+TEST(OccasionRanges, CandlesOfShabbatAreOnFridayBeforeTheDateLineWasMovedToo) {
+  for (const Question& question : {InKiritimati(), InApia()}) {
+    for (const Row& row : RowsBetween(question, CivilDay(1975, 1, 1), CivilDay(2012, 12, 31))) {
+      if (row.occasion != Occasion::kShabbat) continue;
+      const Weekday expected = row.moment == Moment::kCandles ? Weekday::kFriday : Weekday::kSaturday;
+      EXPECT_EQ(calendar::WeekdayOf(row.day), expected) << question.place << " " << DayText(row.day);
+    }
+  }
+}
+
+// What settings may hold; whole days too many do not matter.
+TEST(OccasionRanges, AnyNumbersOfMinutesAreThoseOfADay) {
+  constexpr int32_t kLeast = std::numeric_limits<int32_t>::min();
+  constexpr int32_t kMost = std::numeric_limits<int32_t>::max();
+  for (const int32_t minutes : {kLeast, -1440, 1440, kMost}) {
+    for (const bool byMinutes : {false, true}) {
+      Question question = InNewYork();
+      question.shabbat = {.candleMinutes = minutes, .endsByMinutes = byMinutes};
+      question.shabbat.endMinutes = question.shabbat.minutesAfterDegrees = minutes;
+      const auto rows = RowsBetween(question, CivilDay(2024, 1, 1), CivilDay(2024, 12, 31));
+      ExpectSense(rows, CivilDay(2024, 1, 1), CivilDay(2024, 12, 31), std::to_string(minutes));
+    }
+  }
+}
+
 }  // namespace
