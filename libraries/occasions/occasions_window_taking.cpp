@@ -40,18 +40,20 @@ std::wstring OfferedName(const Taken& taken, const wchar_t* extension) {
 // Whether the clipboard has the text now.
 bool PutOnClipboard(HWND owner, const std::wstring& text) {
   const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
-  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
-  if (!memory) return false;
-  std::memcpy(GlobalLock(memory), text.c_str(), bytes);
-  GlobalUnlock(memory);
-  if (OpenClipboard(owner)) {
-    EmptyClipboard();
-    const bool isThere = SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
-    CloseClipboard();
-    if (isThere) return true;
+  const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, bytes);
+  void* const memory = block ? GlobalLock(block) : nullptr;
+  if (memory) {
+    std::memcpy(memory, text.c_str(), bytes);
+    GlobalUnlock(block);
   }
-  GlobalFree(memory);
-  return false;
+  bool isTaken = false;
+  if (memory && OpenClipboard(owner)) {
+    EmptyClipboard();
+    isTaken = SetClipboardData(CF_UNICODETEXT, block) != nullptr;
+    CloseClipboard();
+  }
+  if (block && !isTaken) GlobalFree(block);
+  return isTaken;
 }
 
 }  // namespace
