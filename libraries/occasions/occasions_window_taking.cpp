@@ -73,17 +73,19 @@ Taken OccasionsWindow::WhatIsShown() const {
   return taken;
 }
 
-// Whatever kinds are shown. An evening has the end of the day after: the one on the first day is of an evening before,
-// and one after the last day belongs here, but the evening that ends a Jewish year is of the next one.
+// Whatever kinds are shown. An evening has the end of the day after, and a Jewish year the evening of its eve but not
+// that of its last day.
 Taken OccasionsWindow::AllCandles() const {
   Taken taken = WhatIsShown();
   taken.candlesAlone = true;
   taken.question.customs.hiddenKinds = 0;
   const int32_t lastEvening = choice_.span == Span::kJewishYear ? days_.last - 1 : days_.last;
-  taken.rows = RowsBetween(taken.question, days_.first, lastEvening + 1);
+  constexpr int32_t kDaysToEnd = 2;  // where it is after midnight
+  const Days evenings = {days_.first, lastEvening};
+  taken.rows = RowsBetween(taken.question, evenings.first, evenings.last + kDaysToEnd);
   std::erase_if(taken.rows, [&](const Row& row) {
-    if (row.moment == Moment::kCandles) return row.day > lastEvening;
-    return row.moment != Moment::kEnd || row.day == days_.first;
+    const bool isOne = row.moment == Moment::kCandles || row.moment == Moment::kEnd;
+    return !isOne || !evenings.Contain(EveningOf(row));
   });
   return taken;
 }
