@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "libraries/occasions/taken.h"
-#include "output/text_sink.h"
 #include "publishing/core/icalendar.h"
 #include "publishing/core/progress.h"
 

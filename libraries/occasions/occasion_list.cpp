@@ -4,6 +4,8 @@
 #include <numeric>
 #include <utility>
 
+#include "publishing/core/unicode.h"
+
 namespace occasions {
 namespace {
 
@@ -45,6 +47,7 @@ void OccasionList::Search(std::string_view typed) {
   const bool isNarrower = folded.starts_with(typed_);
   typed_ = std::move(folded);
   words_ = WordsIn(typed_);
+  isTypedAscii_ = publishing::IsPlainAscii(typed_);
   if (isNarrower) return Narrow();
   ShowKind(kind_);
 }
@@ -71,6 +74,7 @@ bool OccasionList::IsFound(const Row& row) {
   if (missing.empty()) return true;
   std::string dates = DateText(row.day);
   for (const Language language : {Language::kEnglish, Language::kHebrew}) {
+    if (language == Language::kHebrew && isTypedAscii_) continue;
     dates += "\n" + WeekdayName(row.day, language) + "\n" + JewishDateText(row.day, language);
   }
   EraseThoseIn(fold_(dates), missing);

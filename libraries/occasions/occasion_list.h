@@ -62,6 +62,7 @@ class OccasionList {
   std::optional<Kind> kind_;
   std::string typed_;                       // folded
   std::vector<std::string> words_;          // of typed_
+  bool isTypedAscii_ = true;                // no letter of Hebrew is looked for
   std::map<TitleKey, std::string> titles_;  // folded, in both languages
 };
 

@@ -1,6 +1,7 @@
 #include "libraries/occasions/occasion_table.h"
 
 #include <cstdio>
+#include <map>
 #include <utility>
 
 #include "libraries/calendar/gregorian.h"
@@ -42,41 +43,27 @@ class TextsOfRows : public publishing::Rows {
 
 // A row of the table of candles.
 struct Evening {
-  int32_t day;  // on whose evening it begins
   std::string name;
   std::string lighting;
   std::string end;  // on the evening of the day after
 };
 
-// The evening that an end belongs to has begun a day before it, two where the end is after midnight.
-Evening* EveningEndingOn(int32_t day, std::vector<Evening>& evenings) {
-  constexpr size_t kNearby = 3;
-  for (size_t back = 1; back <= kNearby && back <= evenings.size(); ++back) {
-    Evening& evening = evenings[evenings.size() - back];
-    const int32_t days = day - evening.day;
-    if (evening.end.empty() && (days == 1 || days == 2)) return &evening;
-  }
-  return nullptr;
-}
+// By the day on whose evening they begin.
+using Evenings = std::map<int32_t, Evening>;
 
-std::vector<Evening> EveningsOf(const Taken& taken) {
-  std::vector<Evening> evenings;
+Evenings EveningsOf(const Taken& taken) {
+  Evenings evenings;
   for (const Row& row : taken.rows) {
-    const std::string time = TimeText(row, taken.wording.form);
+    if (row.moment != Moment::kCandles && row.moment != Moment::kEnd) continue;
     const std::string name = NameOf(row, taken.wording.language);
-    if (row.moment == Moment::kCandles) {
-      const bool isSame = !evenings.empty() && evenings.back().day == row.day && evenings.back().lighting == time;
-      if (isSame) {
-        evenings.back().name += ", " + name;
-      } else {
-        evenings.push_back({row.day, name, time, ""});
-      }
-    } else if (row.moment == Moment::kEnd) {
-      if (Evening* const evening = EveningEndingOn(row.day, evenings)) {
-        evening->end = time;
-      } else {
-        evenings.push_back({row.day - 1, name, "", time});
-      }
+    const std::string time = TimeText(row, taken.wording.form);
+    Evening& evening = evenings[EveningOf(row)];
+    if (row.moment == Moment::kEnd) {
+      evening.end = time;
+      if (evening.name.empty()) evening.name = name;
+    } else {
+      evening.name = evening.lighting.empty() ? name : evening.name + ", " + name;
+      evening.lighting = time;
     }
   }
   return evenings;
@@ -101,24 +88,24 @@ std::string DayText(int32_t day, Language language) {
   return name + " " + std::to_string(calendar::GregorianFromAbsolute(day).day);
 }
 
-std::vector<publishing::Row> RowsInMonths(const std::vector<Evening>& evenings, Language language) {
+std::vector<publishing::Row> RowsInMonths(const Evenings& evenings, Language language) {
   std::vector<publishing::Row> rows;
   std::string month;
-  for (const Evening& evening : evenings) {
-    std::string its = MonthText(calendar::GregorianFromAbsolute(evening.day), language);
+  for (const auto& [day, evening] : evenings) {
+    std::string its = MonthText(calendar::GregorianFromAbsolute(day), language);
     if (its != month) {
       month = std::move(its);
       rows.push_back({.cells = {month}, .kind = publishing::RowKind::kGroup});
     }
-    rows.push_back({.cells = {DayText(evening.day, language), evening.name, evening.lighting, evening.end}});
+    rows.push_back({.cells = {DayText(day, language), evening.name, evening.lighting, evening.end}});
   }
   return rows;
 }
 
-std::vector<publishing::Row> RowsForSpreadsheet(const std::vector<Evening>& evenings) {
+std::vector<publishing::Row> RowsForSpreadsheet(const Evenings& evenings) {
   std::vector<publishing::Row> rows;
-  for (const Evening& evening : evenings) {
-    rows.push_back({.cells = {IsoDate(evening.day), evening.name, evening.lighting, evening.end}});
+  for (const auto& [day, evening] : evenings) {
+    rows.push_back({.cells = {IsoDate(day), evening.name, evening.lighting, evening.end}});
   }
   return rows;
 }
@@ -141,12 +128,19 @@ std::vector<publishing::Column> CandleColumns(Language language) {
 }
 
 std::shared_ptr<const publishing::Rows> CandleRows(const Taken& taken, bool forSpreadsheet) {
-  const std::vector<Evening> evenings = EveningsOf(taken);
+  const Evenings evenings = EveningsOf(taken);
   return publishing::Listed(forSpreadsheet ? RowsForSpreadsheet(evenings)
                                            : RowsInMonths(evenings, taken.wording.language));
 }
 
 }  // namespace
+
+// No lighting and no end is in the hours before dawn: an evening's are, where the sun hardly sets.
+int32_t EveningOf(const Row& row) {
+  constexpr int32_t kMorning = 6 * 60;
+  const int32_t day = row.minute && *row.minute < kMorning ? row.day - 1 : row.day;
+  return row.moment == Moment::kEnd ? day - 1 : day;
+}
 
 Table TableOf(const Taken& taken, bool forSpreadsheet) {
   const Language language = taken.wording.language;

@@ -11,6 +11,10 @@ namespace occasions {
 // countries take for dates, and no groups.
 publishing::Table TableOf(const Taken& taken, bool forSpreadsheet = false);
 
+// The day on whose evening the candles of a row are lit, or began what a row ends. In the far north an evening lasts
+// until after midnight.
+int32_t EveningOf(const Row& row);
+
 // The days that a sheet with all lightings and ends has room for.
 constexpr int32_t kMostDaysOnOneSheet = 400;
 

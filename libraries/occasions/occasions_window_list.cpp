@@ -20,6 +20,18 @@ constexpr int kYearsAhead = 2;                 // in which "Next occasion" looks
 constexpr char kLeftToRightMark[] = "\u200E";  // behind Hebrew in a line of English
 constexpr uint32_t kAllKinds = (1u << kKinds) - 1;
 
+// As long as it lives: centuries take their time.
+class WaitCursor {
+ public:
+  WaitCursor() : before_(SetCursor(LoadCursorA(nullptr, IDC_WAIT))) {}
+  ~WaitCursor() { SetCursor(before_); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+
+ private:
+  HCURSOR before_;
+};
+
 // Since 1970-01-01 00:00 UTC.
 double UtcSeconds() {
   constexpr double kTicksPerSecond = 1e7;
@@ -117,6 +129,7 @@ void OccasionsWindow::OnKindChosen() {
 }
 
 void OccasionsWindow::Search() {
+  const WaitCursor wait;
   const std::optional<int32_t> day = SelectedDay();
   rows_.Search(dialogs::ToUtf8(dialogs::TextOf(Control(IDC_TYPED))));
   Fill(day);
@@ -137,11 +150,10 @@ void OccasionsWindow::ChangeSettings() {
 
 // All rows of the days that are shown, with the settings as they are now. The first is selected.
 void OccasionsWindow::Load() {
-  const HCURSOR before = SetCursor(LoadCursorA(nullptr, IDC_WAIT));
+  const WaitCursor wait;
   Question question = QuestionOf(request_.place, request_.packed);
   std::vector<Row> rows = RowsBetween(question, days_.first, days_.last);
   rows_.Take(std::move(question), std::move(rows));
-  SetCursor(before);
   Fill(std::nullopt);
   ShowNext();
 }

@@ -40,18 +40,20 @@ std::wstring OfferedName(const Taken& taken, const wchar_t* extension) {
 // Whether the clipboard has the text now.
 bool PutOnClipboard(HWND owner, const std::wstring& text) {
   const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
-  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
-  if (!memory) return false;
-  std::memcpy(GlobalLock(memory), text.c_str(), bytes);
-  GlobalUnlock(memory);
-  if (OpenClipboard(owner)) {
-    EmptyClipboard();
-    const bool isThere = SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
-    CloseClipboard();
-    if (isThere) return true;
+  const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, bytes);
+  void* const memory = block ? GlobalLock(block) : nullptr;
+  if (memory) {
+    std::memcpy(memory, text.c_str(), bytes);
+    GlobalUnlock(block);
   }
-  GlobalFree(memory);
-  return false;
+  bool isTaken = false;
+  if (memory && OpenClipboard(owner)) {
+    EmptyClipboard();
+    isTaken = SetClipboardData(CF_UNICODETEXT, block) != nullptr;
+    CloseClipboard();
+  }
+  if (block && !isTaken) GlobalFree(block);
+  return isTaken;
 }
 
 }  // namespace
@@ -71,17 +73,19 @@ Taken OccasionsWindow::WhatIsShown() const {
   return taken;
 }
 
-// Whatever kinds are shown. An evening has the end of the day after: the one on the first day is of an evening before,
-// and one after the last day belongs here, but the evening that ends a Jewish year is of the next one.
+// Whatever kinds are shown. An evening has the end of the day after, and a Jewish year the evening of its eve but not
+// that of its last day.
 Taken OccasionsWindow::AllCandles() const {
   Taken taken = WhatIsShown();
   taken.candlesAlone = true;
   taken.question.customs.hiddenKinds = 0;
   const int32_t lastEvening = choice_.span == Span::kJewishYear ? days_.last - 1 : days_.last;
-  taken.rows = RowsBetween(taken.question, days_.first, lastEvening + 1);
+  constexpr int32_t kDaysToEnd = 2;  // where it is after midnight
+  const Days evenings = {days_.first, lastEvening};
+  taken.rows = RowsBetween(taken.question, evenings.first, evenings.last + kDaysToEnd);
   std::erase_if(taken.rows, [&](const Row& row) {
-    if (row.moment == Moment::kCandles) return row.day > lastEvening;
-    return row.moment != Moment::kEnd || row.day == days_.first;
+    const bool isOne = row.moment == Moment::kCandles || row.moment == Moment::kEnd;
+    return !isOne || !evenings.Contain(EveningOf(row));
   });
   return taken;
 }

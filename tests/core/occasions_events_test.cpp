@@ -37,10 +37,10 @@ TEST(OccasionEvents, AMomentIsThereByUtcAndADayAsADay) {
   EXPECT_EQ(event->description, "17 Kislev 5787\n" + RemarkOf(taken.question, candles));
   EXPECT_EQ(event->location, "Some Place");
   EXPECT_EQ(event->categories, std::vector<std::string>{KindName(Kind::kShabbat, Language::kEnglish)});
-  const auto day = EventOf(taken, {.day = DayOf(5, 12, 2026), .occasion = Occasion::kChanukah, .number = 1});
-  ASSERT_TRUE(day);
-  EXPECT_FALSE(day->start);
-  EXPECT_EQ(day->date, (CivilDate{2026, 12, 5}));
+  const auto wholeDay = EventOf(taken, {.day = DayOf(5, 12, 2026), .occasion = Occasion::kChanukah, .number = 1});
+  ASSERT_TRUE(wholeDay);
+  EXPECT_FALSE(wholeDay->start);
+  EXPECT_EQ(wholeDay->date, (CivilDate{2026, 12, 5}));
 }
 
 TEST(OccasionEvents, AnEveningCanBeTheNextDayByUtcAndAMorningTheDayBefore) {

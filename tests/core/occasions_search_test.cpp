@@ -59,6 +59,8 @@ TEST_F(OccasionListTest, EveryWordIsFoundInTitleOrDateOrRemark) {
   EXPECT_THAT(Days(), ElementsAre(0));
   list_.Search("חנוכה");
   EXPECT_THAT(Days(), ElementsAre(7, 8, 9));
+  list_.Search("כסלו חנוכה");
+  EXPECT_THAT(Days(), ElementsAre(7, 8, 9));
   list_.Search("kislev");
   EXPECT_THAT(Days(), ElementsAre(0, 1, 7, 8, 9));
   list_.Search(RemarkOf(list_.question(), kRows[0]));
