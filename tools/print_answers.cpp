@@ -14,9 +14,18 @@
 //                                       Bible's numbers, "chapter:verse chapter:verse": where the verse begins and ends
 //                                       in the language's own Bible
 //   print_answers clocks                for each line "zone seconds" of the input the offset from UTC, "-" for none
+//   print_answers occasions PLACE LATITUDE LONGITUDE HOURS MINUTES diaspora|israel FIRST LAST [KEY=VALUE ...]
+//                                       the Jewish years at a place (its name, packed coordinates, standard zone): a
+//                                       line for each row, with tabs between: year-month-day, HH:MM ("-" for a whole
+//                                       day, "----" where the moment does not occur), the ids of kind, occasion and
+//                                       moment, the number, day.month.year of the Jewish date. Keys are those of
+//                                       "shabbat2.ini" and "occasions.ini", and "Elevation" in metres; the others have
+//                                       their defaults
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <map>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -26,6 +35,7 @@
 #include "libraries/lections/language.h"
 #include "libraries/lections/reading_texts.h"
 #include "libraries/lections/verse_numbers.h"
+#include "libraries/occasions/occasions_core.h"
 #include "libraries/persons/personal_date.h"
 #include "libraries/sun/clock_rules.h"
 #include "libraries/sun/clock_rules_table.h"
@@ -167,6 +177,61 @@ void PrintVerseNumbers() {
   }
 }
 
+// What the command line says in place of the settings' files.
+std::map<std::string, std::string> settings;
+
+std::string Setting(const std::string& section, const char* key) {
+  const auto found = settings.find(section == "Elevation" ? section : std::string(key));
+  return found == settings.end() ? "" : found->second;
+}
+
+int32_t ReadSettingsNumber(const char* section, const char* key, int32_t defaultValue, const char*) {
+  const std::string text = Setting(section, key);
+  return text.empty() ? defaultValue : std::atoi(text.c_str());
+}
+
+uint32_t ReadSettingsText(const char* section, const char* key, const char*, char* buffer, uint32_t size, const char*) {
+  return static_cast<uint32_t>(std::snprintf(buffer, size, "%s", Setting(section, key).c_str()));
+}
+
+occasions::Question QuestionIn(std::span<const char* const> place, Land land) {
+  const sun::SettingsReader reader = {ReadSettingsNumber, ReadSettingsText};
+  const sun::PackedPlace packed = {std::atoi(place[1]), std::atoi(place[2]), std::atoi(place[3]), std::atoi(place[4])};
+  occasions::Question question;
+  question.place = place[0];
+  question.settings = sun::ReadPlaceSettings(reader, packed);
+  question.shabbat = candles::ReadShabbatRule(reader, question.place);
+  question.ownTimes = [](int32_t) { return std::nullopt; };
+  question.customs = occasions::CustomsFrom([](const char* key) { return Setting("", key); });
+  question.land = land;
+  return question;
+}
+
+std::string TimeText(const occasions::Row& row) {
+  if (!row.minute) return row.moment == occasions::Moment::kWholeDay ? "-" : "----";
+  char text[16];
+  std::snprintf(text, sizeof text, "%02d:%02d", *row.minute / 60, *row.minute % 60);
+  return text;
+}
+
+void PrintOccasions(const occasions::Question& question, int32_t firstYear, int32_t lastYear) {
+  const int32_t last = calendar::JewishNewYear(lastYear + 1) - 1;
+  for (const occasions::Row& row : RowsBetween(question, calendar::JewishNewYear(firstYear), last)) {
+    const calendar::Date jewish = calendar::JewishFromAbsolute(row.day);
+    std::cout << CivilText(row.day) << '\t' << TimeText(row) << '\t' << IdOf(KindOf(row.occasion)) << '\t'
+              << IdOf(row.occasion) << '\t' << IdOf(row.moment) << '\t' << row.number << '\t' << jewish.day << '.'
+              << jewish.month << '.' << jewish.year << '\n';
+  }
+}
+
+void PrintOccasions(std::span<const char* const> arguments) {
+  for (const std::string setting : arguments.subspan(8)) {
+    settings[setting.substr(0, setting.find('='))] = setting.substr(setting.find('=') + 1);
+  }
+  const Land land = std::string_view(arguments[5]) == "israel" ? Land::kIsrael : Land::kDiaspora;
+  PrintOccasions(QuestionIn(arguments.first(5), land), std::atoi(arguments[6]), std::atoi(arguments[7]));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -187,10 +252,13 @@ int main(int argc, char** argv) {
     PrintVerseNumbers();
   } else if (what == "clocks") {
     PrintClocks();
+  } else if (what == "occasions" && argc >= 10) {
+    PrintOccasions(std::span<const char* const>(argv, static_cast<size_t>(argc)).subspan(2));
   } else {
     std::cerr
         << "usage: print_answers readings FIRST_YEAR LAST_YEAR | calendar | personal | offsets | zones | daf-yomi | "
-           "verse-numbers | clocks\n";
+           "verse-numbers | clocks | occasions PLACE LATITUDE LONGITUDE HOURS MINUTES diaspora|israel FIRST_YEAR "
+           "LAST_YEAR [KEY=VALUE ...]\n";
     return 1;
   }
   return 0;

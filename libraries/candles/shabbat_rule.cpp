@@ -14,6 +14,7 @@ namespace {
 constexpr char kFile[] = "shabbat2.ini";
 constexpr char kSection[] = "Shabbat";
 constexpr std::string_view kJerusalem = "Jerusalem";
+constexpr int32_t kMinutesPerDay = 24 * 60;  // whole days too many do not matter to times of the day
 
 double ReadNumber(const sun::SettingsReader& reader, const char* key, double defaultValue, double otherText) {
   std::array<char, 256> text;
@@ -45,7 +46,7 @@ ShabbatRule ReadShabbatRule(const sun::SettingsReader& reader, std::string_view 
 
 int32_t MinutesToEnd(int32_t unixDay, const sun::PlaceSettings& place, const ShabbatRule& rule) {
   if (rule.endsByMinutes) return rule.endMinutes;
-  return twilight::EveningIntervalMinutes(unixDay, place, rule.endDegrees) + rule.minutesAfterDegrees;
+  return twilight::EveningIntervalMinutes(unixDay, place, rule.endDegrees) + rule.minutesAfterDegrees % kMinutesPerDay;
 }
 
 }  // namespace candles

@@ -23,6 +23,13 @@ int32_t UnixDay(int32_t day) {
   return day - calendar::kAbsoluteDayOfUnixDay0;
 }
 
+// Where the date line has been moved since, the clock of then is about a day off the standard one, by which the days of
+// the sun are counted: Apia had UTC-11 until 29 December 2011, then UTC+13.
+int64_t MinutesToCountedDay(const sun::PlaceClock& clock, int32_t offsetSeconds) {
+  constexpr double kSecondsPerDay = 86400;
+  return std::lround((clock.standardOffsetSeconds - offsetSeconds) / kSecondsPerDay) * kMinutesPerDay;
+}
+
 bool IsReached(const sun::SunEvent& event) {
   return event.crossing == sun::Crossing::kReached;
 }
@@ -43,7 +50,9 @@ std::optional<ClockMinute> Sky::Zman(int32_t day, hours::Definition zman) {
   const std::optional<int64_t> minute = zmanim.ClockMinute(zman);
   const std::optional<double> moment = zmanim.UtcSeconds(zman);
   if (!minute || !moment) return std::nullopt;
-  return ClockMinute{*minute + kMinutesBeforeUnixDay0, sun::ClockOffsetSeconds(question_.settings.clock, *moment)};
+  const sun::PlaceClock& clock = question_.settings.clock;
+  const int32_t offset = sun::ClockOffsetSeconds(clock, *moment);
+  return ClockMinute{*minute + kMinutesBeforeUnixDay0 + MinutesToCountedDay(clock, offset), offset};
 }
 
 ClockMinute Sky::Sunset(int32_t day) {
@@ -61,7 +70,7 @@ ClockMinute Sky::AfterSunset(int32_t day, int32_t minutes) {
 }
 
 ClockMinute Sky::Lighting(int32_t eve) {
-  return AfterSunset(eve, -question_.shabbat.candleMinutes);
+  return AfterSunset(eve, -(question_.shabbat.candleMinutes % static_cast<int32_t>(kMinutesPerDay)));
 }
 
 ClockMinute Sky::End(int32_t day) {
