@@ -12,8 +12,7 @@ extern "C" {
  * "Accuracy", "Zmanim", "Readings", "Exports and printing", "Occasions". Topics are ASCII, told apart without regard to
  * letter case; an unknown or null topic opens the general page. When the page is missing or cannot be opened, a message
  * box with caption "Times / Readings", owned by owner (may be null), names the file and says what to do. Writes no
- * file.
- */
+ * file. */
 void GuideGo(HWND owner, const char* topic);
 
 #ifdef __cplusplus
