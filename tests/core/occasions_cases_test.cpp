@@ -66,10 +66,9 @@ TEST(OccasionCases, YomTovThatFollowsShabbatIsLitForFromAFlameAsShabbatEnds) {
   EXPECT_EQ(DaysOf(rows, {Occasion::kPesach, kShabbat}),
             (Texts{"2025-04-11 Fri shabbat candles", "2025-04-12 Sat pesach 1 candles", "2025-04-13 Sun pesach 1",
                    "2025-04-13 Sun pesach 2 candles", "2025-04-14 Mon pesach 2", "2025-04-14 Mon pesach 2 end"}));
-  const Row* const lighting = FindRow(rows, Occasion::kPesach, Moment::kCandles, 1);
-  ASSERT_NE(lighting, nullptr);
-  EXPECT_EQ(lighting->rule, Rule::kFromFlame);
-  EXPECT_EQ(TimeText(*lighting), "20:18");  // sunset is at 19:32:37 (NOAA), 45 minutes more
+  const Row lighting = TheRow(rows, Occasion::kPesach, Moment::kCandles, 1);
+  EXPECT_EQ(lighting.rule, Rule::kFromFlame);
+  EXPECT_EQ(TimeText(lighting), "20:18");  // sunset is at 19:32:37 (NOAA), 45 minutes more
 }
 
 TEST(OccasionCases, OnTheEveOfPesachThatIsAShabbatChametzGoesOnFridayAndTheFirstbornFastOnThursday) {
@@ -92,10 +91,9 @@ TEST(OccasionCases, The9thOfAvThatIsAShabbatIsKeptFromItsSunsetOnSunday) {
   EXPECT_EQ(DaysOf(rows, {Occasion::kTishaBeAv, Occasion::kShabbatChazon, Occasion::kShabbatNachamu}),
             (Texts{"2022-08-06 Sat shabbat-chazon", "2022-08-06 Sat tisha-beav fast-begins",
                    "2022-08-07 Sun tisha-beav fast-ends", "2022-08-13 Sat shabbat-nachamu"}));
-  const Row* const begin = FindRow(rows, Occasion::kTishaBeAv, Moment::kFastBegins);
-  ASSERT_NE(begin, nullptr);
-  EXPECT_EQ(TimeText(*begin), "19:32");  // sunset is at 19:31:39 (NOAA)
-  EXPECT_NE(begin->notes & kFromShabbatToSunday, 0);
+  const Row begin = TheRow(rows, Occasion::kTishaBeAv, Moment::kFastBegins);
+  EXPECT_EQ(TimeText(begin), "19:32");  // sunset is at 19:31:39 (NOAA)
+  EXPECT_NE(begin.notes & kFromShabbatToSunday, 0);
 }
 
 // Rosh Hashana on Thursday, 17 Tammuz and 9 Av on Shabbat, Purim on Sunday.
@@ -114,7 +112,7 @@ TEST(OccasionCases, The10thOfTevetThatIsAFridayEndsInShabbat) {
   const auto rows = RowsBetween(InNewYork(), CivilDay(2023, 12, 22), CivilDay(2023, 12, 22));
   EXPECT_EQ(DaysOf(rows), (Texts{"2023-12-22 Fri 10-tevet fast-begins", "2023-12-22 Fri shabbat candles",
                                  "2023-12-22 Fri 10-tevet fast-ends"}));
-  EXPECT_NE(FindRow(rows, Occasion::kTenthOfTevet, Moment::kFastEnds)->notes & kOnFriday, 0);
+  EXPECT_NE(TheRow(rows, Occasion::kTenthOfTevet, Moment::kFastEnds).notes & kOnFriday, 0);
 }
 
 TEST(OccasionCases, PurimOfWalledCitiesIsThreeDaysWhenItIsAShabbat) {
@@ -129,15 +127,14 @@ TEST(OccasionCases, LightsOfFridayAreBeforeItsCandlesAndThoseOfSaturdayNightAfte
   const auto friday = RowsBetween(InNewYork(), CivilDay(2009, 12, 11), CivilDay(2009, 12, 11));
   EXPECT_EQ(DaysOf(friday, {Occasion::kChanukah, kShabbat}),
             (Texts{"2009-12-11 Fri chanukah 1 lights", "2009-12-11 Fri shabbat candles"}));
-  const Row* const first = FindRow(friday, Occasion::kChanukah, Moment::kLights, 1);
-  EXPECT_EQ(first->minute, FindRow(friday, kShabbat, Moment::kCandles)->minute);
-  EXPECT_EQ(first->rule, Rule::kBeforeCandles);
+  const Row first = TheRow(friday, Occasion::kChanukah, Moment::kLights, 1);
+  EXPECT_EQ(first.minute, TheRow(friday, kShabbat, Moment::kCandles).minute);
+  EXPECT_EQ(first.rule, Rule::kBeforeCandles);
 
   const auto saturday = RowsBetween(InNewYork(), CivilDay(2016, 12, 24), CivilDay(2016, 12, 24));
-  const Row* const light = FindRow(saturday, Occasion::kChanukah, Moment::kLights, 1);
-  ASSERT_NE(light, nullptr);
-  EXPECT_EQ(light->minute, FindRow(saturday, kShabbat, Moment::kEnd)->minute);
-  EXPECT_EQ(light->rule, Rule::kAfterShabbat);
+  const Row light = TheRow(saturday, Occasion::kChanukah, Moment::kLights, 1);
+  EXPECT_EQ(light.minute, TheRow(saturday, kShabbat, Moment::kEnd).minute);
+  EXPECT_EQ(light.rule, Rule::kAfterShabbat);
 }
 
 // Kislev of 5777 has 29 days, of 5786 it has 30; the eighth day is 3 or 2 Tevet.
@@ -145,10 +142,10 @@ TEST(OccasionCases, ChanukahLastsEightDaysWhateverTheLengthOfKislev) {
   for (const auto& [year, first, last] : {std::tuple(5777, CivilDay(2016, 12, 25), CivilDay(2017, 1, 1)),
                                           std::tuple(5786, CivilDay(2025, 12, 15), CivilDay(2025, 12, 22))}) {
     const auto rows = RowsOfJewishYear(InNewYork(), year);
-    EXPECT_EQ(FindRow(rows, Occasion::kChanukah, Moment::kWholeDay, 1)->day, first);
-    EXPECT_EQ(FindRow(rows, Occasion::kChanukah, Moment::kLights, 1)->day, first - 1);
-    EXPECT_EQ(FindRow(rows, Occasion::kChanukah, Moment::kWholeDay, 8)->day, last);
-    EXPECT_EQ(FindRow(rows, Occasion::kChanukah, Moment::kLights, 8)->day, last - 1);
+    EXPECT_EQ(TheRow(rows, Occasion::kChanukah, Moment::kWholeDay, 1).day, first);
+    EXPECT_EQ(TheRow(rows, Occasion::kChanukah, Moment::kLights, 1).day, first - 1);
+    EXPECT_EQ(TheRow(rows, Occasion::kChanukah, Moment::kWholeDay, 8).day, last);
+    EXPECT_EQ(TheRow(rows, Occasion::kChanukah, Moment::kLights, 8).day, last - 1);
     EXPECT_EQ(FindRow(rows, Occasion::kChanukah, Moment::kWholeDay, 9), nullptr);
     EXPECT_EQ(DaysOf(rows, {Occasion::kChanukah}).size(), 16u);
   }
@@ -216,7 +213,7 @@ TEST(OccasionCases, TalUmatarBeginsInTheDiasporaOnTheEveningOf4Or5DecemberAndADa
 TEST(OccasionCases, TalUmatarBeginsInIsraelAsThe7thOfCheshvanDoesAndAFridayIsNoted) {
   EXPECT_EQ(DaysOfYear(InJerusalem(), 5786, {Occasion::kTalUmatar}), (Texts{"2025-10-28 Tue tal-umatar"}));
   const auto rows = RowsBetween(InNewYork(), CivilDay(2020, 12, 4), CivilDay(2020, 12, 4));
-  EXPECT_EQ(FindRow(rows, Occasion::kTalUmatar, Moment::kWholeDay)->notes, kOnFriday);
+  EXPECT_EQ(TheRow(rows, Occasion::kTalUmatar, Moment::kWholeDay).notes, kOnFriday);
 }
 
 TEST(OccasionCases, TheSunIsBlessedEvery28Years) {
@@ -287,16 +284,16 @@ TEST(OccasionCases, TheMoladStandsOnTheClockOfThePlace) {
 TEST(OccasionCases, KiddushLevanaIsAtNight) {
   const auto rows = RowsOfJewishYear(InNewYork(), 5786);
   const auto textOf = [&rows](Moment moment, int32_t month) {
-    const Row* const row = FindRow(rows, Occasion::kKiddushLevana, moment, month);
-    return row ? DayText(row->day) + " " + TimeText(*row) : "none";
+    const Row row = TheRow(rows, Occasion::kKiddushLevana, moment, month);
+    return DayText(row.day) + " " + TimeText(row);
   };
   EXPECT_EQ(textOf(Moment::kFrom, calendar::kTishri), "2025-09-25 Thu 19:21");  // nightfall, 7.083 degrees (Hebcal)
   EXPECT_EQ(textOf(Moment::kUntil, calendar::kTishri), "2025-10-07 Tue 00:11");
   EXPECT_EQ(textOf(Moment::kFrom, calendar::kTammuz), "2026-06-18 Thu 00:26");
   EXPECT_EQ(textOf(Moment::kUntil, calendar::kCheshvan), "2025-11-05 Wed 05:08");
-  EXPECT_EQ(FindRow(rows, Occasion::kKiddushLevana, Moment::kFrom, calendar::kTishri)->rule, Rule::kFirstNight);
-  EXPECT_EQ(FindRow(rows, Occasion::kKiddushLevana, Moment::kFrom, calendar::kTammuz)->rule, Rule::kSinceMolad);
-  EXPECT_EQ(FindRow(rows, Occasion::kKiddushLevana, Moment::kUntil, calendar::kCheshvan)->rule, Rule::kLastNight);
+  EXPECT_EQ(TheRow(rows, Occasion::kKiddushLevana, Moment::kFrom, calendar::kTishri).rule, Rule::kFirstNight);
+  EXPECT_EQ(TheRow(rows, Occasion::kKiddushLevana, Moment::kFrom, calendar::kTammuz).rule, Rule::kSinceMolad);
+  EXPECT_EQ(TheRow(rows, Occasion::kKiddushLevana, Moment::kUntil, calendar::kCheshvan).rule, Rule::kLastNight);
 }
 
 // 1 Iyar 5785 is Tuesday, 29 April 2025; 1 Cheshvan Shabbat, 2 November 2024, so that the first Shabbat after it is a
@@ -313,7 +310,7 @@ TEST(OccasionCases, BehabIsMondayThursdayAndMondayAfterTheFirstShabbatBehindRosh
 
 TEST(OccasionCases, YomKippurIsAFastFromItsCandlesToItsEnd) {
   const auto rows = RowsBetween(InNewYork(), CivilDay(2024, 10, 11), CivilDay(2024, 10, 12));
-  const auto minuteOf = [&rows](Occasion occasion, Moment moment) { return FindRow(rows, occasion, moment)->minute; };
+  const auto minuteOf = [&rows](Occasion occasion, Moment moment) { return TheRow(rows, occasion, moment).minute; };
   EXPECT_EQ(minuteOf(Occasion::kFastOfYomKippur, Moment::kFastBegins),
             minuteOf(Occasion::kYomKippur, Moment::kCandles));
   EXPECT_EQ(minuteOf(Occasion::kFastOfYomKippur, Moment::kFastEnds), minuteOf(Occasion::kYomKippur, Moment::kEnd));
@@ -324,7 +321,7 @@ TEST(OccasionCases, The9thOfAvMayEndByANightfallOfItsOwn) {
   Question question = InNewYork();
   const auto endIn = [&question] {
     const auto rows = RowsBetween(question, CivilDay(2025, 8, 3), CivilDay(2025, 8, 3));
-    return TimeText(*FindRow(rows, Occasion::kTishaBeAv, Moment::kFastEnds));
+    return TimeText(TheRow(rows, Occasion::kTishaBeAv, Moment::kFastEnds));
   };
   EXPECT_EQ(endIn(), "20:46");
   question.customs.nightfallOfAv = "nightfall-6.45";
@@ -346,11 +343,11 @@ TEST(OccasionCases, TimesOfTheUsersOwnForAFridayAreThoseOfItsCandlesLightsAndEnd
     return candles::Times{15, 50, 17, 40};
   };
   const auto rows = RowsBetween(question, CivilDay(2025, 12, 19), CivilDay(2025, 12, 20));
-  EXPECT_EQ(TimeText(*FindRow(rows, kShabbat, Moment::kCandles)), "15:50");
-  EXPECT_EQ(TimeText(*FindRow(rows, Occasion::kChanukah, Moment::kLights, 6)), "15:50");
-  EXPECT_EQ(TimeText(*FindRow(rows, kShabbat, Moment::kEnd)), "17:40");
-  EXPECT_EQ(TimeText(*FindRow(rows, Occasion::kChanukah, Moment::kLights, 7)), "17:40");
-  EXPECT_EQ(FindRow(rows, kShabbat, Moment::kCandles)->rule, Rule::kOwnTime);
+  EXPECT_EQ(TimeText(TheRow(rows, kShabbat, Moment::kCandles)), "15:50");
+  EXPECT_EQ(TimeText(TheRow(rows, Occasion::kChanukah, Moment::kLights, 6)), "15:50");
+  EXPECT_EQ(TimeText(TheRow(rows, kShabbat, Moment::kEnd)), "17:40");
+  EXPECT_EQ(TimeText(TheRow(rows, Occasion::kChanukah, Moment::kLights, 7)), "17:40");
+  EXPECT_EQ(TheRow(rows, kShabbat, Moment::kCandles).rule, Rule::kOwnTime);
 }
 
 TEST(OccasionCases, KindsThatAreHiddenAreNotThere) {

@@ -1,6 +1,8 @@
 // Questions about occasions, and rows as short texts, as the tests of occasions have them.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <string>
@@ -86,6 +88,14 @@ inline const Row* FindRow(const std::vector<Row>& rows, Occasion occasion, Momen
   const auto found = std::ranges::find_if(
       rows, [&](const Row& row) { return row.occasion == occasion && row.moment == moment && row.number == number; });
   return found == rows.end() ? nullptr : &*found;
+}
+
+// The same, which has to be there.
+inline Row TheRow(const std::vector<Row>& rows, Occasion occasion, Moment moment, int32_t number = 0) {
+  const Row* const row = FindRow(rows, occasion, moment, number);
+  if (row) return *row;
+  ADD_FAILURE() << "no " << IdOf(occasion) << ' ' << number << ' ' << IdOf(moment);
+  return {};
 }
 
 }  // namespace occasions

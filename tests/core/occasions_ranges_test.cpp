@@ -226,11 +226,10 @@ TEST(OccasionRanges, WhatNeedsANightHasNoTimeWhereThereIsNone) {
     if (!isNights) continue;
     EXPECT_EQ(TimeText(row), "----") << DayText(row.day) << " " << WhatText(row);
   }
-  EXPECT_EQ(TimeText(*FindRow(rows, Occasion::kSeventeenthOfTammuz, Moment::kFastBegins)), "----");
-  EXPECT_EQ(TimeText(*FindRow(rows, Occasion::kOmer, Moment::kCount, 30)), "----");
-  const Row* const ends = FindRow(rows, Occasion::kTishaBeAv, Moment::kFastEnds);
-  ASSERT_NE(ends, nullptr);
-  EXPECT_EQ(DayText(ends->day), "2024-08-13 Tue");
+  EXPECT_EQ(TimeText(TheRow(rows, Occasion::kSeventeenthOfTammuz, Moment::kFastBegins)), "----");
+  EXPECT_EQ(TimeText(TheRow(rows, Occasion::kOmer, Moment::kCount, 30)), "----");
+  const Row ends = TheRow(rows, Occasion::kTishaBeAv, Moment::kFastEnds);
+  EXPECT_EQ(DayText(ends.day), "2024-08-13 Tue");
 }
 
 TEST(OccasionRanges, TwentyYearsMakeSenseEverywhere) {
