@@ -13,7 +13,8 @@ namespace {
 // What decides what the program shows: its own settings and those of the companion libraries.
 constexpr const char* kFiles[] = {"shabbat2.ini", "shabloc2.ini", "shab30.ini",   "almanac13.ini",
                                   "solar.ini",    "stamp.ini",    "lections.ini", "almanacelevation.ini",
-                                  "hours.txt",    "candles.txt",  "ownhours.txt", "readings.txt"};
+                                  "hours.txt",    "candles.txt",  "ownhours.txt", "readings.txt",
+                                  "occasions.ini"};
 
 std::string Question(const std::vector<std::string>& unread) {
   std::string text = "These settings files cannot be read:\n\n";

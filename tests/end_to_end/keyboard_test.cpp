@@ -73,6 +73,8 @@ TEST_F(KeyboardTest, TheHelpKeyOpensThePageOfTheViewOrTheDialog) {
                           {1135, "Daf Yomi List", "persons.html"},
                           {1137, "Bar and Bat Mitzvah", "persons.html"},
                           {1016, "Custom Candle-Lighting Times", "shabbat_times.html"},
+                          {1107, "Occasions of the Year - Aachen", "occasions.html"},
+                          {1108, "Occasions: What Is Shown", "occasions.html"},
                           {1017, "Form of Times", "shabbat_times.html"}};
   for (const auto& [command, title, page] : dialogs) {
     program.PostCommand(command);

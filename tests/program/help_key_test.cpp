@@ -138,6 +138,9 @@ TEST_F(HelpKeyTest, EachDialogOfALibraryHasItsPage) {
                                                  {HELPID_MAJORITY, "Persons"},
                                                  {HELPID_SOLAR_SUMMER_TIME, "Places"},
                                                  {HELPID_SAFEKEEP_RESTORE, "Settings"},
+                                                 {HELPID_OCCASIONS, "Occasions"},
+                                                 {HELPID_OCCASIONS_SETTINGS, "Occasions"},
+                                                 {HELPID_OCCASIONS_SAVE, "Occasions"},
                                                  {4711, "Start"}};
   WithDialog([&] { RunDialog<HandleAny>(frame_, "ABOUTDLG"); },
              [&](HWND dialog) {

@@ -98,10 +98,11 @@ TEST_F(UnreadSettingsTest, AtTheStartOneBoxNamesAllFiles) {
   EXPECT_TRUE(GoOnWithUnreadSettings());
   EXPECT_THAT(CallLog(), IsEmpty());
 
-  Libraries().unreadFiles = {"shabbat2.ini", "hours.txt"};
+  Libraries().unreadFiles = {"shabbat2.ini", "hours.txt", "occasions.ini"};
   EXPECT_FALSE(GoOnWithUnreadSettings()) << "Cancel";
   ASSERT_THAT(CallLog(), SizeIs(1));
-  EXPECT_THAT(CallLog()[0], HasSubstr("These settings files cannot be read:\n\nshabbat2.ini\nhours.txt\n\n"));
+  EXPECT_THAT(CallLog()[0],
+              HasSubstr("These settings files cannot be read:\n\nshabbat2.ini\nhours.txt\noccasions.ini\n\n"));
   EXPECT_THAT(CallLog()[0], HasSubstr("caption 'Times / Readings' type 0x136 owner none"));  // Try Again is the default
 
   System().onRetryBox = [] { return IDCONTINUE; };
