@@ -51,6 +51,7 @@ DocumentContents::DocumentContents(HWND dialog, const TakenDocument& document, c
   }
   SendMessageW(list, LVM_SETCOLUMNWIDTH, 0, LVSCW_AUTOSIZE_USEHEADER);
   ListView_SetItemState(list, 0, LVIS_FOCUSED, LVIS_FOCUSED);
+  CheckDlgButton(dialog, IDC_DOCUMENT_OCCASIONS, settings.Occasions() ? BST_CHECKED : BST_UNCHECKED);
   ShowZmanim();
 }
 
@@ -70,6 +71,10 @@ void DocumentContents::FillLanguages() {
   SetDlgItemTextA(dialog_, IDC_DOCUMENT_READINGS_LANGUAGE, readings.c_str());
 }
 
+bool DocumentContents::WantsOccasions() const {
+  return IsDlgButtonChecked(dialog_, IDC_DOCUMENT_OCCASIONS) == BST_CHECKED;
+}
+
 uint32_t DocumentContents::Language() const {
   const HWND list = Control(IDC_DOCUMENT_LANGUAGE);
   const LRESULT item = SendMessageW(list, CB_GETCURSEL, 0, 0);
@@ -79,6 +84,7 @@ uint32_t DocumentContents::Language() const {
 void DocumentContents::ShowZmanim() {
   const bool isUsed = HasZmanim(kind_);
   for (const int id : {IDC_DOCUMENT_ZMANIM, IDC_DOCUMENT_ALL, IDC_DOCUMENT_NONE}) EnableWindow(Control(id), isUsed);
+  EnableWindow(Control(IDC_DOCUMENT_OCCASIONS), document_.source().hasOccasions && CanHaveOccasions(kind_));
   const std::vector<DocumentZman>& zmanim = document_.source().zmanim;
   if (isUsed && !zmanim_.contains(kind_)) zmanim_[kind_] = settings_.Zmanim(kind_, zmanim);
   isFilling_ = true;
@@ -127,7 +133,7 @@ void DocumentContents::OnNotify(const NMHDR& header) {
 }
 
 DocumentChoice DocumentContents::Choice() const {
-  DocumentChoice choice{.kind = kind_, .language = Language()};
+  DocumentChoice choice{.kind = kind_, .language = Language(), .occasions = WantsOccasions()};
   if (const auto found = zmanim_.find(kind_); found != zmanim_.end()) choice.zmanim = found->second;
   choice.hebrewZmanim = zmanimInHebrew_ || IsHebrewDocument(choice);
   return choice;
@@ -138,6 +144,7 @@ void DocumentContents::Store() const {
   const uint32_t usual = WordsLanguageOf(document_.ReadingsLanguage()).code;
   const uint32_t chosen = Language();
   settings_.SetLanguage(chosen == usual ? std::nullopt : std::optional(chosen));
+  settings_.SetOccasions(WantsOccasions());
   for (const auto& [kind, zmanim] : zmanim_) settings_.SetZmanim(kind, document_.source().zmanim, zmanim);
 }
 

@@ -35,6 +35,7 @@ class DocumentContents {
   void KeepZmanim();
   std::vector<uint32_t> CheckedZmanim() const;
   uint32_t Language() const;
+  bool WantsOccasions() const;
   HWND Control(int id) const { return GetDlgItem(dialog_, id); }
 
   HWND dialog_;

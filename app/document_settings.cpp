@@ -96,6 +96,13 @@ void DocumentSettings::SetZmanim(DocumentKind kind, const std::vector<DocumentZm
   Store(ZmanimKey(kind), JoinedNames(names));
 }
 
+bool DocumentSettings::Occasions() const {
+  return ReadNumber("Occasions", 1) != 0;
+}
+void DocumentSettings::SetOccasions(bool occasions) const {
+  StoreNumber("Occasions", occasions ? 1 : 0);
+}
+
 DocumentType DocumentSettings::Type() const {
   return ReadChoice("Type", DocumentType::kText);
 }

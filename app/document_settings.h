@@ -28,6 +28,9 @@ class DocumentSettings {
   std::vector<uint32_t> Zmanim(DocumentKind kind, const std::vector<DocumentZman>& zmanim) const;
   void SetZmanim(DocumentKind kind, const std::vector<DocumentZman>& zmanim, const std::vector<uint32_t>& chosen) const;
 
+  bool Occasions() const;
+  void SetOccasions(bool occasions) const;
+
   DocumentType Type() const;
   void SetType(DocumentType type) const;
 

@@ -6,6 +6,7 @@
 #include "app/about_box.h"
 #include "app/active_document.h"
 #include "app/export_commands.h"
+#include "app/occasions_commands.h"
 #include "app/open_document.h"
 #include "app/own_times_dialog.h"
 #include "app/print_calendar_dialog.h"
@@ -208,6 +209,7 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_SELECT_RANGE, SelectRange},
     {IDM_PREFERENCES, ChangePreferences},
     {IDM_SUNSET_OF_A_DAY, ShowSunsetOfADay},
+    {IDM_OCCASIONS, ShowOccasions},
     {IDM_EXPORT_TEXT, ExportText},
     {IDM_EXPORT_RTF, ExportRtf},
     {IDM_PRINT, Print},
@@ -221,6 +223,7 @@ constexpr FrameCommand kFrameCommands[] = {
     {IDM_READINGS_CUSTOM, ChangeReadings<LectionsDoCustomReadingsDialog>},
     {IDM_READINGS_LANGUAGE, ChangeReadings<LectionsDoLanguageDialog>},
     {IDM_CUSTOM_CANDLES, ChangeCustomTimes},
+    {IDM_OCCASIONS_SHOWN, ChooseOccasionsShown},
     {IDM_TIME_FORM, ChangeFormOfTimes},
     {IDM_ZMANIM_HEBREW, NameZmanim<true>},
     {IDM_ZMANIM_ENGLISH, NameZmanim<false>},

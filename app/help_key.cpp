@@ -16,6 +16,7 @@ constexpr char kPersons[] = "Persons";
 constexpr char kExports[] = "Exports and printing";
 constexpr char kSettings[] = "Settings";
 constexpr char kDocuments[] = "Documents";
+constexpr char kOccasions[] = "Occasions";
 
 struct HelpTopic {
   unsigned id;
@@ -56,6 +57,9 @@ constexpr HelpTopic kDialogTopics[] = {
     {HELPID_MAJORITY, kPersons},
     {HELPID_SOLAR_SUMMER_TIME, kPlaces},
     {HELPID_SAFEKEEP_RESTORE, kSettings},
+    {HELPID_OCCASIONS, kOccasions},
+    {HELPID_OCCASIONS_SETTINGS, kOccasions},
+    {HELPID_OCCASIONS_SAVE, kOccasions},
 };
 
 struct ViewTopic {

@@ -69,5 +69,7 @@ void UpdateMenus(HWND frame) {
   Check(menu, IDM_BUILT_IN_ZMANIM, !ZmanimEnabled());
   Enable(menu, IDM_OWN_TIMES, HasOwnTimesDialog());
   Enable(menu, IDM_SUMMER_TIME, OptionalEntries.SolarDoSummerTimeDialog != nullptr);
+  Enable(menu, IDM_OCCASIONS, OptionalEntries.OccasionsDoDialog != nullptr);
+  Enable(menu, IDM_OCCASIONS_SHOWN, OptionalEntries.OccasionsDoSettingsDialog != nullptr);
   GreyIdleCommands(menu);
 }

@@ -78,7 +78,9 @@ int RunMessageLoop() {
   return static_cast<int>(message.wParam);
 }
 
+// The last bound goes first; it needs none of the others, and none needs it.
 void ShutDown() {
+  UnloadOccasions();
   UnloadCivilCalendar();
   UnloadLunarCalendar();
   UnloadSolar();
@@ -103,6 +105,7 @@ int RunProgram(HINSTANCE instance, HINSTANCE previousInstance, LPSTR commandLine
   LoadStringTable(instance);
   if (!BindLibraries()) return 0;
   LookUpSolarEntries();
+  BindOccasions();
   if (!previousInstance) {
     const char* const refused = RegisterWindowClasses(instance, Program.tooltipBrush);
     if (refused) return EndWithFailure("the window class " + std::string(refused) + " could not be registered");

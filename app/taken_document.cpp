@@ -111,6 +111,7 @@ TakenDocument::TakenDocument(HWND document)
   source_.zmanimDays = zmanim_;
   source_.readings = readings_;
   source_.zmanim = NamesIn(labels.get());
+  source_.hasOccasions = OccasionsOfDocument::AreKnown();
   TakeCustoms();
   TakeNeighbours();
 }
@@ -235,6 +236,10 @@ int32_t TakenDocument::AskedClockOffset(const CalendarDate& date, int32_t minute
   const Location& place = source_.location;
   return OptionalEntries.SolarGetClockOffset(date.uDay, date.uMonth, date.uYear, minuteOfDay, place.latitude,
                                              place.longitude, place.zoneHours, place.zoneMinutes);
+}
+
+std::vector<DocumentOccasion> TakenDocument::Occasions(int32_t absoluteDay, uint32_t language) const {
+  return occasions_.On(absoluteDay, source_.location, source_.range, language);
 }
 
 // Of one day at a time: all its zmanim are asked for in turn.

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/core/document_source.h"
+#include "app/document_occasions.h"
 #include "readings/readings_form.h"
 #include "zmanim/core/builtin_zmanim.h"
 
@@ -39,6 +40,7 @@ class TakenDocument : private DocumentServices {
   std::string OfWestern(std::string_view text) const override;
   int32_t ClockOffsetSeconds(const CalendarDate& date, int32_t minuteOfDay) const override;
   int32_t ZmanDayOffset(const ZmanimDay& day, uint32_t zman) const override;
+  std::vector<DocumentOccasion> Occasions(int32_t absoluteDay, uint32_t language) const override;
   const DaySun& SunOf(const CalendarDate& date) const;
   int32_t AskedClockOffset(const CalendarDate& date, int32_t minuteOfDay) const;
 
@@ -53,4 +55,5 @@ class TakenDocument : private DocumentServices {
   mutable int32_t sunDay_ = 0;                  // no day of a document
   mutable std::optional<int32_t> clockOffset_;  // all around clockDay_, unless the clock changes then
   mutable int32_t clockDay_ = 0;
+  mutable OccasionsOfDocument occasions_;
 };

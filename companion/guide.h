@@ -9,9 +9,10 @@ extern "C" {
 #endif
 
 /* Opens the page of a topic in the user's browser: "Start" or "" (the general page), "Shabbat times", "Places",
- * "Accuracy", "Zmanim", "Readings", "Exports and printing". Topics are ASCII, told apart without regard to letter case;
- * an unknown or null topic opens the general page. When the page is missing or cannot be opened, a message box with
- * caption "Times / Readings", owned by owner (may be null), names the file and says what to do. Writes no file. */
+ * "Accuracy", "Zmanim", "Readings", "Exports and printing", "Occasions". Topics are ASCII, told apart without regard to
+ * letter case; an unknown or null topic opens the general page. When the page is missing or cannot be opened, a message
+ * box with caption "Times / Readings", owned by owner (may be null), names the file and says what to do. Writes no file.
+ */
 void GuideGo(HWND owner, const char* topic);
 
 #ifdef __cplusplus

@@ -4,9 +4,13 @@
 
 #include <cstring>
 
+#include "win/own_folder.h"
+
 OptionalEntryPoints OptionalEntries;
 
 namespace {
+
+HMODULE occasionsLibrary = nullptr;
 
 template <typename Function>
 void LookUp(const char* library, const char* name, Function& entry) {
@@ -39,4 +43,22 @@ void LookUpSolarEntries() {
   LookUp("solar.dll", "SolarDescribeZone", OptionalEntries.SolarDescribeZone);
   LookUp("solar.dll", "SolarDoSummerTimeDialog", OptionalEntries.SolarDoSummerTimeDialog);
   LookUp("solar.dll", "SolarGetClockOffset", OptionalEntries.SolarGetClockOffset);
+}
+
+// The folder is looked into first, so that no library of the system's can be taken for it.
+void BindOccasions() {
+  if (!IsInOwnFolder(L"occasions.dll")) return;
+  occasionsLibrary = LoadLibraryA("occasions.dll");
+  if (!occasionsLibrary) return;
+  LookUp("occasions.dll", "OccasionsDoDialog", OptionalEntries.OccasionsDoDialog);
+  LookUp("occasions.dll", "OccasionsDoSettingsDialog", OptionalEntries.OccasionsDoSettingsDialog);
+  LookUp("occasions.dll", "OccasionsEnumerate", OptionalEntries.OccasionsEnumerate);
+}
+
+void UnloadOccasions() {
+  OptionalEntries.OccasionsDoDialog = nullptr;
+  OptionalEntries.OccasionsDoSettingsDialog = nullptr;
+  OptionalEntries.OccasionsEnumerate = nullptr;
+  if (occasionsLibrary) FreeLibrary(occasionsLibrary);
+  occasionsLibrary = nullptr;
 }

@@ -1,10 +1,12 @@
 // Entry points that companion libraries offer beyond those that the program needs. They are looked up by name in the
-// libraries that the program imports anyway; one that a library has not is null, and the program does without.
+// libraries that the program imports or binds anyway, and in the occasions library, which it can do without altogether;
+// one that is not there is null, and the program does without.
 #pragma once
 
 #include "companion/candles.h"
 #include "companion/hours.h"
 #include "companion/lections.h"
+#include "companion/occasions.h"
 #include "companion/ownhours.h"
 #include "companion/profile.h"
 #include "companion/solar.h"
@@ -21,6 +23,9 @@ struct OptionalEntryPoints {
 
   decltype(&::LectionsGetCustomName) LectionsGetCustomName;
   decltype(&::LectionsHasOwnNumbers) LectionsHasOwnNumbers;
+  decltype(&::OccasionsDoDialog) OccasionsDoDialog;
+  decltype(&::OccasionsDoSettingsDialog) OccasionsDoSettingsDialog;
+  decltype(&::OccasionsEnumerate) OccasionsEnumerate;
   decltype(&::OwnHoursDoDialog) OwnHoursDoDialog;
   decltype(&::ProfileCanRead) ProfileCanRead;
   decltype(&::ProfileGetFolder) ProfileGetFolder;
@@ -35,3 +40,7 @@ void LookUpOptionalEntries();
 
 // Those of the solar library, which the program does not import: once it is bound.
 void LookUpSolarEntries();
+
+// Those of the occasions library, which is loaded if it stands in the program's own folder. Unloading clears them.
+void BindOccasions();
+void UnloadOccasions();

@@ -186,6 +186,7 @@ void DocumentRows::ReadDay(const ZmanimDay& day, Row& row) const {
   row.cells.push_back(ofFriday && weekday == kFriday ? Candles(*ofFriday) : std::string());
   AddZmanim(&day, row);
   row.cells.push_back(ofFriday && weekday == kSaturday ? End(*ofFriday) : std::string());
+  if (HasOccasions(source_, choice_)) row.cells.push_back(OccasionsOf(source_, number, choice_.language));
 }
 
 void DocumentRows::ReadReadings(const ReadingsEntry& entry, Row& row) const {
@@ -240,6 +241,7 @@ std::vector<publishing::Column> ColumnsOfDocument(const DocumentSource& source, 
       addAll({Word::kDay, Word::kDate, Word::kJewishDate, Word::kPortion, Word::kCandleLighting});
       addZmanim();
       add(Word::kEndOfShabbat);
+      if (HasOccasions(source, choice)) add(Word::kOccasions);
       break;
     case DocumentKind::kZmanim:
       addAll({Word::kDay, Word::kDate, Word::kJewishDate});

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,6 +13,13 @@
 #include "shabbat/core/shabbat_record.h"
 #include "zmanim/core/zman_texts.h"
 #include "zmanim/core/zmanim_block.h"
+
+// What is kept on a day, or a moment of it.
+struct DocumentOccasion {
+  std::string title;              // UTF-8
+  std::optional<ClockTime> time;  // none for a whole day; kNoTime where the moment does not occur
+  bool operator==(const DocumentOccasion&) const = default;
+};
 
 // What only libraries and the system know. Day numbers are Rata Die; Jewish months count from Nisan = 1.
 class DocumentServices {
@@ -40,6 +48,10 @@ class DocumentServices {
 
   // How many civil days after its date a time of a zman is that the block holds for the date: -1, 0 or 1.
   virtual int32_t ZmanDayOffset(const ZmanimDay& day, uint32_t zman) const = 0;
+
+  // What is kept on a day of the document's range at its place, in the order of times; titles in Hebrew where the
+  // language is Hebrew, else in English.
+  virtual std::vector<DocumentOccasion> Occasions(int32_t absoluteDay, uint32_t language) const = 0;
 };
 
 // UTF-8 in reading order; hebrew may be blank.
@@ -62,6 +74,7 @@ struct DocumentSource {
   std::vector<ShabbatTimeEntry> fridayBefore = {};
   std::vector<ReadingsEntry> shabbatAfter = {};
   std::vector<std::string> customs = {};  // the readings' words for them, UTF-8
+  bool hasOccasions = false;              // whether anyone knows them
   FormatTime formatTime;
 };
 
@@ -83,6 +96,9 @@ int32_t DayOffsetOf(const DocumentSource& source, const ZmanimDay& day, uint32_t
 
 // "18 Kislev 5787", as the language writes it.
 std::string JewishDateOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language);
+
+// What is kept on a day, with its times: "Fast of Gedaliah: begins 05:11; Fast of Gedaliah: ends 19:38".
+std::string OccasionsOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language);
 
 // What is read on a day by its name, without verses and customs: "Vayechi" of "Vayechi: Genesis 47:28-50:26",
 // "Chanukah, day 1" of "Chanukah, day 1, Ashkenazi, Chabad: Numbers 7:1-17". Empty for a day without readings.

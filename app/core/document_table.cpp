@@ -37,6 +37,14 @@ bool HasMissingTimes(const DocumentSource& source, const DocumentChoice& choice)
                  [](const ZmanimDay& day, uint32_t zman) { return day.times[zman].hour == kNoTimeHour; });
 }
 
+bool HasMissingOccasions(const DocumentSource& source, const DocumentChoice& choice) {
+  if (!HasOccasions(source, choice)) return false;
+  return std::ranges::any_of(source.zmanimDays, [&](const ZmanimDay& day) {
+    return std::ranges::any_of(source.services.Occasions(source.services.AbsoluteDay(day.date), choice.language),
+                               [](const DocumentOccasion& occasion) { return occasion.time == kNoTime; });
+  });
+}
+
 // Whether any time of the rows is one of the day after its row's, and any of the day before.
 struct OtherDays {
   bool after = false;
@@ -109,7 +117,8 @@ publishing::Table DocumentTable(const DocumentSource& source, const DocumentChoi
   table.rightToLeft = language.rightToLeft;
   table.language = language.tag;
   if (choice.kind != DocumentKind::kReadings) table.notes.emplace_back(WordOf(Word::kClockNote, choice.language));
-  if (HasMissingTimes(source, choice)) table.notes.emplace_back(WordOf(Word::kNoTimeNote, choice.language));
+  const bool isAnyMissing = HasMissingTimes(source, choice) || HasMissingOccasions(source, choice);
+  if (isAnyMissing) table.notes.emplace_back(WordOf(Word::kNoTimeNote, choice.language));
   const OtherDays others = OtherDaysOf(source, choice);
   if (others.after) table.notes.emplace_back(WordOf(Word::kNextDayNote, choice.language));
   if (others.before) table.notes.emplace_back(WordOf(Word::kDayBeforeNote, choice.language));

@@ -23,6 +23,7 @@ struct DocumentChoice {
   std::vector<uint32_t> zmanim = {};  // indexes of the source's, for the kinds that have them
   uint32_t language = 1;              // of names, by the codes of the readings library
   bool hebrewZmanim = false;          // whether zmanim are named in Hebrew
+  bool occasions = true;              // whether days have a column of what is kept on them, where anyone knows it
   // For programs that reckon with it: no rows for the months, nothing in place of times that are missing.
   bool forSpreadsheet = false;
   bool isoDates = false;  // "2026-11-22" in place of "22.11.2026"
@@ -31,6 +32,15 @@ struct DocumentChoice {
 // Of which kinds the user chooses zmanim.
 constexpr bool HasZmanim(DocumentKind kind) {
   return kind == DocumentKind::kWeeks || kind == DocumentKind::kDays || kind == DocumentKind::kZmanim;
+}
+
+// Whose rows can tell what is kept on their day.
+constexpr bool CanHaveOccasions(DocumentKind kind) {
+  return kind == DocumentKind::kDays;
+}
+
+inline bool HasOccasions(const DocumentSource& source, const DocumentChoice& choice) {
+  return source.hasOccasions && choice.occasions && CanHaveOccasions(choice.kind);
 }
 
 // What a kind is called in a language, "Shabbat times".

@@ -28,6 +28,7 @@ enum class Word : uint8_t {
   kNoTimeNote,     // below times of which some are missing
   kNextDayNote,    // below times of which some are after midnight
   kDayBeforeNote,  // below times of which some are before midnight
+  kOccasions,      // of the year: festivals, fasts, candle lightings ...
   kCount,
 };
 

@@ -11,6 +11,7 @@ constexpr Topic kTopics[] = {
     {"Zmanim", "zmanim.html"},       {"Readings", "readings.html"},
     {"Persons", "persons.html"},     {"Exports and printing", "exports.html"},
     {"Documents", "documents.html"}, {"Settings", "settings.html"},
+    {"Occasions", "occasions.html"},
 };
 
 char LowerCase(char c) {

@@ -7,6 +7,8 @@
 #include "libraries/calendar/jewish.h"
 #include "libraries/occasions/occasion_texts.h"
 #include "libraries/occasions/occasions_question.h"
+#include "libraries/occasions/occasions_window.h"
+#include "libraries/occasions/settings_dialog.h"
 #include "libraries/sun/sun_day.h"
 
 namespace {
@@ -75,9 +77,16 @@ int32_t OccasionsEnumerate(const char* place, int32_t latitude, int32_t longitud
   return 0;
 }
 
-void OccasionsDoDialog(HWND, const char*, int32_t, int32_t, int32_t, int32_t, uint32_t, uint32_t, uint32_t, uint32_t,
-                       uint32_t, uint32_t) {}
+void OccasionsDoDialog(HWND owner, const char* place, int32_t latitude, int32_t longitude, int32_t timeZoneHours,
+                       int32_t timeZoneMinutes, uint32_t firstDay, uint32_t firstMonth, uint32_t firstYear,
+                       uint32_t lastDay, uint32_t lastMonth, uint32_t lastYear) try {
+  const Days range = {AbsoluteDay(firstDay, firstMonth, firstYear), AbsoluteDay(lastDay, lastMonth, lastYear)};
+  RunOccasionsWindow(owner, {place ? place : "", {latitude, longitude, timeZoneHours, timeZoneMinutes}, range});
+} catch (...) {
+  MessageBeep(MB_ICONSTOP);  // want of memory
+}
 
-int32_t OccasionsDoSettingsDialog(HWND) {
+int32_t OccasionsDoSettingsDialog(HWND owner) try { return RunSettingsDialog(owner); } catch (...) {
+  MessageBeep(MB_ICONSTOP);
   return 0;
 }

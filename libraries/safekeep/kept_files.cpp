@@ -29,6 +29,7 @@ constexpr KeptFile kKeptFiles[] = {
     {"persons.txt.2", "Birthdays and yahrzeit, two changes ago"},
     {"persons.txt.3", "Birthdays and yahrzeit, three changes ago"},
     {"kinship.ini", "Birthdays and yahrzeit: window and font"},
+    {"occasions.ini", "Occasions of the year: customs and window"},
     {"safekeep.ini", "Restoring settings: its window"},
 };
 

@@ -138,6 +138,17 @@ TEST(DocumentCalendar, RowsOfDaysAndReadingsLastTheWholeDay) {
               ElementsAre("20070106"));
 }
 
+// Semicolons are escaped in the file.
+TEST(DocumentCalendar, OccasionsStandInTheDescriptionOfTheirDay) {
+  DocumentFixture document({5, 1, 2007}, {6, 1, 2007});
+  document.source.hasOccasions = true;
+  document.services.occasions[{document.services.AbsoluteDay({6, 1, 2007}), 1}] = {{"Fast", {}},
+                                                                                   {"Fast: ends", ClockTime{17, 31}}};
+  const std::string calendar = Written(document, Choosing(DocumentKind::kDays));
+  EXPECT_THAT(calendar, HasSubstr("Occasions: Fast\\; Fast: ends 17:31"));
+  EXPECT_EQ(calendar.find("Occasions"), calendar.rfind("Occasions")) << "the other day has none";
+}
+
 TEST(DocumentCalendar, NamesOfEventsAreTheSameInOtherRangesAndLanguages) {
   DocumentFixture document({1, 1, 2007}, {20, 1, 2007});
   DocumentFixture later({7, 1, 2007}, {30, 1, 2007});

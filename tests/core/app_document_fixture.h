@@ -46,9 +46,15 @@ class DocumentFakes : public DocumentServices {
     return found == dayOffsets.end() ? 0 : found->second;
   }
 
+  std::vector<DocumentOccasion> Occasions(int32_t absoluteDay, uint32_t language) const override {
+    const auto found = occasions.find({absoluteDay, language});
+    return found == occasions.end() ? std::vector<DocumentOccasion>() : found->second;
+  }
+
   int32_t offset = 3600;
   int64_t summerBegins = INT64_MAX;  // in minutes of the clock since day 0
   std::map<uint32_t, int32_t> dayOffsets;
+  std::map<std::pair<int32_t, uint32_t>, std::vector<DocumentOccasion>> occasions;  // by day and language
 };
 
 inline void FormatDocumentTime(int32_t hour, int32_t minute, char* text) {

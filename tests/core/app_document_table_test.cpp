@@ -13,6 +13,7 @@
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
 
 namespace {
@@ -238,4 +239,69 @@ TEST(DocumentTable, ARangeThatWasCutEndsWithItsLastDay) {
   document.Refresh();
   EXPECT_THAT(DocumentTable(document.source, {.kind = DocumentKind::kDays, .language = kEnglish}).remarks,
               ElementsAre("05.01.2007 - 06.01.2007 (15 month 10 5767 - 16 month 10 5767)"));
+}
+
+namespace {
+
+// On the Friday a fast with its beginning, and something that does not occur.
+struct DocumentWithOccasions : DocumentFixture {
+  DocumentWithOccasions() : DocumentFixture({5, 1, 2007}, {7, 1, 2007}) {
+    source.hasOccasions = true;
+    const int32_t friday = services.AbsoluteDay({5, 1, 2007});
+    services.occasions[{friday, kEnglish}] = {
+        {"Fast of Tevet", {}}, {"Fast of Tevet: begins", ClockTime{5, 11}}, {"Lights", kNoTime}};
+    services.occasions[{friday, kHebrew}] = {{"עשרה בטבת", {}}};
+  }
+};
+
+}  // namespace
+
+TEST(DocumentTable, DaysEndWithTheirOccasionsEachWithItsTime) {
+  const DocumentWithOccasions document;
+  const publishing::Table table = DocumentTable(document.source, {.kind = DocumentKind::kDays, .zmanim = {1}});
+  EXPECT_THAT(HeadingsOf(table), ElementsAre("Day", "Date", "Jewish date", "Portion", "Candle lighting", "Z1",
+                                             "End of Shabbat", "Occasions"));
+  const std::vector<std::vector<std::string>> rows = RowsOf(table);
+  ASSERT_THAT(rows, SizeIs(3));
+  EXPECT_EQ(rows[0].back(), "Fast of Tevet; Fast of Tevet: begins 05:11; Lights ----");
+  EXPECT_EQ(rows[1].back(), "");
+  EXPECT_THAT(rows[1], SizeIs(8));
+}
+
+TEST(DocumentTable, OccasionsAreToldInTheLanguageOfTheDocument) {
+  const DocumentWithOccasions document;
+  const publishing::Table table = DocumentTable(document.source, {.kind = DocumentKind::kDays, .language = kHebrew});
+  EXPECT_EQ(HeadingsOf(table).back(), "מועדים");
+  EXPECT_EQ(RowsOf(table)[0].back(), "עשרה בטבת");
+}
+
+TEST(DocumentTable, AnOccasionWithoutItsMomentHasItsNote) {
+  DocumentWithOccasions document;
+  const std::string note = "----: does not occur on that day.";
+  EXPECT_THAT(DocumentTable(document.source, {.kind = DocumentKind::kDays}).notes, Contains(note));
+  EXPECT_THAT(DocumentTable(document.source, {.kind = DocumentKind::kZmanim}).notes, Not(Contains(note)));
+  document.services.occasions.begin()->second.pop_back();
+  EXPECT_THAT(DocumentTable(document.source, {.kind = DocumentKind::kDays}).notes, Not(Contains(note)));
+}
+
+TEST(DocumentTable, SpreadsheetsHaveTheSameColumnOfOccasions) {
+  const DocumentWithOccasions document;
+  const publishing::Table table = DocumentTable(document.source, {.kind = DocumentKind::kDays, .forSpreadsheet = true});
+  EXPECT_EQ(RowsOf(table)[0].back(), "Fast of Tevet; Fast of Tevet: begins 05:11; Lights ----");
+}
+
+TEST(DocumentTable, OccasionsThatAreNotWantedAreLeftOut) {
+  const DocumentWithOccasions document;
+  const publishing::Table table = DocumentTable(document.source, {.kind = DocumentKind::kDays, .occasions = false});
+  EXPECT_EQ(HeadingsOf(table).back(), "End of Shabbat");
+  EXPECT_THAT(RowsOf(table)[0], SizeIs(6));
+  EXPECT_THAT(table.notes, SizeIs(1));
+}
+
+TEST(DocumentTable, OtherKindsHaveNoOccasions) {
+  const DocumentWithOccasions document;
+  for (const DocumentKind kind : {DocumentKind::kShabbatTimes, DocumentKind::kWeeks, DocumentKind::kZmanim,
+                                  DocumentKind::kReadings, DocumentKind::kDoorPage}) {
+    EXPECT_THAT(HeadingsOf(DocumentTable(document.source, {.kind = kind})), Not(Contains("Occasions")));
+  }
 }

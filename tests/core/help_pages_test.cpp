@@ -54,6 +54,7 @@ TEST(HelpTopics, AreFoundWhateverTheirCase) {
   EXPECT_EQ(guide::TopicNamed("start").page, "index.html");
   EXPECT_EQ(guide::TopicNamed("settings").page, "settings.html");
   EXPECT_EQ(guide::TopicNamed("documents").page, "documents.html");
+  EXPECT_EQ(guide::TopicNamed("occasions").page, "occasions.html");
 }
 
 TEST(HelpTopics, UnknownAndEmptyOnesAreTheGeneralPage) {

@@ -4,6 +4,7 @@
 
 #include <psapi.h>
 
+#include <set>
 #include <vector>
 
 #include "resources/ids.h"
@@ -87,9 +88,10 @@ TEST_F(LoadingTest, PlantedLibrariesAreNotTakenWhenTheProgramsOwnAreThere) {
 
 // The loader refuses to start the program, with a box of its own or without.
 TEST_F(LoadingTest, LibraryThatIsMissingIsNotTakenFromElsewhere) {
+  const std::set<std::string> bound = {"solar.dll", "CIVILCAL.DLL", "LUNARCAL.DLL", "occasions.dll"};
   for (const auto& entry : fs::directory_iterator(ProgramFolder())) {
     const std::string name = entry.path().filename().string();
-    if (!IsLibrary(entry.path()) || name == "solar.dll" || name == "CIVILCAL.DLL" || name == "LUNARCAL.DLL") continue;
+    if (!IsLibrary(entry.path()) || bound.contains(name)) continue;
     SCOPED_TRACE(name);
     Plant(entry.path(), name);
     fs::remove(program_.path() / name);
@@ -114,6 +116,14 @@ TEST_F(LoadingTest, LibraryBoundByNameIsNotTakenFromElsewhere) {
     EXPECT_EQ(program.WaitForExit(), 0u);
     fs::copy_file(ProgramFolder() / name, program_.path() / name);
   }
+}
+
+TEST_F(LoadingTest, LibraryThatTheProgramCanDoWithoutIsNotTakenFromElsewhere) {
+  Plant(ProgramFolder() / "occasions.dll", "occasions.dll");
+  fs::remove(program_.path() / "occasions.dll");
+  const ProgramRun program(program_.path(), settings_.path(), current_.path());
+  program.WaitForDocuments(1);
+  for (const std::string& file : LoadedFiles(program.Process())) EXPECT_FALSE(file.ends_with("occasions.dll")) << file;
 }
 
 // As the system's own libraries load others at their time, which no manifest of ours can name.

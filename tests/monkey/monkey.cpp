@@ -30,6 +30,7 @@ constexpr unsigned kCommands[] = {IDM_SELECT_LOCATION,    IDM_SELECT_RANGE,
                                   IDM_KINSHIP_FONT,       IDM_DAF_YOMI,
                                   IDM_BIRTHDAYS,          IDM_BIRTHDAYS,
                                   IDM_SAVE_DOCUMENT,      IDM_PRINT_CALENDAR,
+                                  IDM_OCCASIONS,          IDM_OCCASIONS_SHOWN,
                                   IDM_BAR_MITZVAH,        IDM_ABOUT,
                                   IDM_FIRST_DOCUMENT,     IDM_FIRST_DOCUMENT + 1,
                                   IDM_FIRST_DOCUMENT + 5, 9999 /* no command */};

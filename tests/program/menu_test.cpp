@@ -80,6 +80,8 @@ TEST_F(MenuTest, MenuTextsOfTheCommandsStand) {
       {1020, "Export Zmanim..."},
       {1021, "Export Gregorian/Jewish date, Torah/Haphtarah readings and Holidays..."},
       {1102, "Su&mmer time..."},
+      {1107, "&Occasions of the year..."},
+      {1108, "Occasions: &what is shown..."},
       {1109, "Save as doc&ument..."},
       {1110, "Print &calendar..."},
       {1135, "&Daf Yomi..."},

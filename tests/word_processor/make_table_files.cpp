@@ -5,6 +5,8 @@
 // (2026-03-09), texts and at the end times (16:05:09 UTC), in groups by month. Files: english.txt, english.rtf,
 // letter.rtf, across.rtf, english.html, english.ics (the times, with alarms), english_out.csv, and hebrew.rtf,
 // hebrew.html of a table that begins at the right.
+// The occasions of 2026 at three places, whose clocks change twice in that year: newyork.csv as the list shows them and
+// newyork.ics as events, and so on.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -12,6 +14,9 @@
 #include <stdexcept>
 #include <string>
 
+#include "libraries/occasions/occasion_events.h"
+#include "libraries/occasions/occasion_table.h"
+#include "tests/core/occasions_places.h"
 #include "tests/core/written_files.h"
 
 namespace {
@@ -159,10 +164,34 @@ void SaveGrouped(const fs::path& folder) {
   Save(folder / "hebrew.html", HtmlOf(hebrew));
 }
 
+struct OccasionPlace {
+  const char* file;
+  sun::PackedPlace place;
+  const char* zoneId;
+  calendar::Land land;
+};
+constexpr OccasionPlace kOccasionPlaces[] = {
+    {"newyork", occasions::kNewYorkPlace, "America/New_York", calendar::Land::kDiaspora},
+    {"jerusalem", occasions::kJerusalemPlace, "Asia/Jerusalem", calendar::Land::kIsrael},
+    {"sydney", occasions::kSydneyPlace, "Australia/Sydney", calendar::Land::kDiaspora}};
+
+void SaveOccasions(const fs::path& folder) {
+  for (const OccasionPlace& one : kOccasionPlaces) {
+    const occasions::Taken taken =
+        occasions::TakenYear(one.place, one.zoneId, one.land, occasions::Span::kCivilYear, 2026);
+    const std::string file = one.file;
+    Save(folder / (file + ".csv"), CsvOf(occasions::TableOf(taken, true)));
+    Save(folder / (file + ".ics"), TextBy([&](TextSink& sink) {
+           occasions::WriteCalendar(taken, {{2026, 11, 2}, 7, 5, 9}, sink);
+         }));
+  }
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
   if (count != 2) return 2;
   SaveMixed(arguments[1]);
   SaveGrouped(arguments[1]);
+  SaveOccasions(arguments[1]);
 }
