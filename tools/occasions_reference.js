@@ -14,7 +14,9 @@ process.env.TZ = "UTC";
 
 const { execFileSync } = require("child_process");
 const path = require("path");
-const { Hebcal, KosherJava, JulianCalendar, DAY, MINUTE, plusDays, weekdayOf } = require("./occasions_reference_programs.js");
+const { DAY, MINUTE, plusDays, weekdayOf } = require("./occasions_reference_facts.js");
+const { Hebcal } = require("./occasions_reference_hebcal.js");
+const { KosherJava, JulianCalendar } = require("./occasions_reference_kosher.js");
 
 const FIRST_YEAR = 5757;
 const LAST_YEAR = 5816;
@@ -51,12 +53,14 @@ const ROUNDING_CLASSES = {
   down: "dawn and deadlines: to the nearest minute by them, down by ours",
 };
 
-// Differences of days: who says it, what, on which side, and when it is so.
+// Differences of days by the program, and whether a fact of one side is such; has says whether the other side has it so
+// many days later.
 const DAY_CLASSES = [
   { name: "third BeHaB fast on 14 Iyar: Hebcal moves it to 17 Iyar", program: "Hebcal",
-    applies: (fact) => fact.occasion === "behab" && fact.number === 3 },
+    applies: (fact, has) => fact.occasion === "behab" && fact.number === 3 && (has(3) || has(-3)) },
   { name: "modern days before the law of 2004: KosherJava has the later rule only", program: "KosherJava",
-    applies: (fact) => ["yom-hazikaron", "yom-haatzmaut"].includes(fact.occasion) && fact.date < "2004" },
+    applies: (fact, has) => ["yom-hazikaron", "yom-haatzmaut"].includes(fact.occasion) && fact.date < "2004" &&
+      (has(1) || has(-1)) },
 ];
 
 class Tally {
@@ -130,18 +134,19 @@ const factFrom = (text) => {
 };
 
 function compareFacts(ours, theirs, program, range, where, tally) {
-  const tell = (text, who) => {
+  const tell = (text, who, others) => {
     const fact = factFrom(text);
     if (!program.offers.has(fact.occasion) || fact.date < range[0] || fact.date > range[1]) return;
-    const known = DAY_CLASSES.find((one) => one.program === program.name && one.applies(fact));
+    const has = (days) => others.has(`${plusDays(fact.date, days)} ${fact.occasion} ${fact.number}`);
+    const known = DAY_CLASSES.find((one) => one.program === program.name && one.applies(fact, has));
     if (known) tally.count(known.name);
     else tally.list(`${where}: ${who} has ${text}`);
   };
   for (const text of ours) {
     if (theirs.has(text)) tally.count(`days: the same as ${program.name}`);
-    else tell(text, "only ours");
+    else tell(text, "only ours", theirs);
   }
-  for (const text of theirs) if (!ours.has(text)) tell(text, `only ${program.name}`);
+  for (const text of theirs) if (!ours.has(text)) tell(text, `only ${program.name}`, ours);
 }
 
 function classOf(time, minute, place) {
@@ -152,7 +157,7 @@ function classOf(time, minute, place) {
   if (minute === null) return null;
   const shown = time.shown === undefined ? undefined : place.clockAt(time.shown) / MINUTE;
   const expected = expectedMinute(time, place, 0);
-  if (minute === shown || (shown === undefined && minute === expected)) return `times: the same minute as ${time.program}`;
+  if (minute === (shown ?? expected)) return `times: the same minute as ${time.program}`;
   if (minute === expected) return ROUNDING_CLASSES[time.rounding];
   const isNear = [-SUN_SECONDS, SUN_SECONDS].some((seconds) => minute === expectedMinute(time, place, seconds));
   if (isNear) return "the sun of both lies on either side of a minute's edge, seconds apart";
@@ -178,8 +183,9 @@ function compareTimes(answers, times, place, range, where, tally) {
     }
     const minute = answers.minutes.get(time.key);
     const known = minute === undefined ? null : classOf(time, minute, place);
+    const ours = minute === undefined ? "has none" : textOf(minute);
     if (known) tally.count(known);
-    else tally.list(`${where}: ${time.key}: ours ${minute === undefined ? "has none" : textOf(minute)}, ${time.program} ${textOf(expected)}`);
+    else tally.list(`${where}: ${time.key}: ours ${ours}, ${time.program} ${textOf(expected)}`);
   }
   for (const key of answers.minutes.keys()) {
     if (!told.has(key)) tally.count(`times: nobody else tells "${key.slice(11).replace(/\d+/, "...")}"`);
@@ -227,7 +233,8 @@ function compareAll(programs, places, range, printAnswers) {
         for (const name of ["hebcal", "kosher", "julian"]) {
           compareFacts(answers.facts, days[name], programs[name], range, where, tally);
         }
-        compareTimes(answers, timesOf(programs, days.kosher, isIsrael, place, customs, range), place, range, where, tally);
+        const times = timesOf(programs, days.kosher, isIsrael, place, customs, range);
+        compareTimes(answers, times, place, range, where, tally);
       }
     }
   }
@@ -244,7 +251,9 @@ function whatOf(time, key) {
   const moment = key.split(" ")[1];
   if (moment === "candles") return time.plus > 0 ? "flame" : "candles";
   if (key.endsWith("fast-begins tisha-beav")) return "fast-begins tisha-beav";
-  if (moment === "lights" && time.rounding === "nearest") return time.plus > 0 ? "lights after Shabbat" : "lights on Friday";
+  if (moment === "lights" && time.rounding === "nearest") {
+    return time.plus > 0 ? "lights after Shabbat" : "lights on Friday";
+  }
   return moment;
 }
 
@@ -257,8 +266,8 @@ function factsByDay(programs, days, range, start) {
   let talUmatar = 0;
   [1, 2].forEach((land, index) => {
     const { hebcal, kosher, julian } = days[index];
-    const all = [...[...hebcal].filter((fact) => !fact.includes(" behab ")), ...[...kosher].filter((fact) => fact.includes(" behab ")),
-      ...julian];
+    const isBehab = (fact) => fact.includes(" behab ");
+    const all = [...[...hebcal].filter((fact) => !isBehab(fact)), ...[...kosher].filter(isBehab), ...julian];
     for (const text of all) {
       const { date, occasion, number } = factFrom(text);
       if (date < range[0] || date > range[1]) continue;
@@ -286,11 +295,13 @@ function timesByDay(programs, place, range, year) {
       const clock = place.clockAt(time.exact);
       const date = new Date(clock).toISOString().slice(0, 10);
       if (textOf(expectedMinute(time, place, 0)).slice(0, 10) < range[0] || date > range[1]) continue;
-      const text = [dayIn(range[0], date), WHATS.indexOf(whatOf(time, key)), Math.floor((clock % DAY) / 1000)].join(", ");
+      const seconds = Math.floor((clock % DAY) / 1000);
+      const text = [dayIn(range[0], date), WHATS.indexOf(whatOf(time, key)), seconds].join(", ");
       byTime.set(text, (byTime.get(text) ?? 0) | land);
     }
   }
-  return [...byTime].map(([text, lands]) => `{${text}, ${lands}}`).sort((a, b) => parseInt(a.slice(1), 10) - parseInt(b.slice(1), 10));
+  const texts = [...byTime].map(([text, lands]) => `{${text}, ${lands}}`);
+  return texts.sort((a, b) => parseInt(a.slice(1), 10) - parseInt(b.slice(1), 10));
 }
 
 // Lines of at most 120 characters.
@@ -309,7 +320,7 @@ function wrapped(entries) {
 
 function write(programs, places, range) {
   const days = [daysOf(programs, false, range), daysOf(programs, true, range)];
-  const types = [...new Set(Array.from({ length: LAST_YEAR - FIRST_YEAR + 1 }, (_, i) => programs.hebcal.typeOf(FIRST_YEAR + i)))].sort();
+  const types = typesOfYears(programs.hebcal);
   const years = [];
   for (let year = FIRST_YEAR; year <= LAST_YEAR; ++year) {
     const ofYear = programs.hebcal.rangeOf(year);
@@ -318,7 +329,8 @@ function write(programs, places, range) {
   }
   const usual = types.map((_, type) => years.filter((one) => one.type === type).at(-1).facts);
   const exceptions = years.flatMap(({ year, type, facts }) => [
-    ...[...facts].filter(([fact, lands]) => usual[type].get(fact) !== lands).map(([fact, lands]) => `{${year}, ${fact}, ${lands}}`),
+    ...[...facts].filter(([fact, lands]) => usual[type].get(fact) !== lands)
+      .map(([fact, lands]) => `{${year}, ${fact}, ${lands}}`),
     ...[...usual[type].keys()].filter((fact) => !facts.has(fact)).map((fact) => `{${year}, ${fact}, 0}`)]);
   const groups = [];
   const times = [];
@@ -330,17 +342,27 @@ function write(programs, places, range) {
       times.push(...added);
     });
   });
+  const lineOfPlace = ([name, ...rest]) => `    {"${name}", ${rest.map((part) => JSON.stringify(part)).join(", ")}},`;
+  const textOfYear = ({ year, type, start, talUmatar }) =>
+    `{${year}, ${type}, ${start.replaceAll("-", "")}, ${talUmatar}}`;
   process.stdout.write([
-    "// Made by tools/occasions_reference.js with @hebcal/core 6.9.3 and kosher-zmanim 0.9.0; not edited by hand.", "#pragma once",
-    "// clang-format off", "inline constexpr ReferencePlace kReferencePlaces[] = {",
-    ...PLACES.map(([name, ...rest]) => `    {"${name}", ${rest.map((part) => JSON.stringify(part)).join(", ")}},`), "};",
+    "// Made by tools/occasions_reference.js with @hebcal/core 6.9.3 and kosher-zmanim 0.9.0; not edited by hand.",
+    "#pragma once", "// clang-format off", "inline constexpr ReferencePlace kReferencePlaces[] = {",
+    ...PLACES.map(lineOfPlace), "};",
     "inline constexpr ReferenceYear kReferenceYears[] = {",
-    ...wrapped(years.map(({ year, type, start, talUmatar }) => `{${year}, ${type}, ${start.replaceAll("-", "")}, ${talUmatar}}`)), "};",
+    ...wrapped(years.map(textOfYear)), "};",
     "inline constexpr ReferenceFact kReferenceFacts[] = {",
     ...wrapped(usual.flatMap((facts, type) => [...facts].map(([fact, lands]) => `{${type}, ${fact}, ${lands}}`))), "};",
     "inline constexpr ReferenceFact kReferenceExceptions[] = {", ...wrapped(exceptions), "};",
     "inline constexpr ReferenceGroup kReferenceGroups[] = {", ...wrapped(groups), "};",
-    "inline constexpr ReferenceTime kReferenceTimes[] = {", ...wrapped(times), "};", "// clang-format on", ""].join("\n"));
+    "inline constexpr ReferenceTime kReferenceTimes[] = {", ...wrapped(times), "};",
+    "// clang-format on", ""].join("\n"));
+}
+
+function typesOfYears(hebcal) {
+  const types = new Set();
+  for (let year = FIRST_YEAR; year <= LAST_YEAR; ++year) types.add(hebcal.typeOf(year));
+  return [...types].sort();
 }
 
 async function main() {
@@ -349,9 +371,8 @@ async function main() {
   const programs = { hebcal: await Hebcal.open(folder), kosher: new KosherJava(folder), julian: new JulianCalendar() };
   const places = PLACES.map((place) => placeOf(place, DateTime));
   const range = [programs.hebcal.rangeOf(FIRST_YEAR)[0], programs.hebcal.rangeOf(LAST_YEAR)[1]];
-  const types = new Set();
-  for (let year = FIRST_YEAR; year <= LAST_YEAR; ++year) types.add(programs.hebcal.typeOf(year));
-  if (types.size !== 14) throw new Error(`${types.size} types of years`);
+  const types = typesOfYears(programs.hebcal);
+  if (types.length !== 14) throw new Error(`${types.length} types of years`);
   if (second === "--write") write(programs, places, range);
   else compareAll(programs, places, range, second);
 }
