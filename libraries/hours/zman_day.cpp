@@ -40,11 +40,9 @@ int64_t MinuteShown(int64_t computed, int64_t shownOfDay) {
 }  // namespace
 
 ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSun& shown)
-    : ZmanDay(unixDay, place, &shown) {
-}
+    : ZmanDay(unixDay, place, &shown) {}
 
-ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place) : ZmanDay(unixDay, place, nullptr) {
-}
+ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place) : ZmanDay(unixDay, place, nullptr) {}
 
 ZmanDay::ZmanDay(int32_t unixDay, const sun::PlaceSettings& place, const ShownSun* shown)
     : unixDay_(unixDay), place_(place), sun_(sun::ComputeSunDay(unixDay, place.site)) {

@@ -56,7 +56,7 @@ class OccasionList {
   void Narrow();
 
   Fold fold_;
-  Question question_;
+  Question question_ = {};
   std::vector<Row> rows_;
   std::vector<size_t> shown_;  // of rows_
   std::optional<Kind> kind_;

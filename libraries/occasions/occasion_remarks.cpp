@@ -17,7 +17,7 @@ std::string Counted(int64_t count, const char* what) {
   return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
-std::string Joined(std::string first, const std::string& second, const char* between = "; ") {
+std::string Joined(const std::string& first, const std::string& second, const char* between = "; ") {
   if (first.empty() || second.empty()) return first + second;
   return first + between + second;
 }
@@ -197,9 +197,8 @@ std::string SunInWords(const Row& row) {
 }  // namespace
 
 std::string RemarkOf(const Question& question, const Row& row) {
-  std::string remark = Joined(RuleInWords(question, row), AboutOccasion(question, row));
-  remark = Joined(std::move(remark), MovedInWords(row));
-  return Joined(std::move(remark), SunInWords(row));
+  const std::string remark = Joined(RuleInWords(question, row), AboutOccasion(question, row));
+  return Joined(Joined(remark, MovedInWords(row)), SunInWords(row));
 }
 
 }  // namespace occasions
