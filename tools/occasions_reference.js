@@ -150,17 +150,18 @@ function compareFacts(ours, theirs, program, range, where, tally) {
 }
 
 function classOf(time, minute, place) {
-  if (time.exact === null) {
-    if (minute === null) return "times: none, since the sun does not get so low";
-    return time.isBarely ? "the sun barely gets so low by ours, barely not by theirs" : null;
-  }
+  if (time.exact === null) return minute === null ? "times: none, since the sun does not get so low" : null;
   if (minute === null) return null;
   const shown = time.shown === undefined ? undefined : place.clockAt(time.shown) / MINUTE;
   const expected = expectedMinute(time, place, 0);
   if (minute === (shown ?? expected)) return `times: the same minute as ${time.program}`;
   if (minute === expected) return ROUNDING_CLASSES[time.rounding];
   const isNear = [-SUN_SECONDS, SUN_SECONDS].some((seconds) => minute === expectedMinute(time, place, seconds));
+  // Half a day before noon the sun is some seconds off its lowest point.
+  const isLowest = time.isLowest && Math.abs(minute - expected) <= 1;
+  if (isLowest) return "kiddush levana: the sun's lowest point, in a night without dawn";
   if (isNear) return "the sun of both lies on either side of a minute's edge, seconds apart";
+  if (time.isBarely) return "the sun barely gets so low by ours, barely not by theirs";
   return time.isNearEdge ? "kiddush levana: its limit lies within two minutes of dawn or nightfall" : null;
 }
 
@@ -288,7 +289,7 @@ function timesByDay(programs, place, range, year) {
     const kosherDays = programs.kosher.facts(range, isIsrael);
     const later = programs.hebcal.times(year, isIsrael, place, CUSTOMS[0]);
     for (const time of [...programs.kosher.times(kosherDays, range, isIsrael, place, CUSTOMS[0]), ...later]) {
-      if (/molad|count/.test(time.key) || time.exact === null || time.isNearEdge) continue;
+      if (/molad|count/.test(time.key) || time.exact === null || time.isLowest || time.isNearEdge) continue;
       times.set(time.key, time);
     }
     for (const [key, time] of times) {

@@ -27,22 +27,22 @@ const simchatTorahIn = ([date, occasion, number], isIsrael) =>
 
 const moladTime = (program, exact) => ({ key: "molad", program, exact, rounding: "nearest", plus: 0 });
 
-// A dawn of degrees is exact, one of minutes counted from the sunrise as it is shown. Null where it does not occur.
-const dawnAt = (exact, customs, brighter) => (!exact ? { isBarely: Boolean(brighter) } : customs.dawn === 16.1 ?
-  { exact, rounding: "down", plus: 0 } : { exact, rounding: "nearest", plus: -customs.dawn });
+// A dawn of degrees is exact, one of minutes counted from the sunrise as it is shown. Where the sun does not get so low
+// its lowest point, half a day before noon. isBarely: a tenth of a degree less would have had a dawn.
+const dawnAt = (exact, customs, brighter, noon) => (!exact ?
+  { exact: noon - DAY / 2, rounding: "down", plus: 0, isLowest: true, isBarely: Boolean(brighter) } :
+  customs.dawn === 16.1 ? { exact, rounding: "down", plus: 0 } : { exact, rounding: "nearest", plus: -customs.dawn });
 const nightAt = (exact) => (exact ? { exact, rounding: "up", plus: 0 } : null);
 
 // From and until as they are when they are at night, else at its edge; night answers a date's dawn and nightfall
 // (moments with how they are rounded). isNearEdge: the limit is less than two minutes
-// from one of them. isBarely: a tenth of a degree less would have had a dawn.
+// from one of them.
 function levanaTimes(program, place, from, until, night) {
   return [levanaTime("from", from, "up"), levanaTime("until", until, "down")];
 
   function levanaTime(what, limit, rounding) {
     const [dawn, nightfall] = night(place.dateAt(limit));
-    if (!dawn?.exact || !nightfall?.exact) {
-      return { key: `${place.dateAt(limit)} ${what} kiddush-levana`, program, exact: null, isBarely: dawn?.isBarely };
-    }
+    if (!nightfall) return { key: `${place.dateAt(limit)} ${what} kiddush-levana`, program, exact: null };
     const isDay = limit > dawn.exact + dawn.plus * MINUTE && limit < nightfall.exact;
     const edge = what === "from" ? nightfall : dawn;
     const time = isDay ? edge : { exact: limit, rounding, plus: 0 };

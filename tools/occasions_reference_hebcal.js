@@ -163,7 +163,8 @@ class Hebcal {
       const night = (iso) => {
         const zmanim = new Zmanim(location, dateOf(iso), false);
         const dawn = customs.dawn === 16.1 ? zmanim.alotHaShachar() : zmanim.sunrise();
-        return [dawnAt(dawn.getTime(), customs, zmanim.timeAtAngle(16, true).getTime()),
+        return [dawnAt(dawn.getTime(), customs, zmanim.timeAtAngle(16, true).getTime(),
+          zmanim.chatzot().getTime()),
           nightAt(zmanim.tzeit(7.083).getTime())];
       };
       times.push(...levanaTimes(this.name, place, from.epochMilliseconds, until.epochMilliseconds, night));

@@ -154,7 +154,8 @@ class KosherJava {
       const night = (date) => {
         const zmanim = this.zmanimAt(place, date);
         const dawn = customs.dawn === 16.1 ? zmanim.getAlos16Point1Degrees() : zmanim.getSunrise();
-        return [dawnAt(dawn?.toMillis(), customs, zmanim.getSunriseOffsetByDegrees(106)),
+        return [dawnAt(dawn?.toMillis(), customs, zmanim.getSunriseOffsetByDegrees(106),
+          zmanim.getSunTransit().toMillis()),
           nightAt(zmanim.getTzaisGeonim7Point083Degrees()?.toMillis())];
       };
       times.push(...levanaTimes(this.name, place, from.toMillis(), until.toMillis(), night));

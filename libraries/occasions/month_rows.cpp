@@ -1,6 +1,7 @@
 #include "libraries/calendar/date.h"
 #include "libraries/calendar/jewish.h"
 #include "libraries/calendar/molad.h"
+#include "libraries/hours/named_days.h"
 #include "libraries/occasions/molad_moment.h"
 #include "libraries/occasions/year_rows.h"
 
@@ -41,18 +42,21 @@ void AddMolad(const YearSources& sources, double molad, int32_t number) {
       moment, {.occasion = Occasion::kMolad, .moment = Moment::kInstant, .rule = Rule::kMolad, .number = number});
 }
 
-// The daylight, from dawn to nightfall, that a moment is in; days on which one of both does not occur have none.
+// The light of a day, from dawn to nightfall. In the nights that get dark but have no dawn it begins at the sun's
+// lowest point; days after which it does not get dark have none.
 struct Daylight {
   ClockMinute dawn;
   ClockMinute nightfall;
+  uint16_t notesOfDawn;
 };
 
 std::optional<Daylight> DaylightOf(const YearSources& sources, int32_t day) {
+  constexpr hours::Definition kLowest = {{hours::Both(hours::kSolarMidnight), 0}, hours::Rounding::kDown};
   const Customs& customs = sources.question.customs;
-  const std::optional<ClockMinute> dawn = sources.sky.Zman(day, DawnOf(customs));
   const std::optional<ClockMinute> nightfall = sources.sky.Zman(day, NightfallOf(customs.nightfall));
-  if (!dawn || !nightfall) return std::nullopt;
-  return Daylight{*dawn, *nightfall};
+  if (!nightfall) return std::nullopt;
+  if (const std::optional<ClockMinute> dawn = sources.sky.Zman(day, DawnOf(customs))) return {{*dawn, *nightfall, 0}};
+  return {{*sources.sky.Zman(day, kLowest), *nightfall, kLowestPoint}};
 }
 
 // At night alone the moon is blessed (Orach Chaim 426).
@@ -67,6 +71,7 @@ void AddKiddushLevana(const YearSources& sources, const ClockMinute& limit, Row 
     const std::optional<Daylight> light = DaylightOf(sources, day);
     if (!light || limit.minute < light->dawn.minute || limit.minute >= light->nightfall.minute) continue;
     row.rule = isFirst ? Rule::kFirstNight : Rule::kLastNight;
+    if (!isFirst) row.notes |= light->notesOfDawn;
     return sources.rows.AddMoment(isFirst ? light->nightfall : light->dawn, row);
   }
   row.rule = Rule::kSinceMolad;

@@ -19,7 +19,7 @@ constexpr int32_t kLastYear = 3000;
 // What occasions depend on.
 struct Question {
   std::string place;  // by its exact spelling, for the user's own times
-  sun::PlaceSettings settings;
+  sun::PlaceSettings settings = {};
   candles::ShabbatRule shabbat;
   candles::OwnTimes ownTimes;
   Customs customs;

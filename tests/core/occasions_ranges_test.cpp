@@ -232,6 +232,19 @@ TEST(OccasionRanges, WhatNeedsANightHasNoTimeWhereThereIsNone) {
   EXPECT_EQ(DayText(ends.day), "2024-08-13 Tue");
 }
 
+// London has no dawn of 16.1 degrees in June, but nights. Half a day before Hebcal's noon of 5 June 2031 is 00:59:11,
+// at most some seconds off the sun's lowest point.
+TEST(OccasionRanges, TheMoonIsBlessedUntilTheSunsLowestPointInANightWithoutDawn) {
+  const Question london = QuestionAt("London", 5131, -8, 0, 0, "Europe/London");
+  const int32_t day = CivilDay(2031, 6, 5);
+  const std::vector<Row> rows = RowsBetween(london, day, day);
+  const Row until = TheRow(rows, Occasion::kKiddushLevana, Moment::kUntil, calendar::kSivan);
+  EXPECT_EQ(until.rule, Rule::kLastNight);
+  EXPECT_TRUE(until.notes & kLowestPoint);
+  ASSERT_TRUE(until.minute);
+  EXPECT_NEAR(*until.minute, 59, 1);
+}
+
 TEST(OccasionRanges, TwentyYearsMakeSenseEverywhere) {
   for (const Question& question : AllOverTheWorld()) {
     const int32_t first = CivilDay(2000, 1, 1);
