@@ -11,6 +11,7 @@
 #include "benchmarks/kinship_bench.h"
 #include "benchmarks/languages_bench.h"
 #include "benchmarks/measured.h"
+#include "benchmarks/occasions_window_bench.h"
 #include "benchmarks/pages_bench.h"
 #include "benchmarks/start_up_bench.h"
 #include "benchmarks/zmanim_bench.h"
@@ -169,6 +170,7 @@ int main() {
     MeasureDocuments(home);
     MeasureLanguages(home);
     MeasureKinship(home);
+    MeasureOccasionsWindow();
     MeasurePages();
   }
   return MeasureStartUp() ? 0 : 1;
