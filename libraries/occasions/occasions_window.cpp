@@ -53,8 +53,6 @@ OccasionsWindow::OccasionsWindow(const Request& request, const WindowChoice& cho
 void OccasionsWindow::Run(HWND owner) {
   const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_LISTVIEW_CLASSES | ICC_UPDOWN_CLASS};
   InitCommonControlsEx(&classes);
-  ChooseSpan(choice_.span, YearOfDay(choice_.span, request_.range.first));
-  first_ = std::async(AnswerOf, request_, days_);  // beside the making of the controls, where the system has a thread
   dialogs::RunDialog(owner, IDD_OCCASIONS, dialogs::ClassDialogProc<OccasionsWindow>, this);
 }
 
@@ -81,8 +79,7 @@ INT_PTR OccasionsWindow::OnInitDialog() {
   CheckDlgButton(dialog_, IDC_HEBREW, choice_.hebrew ? BST_CHECKED : BST_UNCHECKED);
   size_.Start(dialog_, kAnchors, kCustomsFile);
   OnSize();
-  ShowControls();
-  Load();
+  ShowSpan(choice_.span, YearOfDay(choice_.span, request_.range.first));
   if (const ClockMoment now = Now(); days_.Contain(now.day)) SelectRow(rows_.FirstToCome(now));
   SetTimer(dialog_, kClockTimer, kClockMilliseconds, nullptr);
   SetFocus(list_.Window());

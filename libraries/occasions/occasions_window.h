@@ -5,10 +5,8 @@
 
 #include <commctrl.h>
 
-#include <future>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "libraries/dialogs/resizable_dialog.h"
 #include "libraries/dialogs/row_list.h"
@@ -24,15 +22,6 @@ struct Request {
   sun::PackedPlace packed;
   Days range;
 };
-
-// The rows of some days, and what they were asked by.
-struct Answer {
-  Question question;
-  std::vector<Row> rows;
-};
-
-// By the settings as they are now. May be asked in any thread.
-Answer AnswerOf(const Request& request, const Days& days);
 
 class OccasionsWindow {
  public:
@@ -57,7 +46,6 @@ class OccasionsWindow {
   void FillBoxes() const;
 
   // The list: occasions_window_list.cpp.
-  void ChooseSpan(Span span, int32_t year);
   void ShowSpan(Span span, int32_t year);
   void ShowControls();
   void OnSpanChosen();
@@ -98,7 +86,6 @@ class OccasionsWindow {
   WindowChoice choice_;
   int32_t year_ = 0;  // where the span is one
   Days days_;
-  std::future<Answer> first_;  // what the window opens with: those of a century take as long as the window itself
   OccasionList rows_;
   std::optional<Kind> kind_;
   stamp::Form form_;

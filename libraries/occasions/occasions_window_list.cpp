@@ -54,13 +54,6 @@ std::wstring WideText(const std::string& text) {
 
 }  // namespace
 
-Answer AnswerOf(const Request& request, const Days& days) {
-  Answer answer;
-  answer.question = QuestionOf(request.place, request.packed);
-  answer.rows = RowsBetween(answer.question, days.first, days.last);
-  return answer;
-}
-
 // On the place's own clock.
 ClockMoment OccasionsWindow::Now() const {
   constexpr int32_t kSecondsPerMinute = 60;
@@ -72,14 +65,10 @@ ClockMoment OccasionsWindow::Now() const {
 }
 
 // year: of a span that is one, within its limits.
-void OccasionsWindow::ChooseSpan(Span span, int32_t year) {
+void OccasionsWindow::ShowSpan(Span span, int32_t year) {
   choice_.span = span;
   year_ = year;
   days_ = span == Span::kRange ? request_.range : DaysOfYear(span, year);
-}
-
-void OccasionsWindow::ShowSpan(Span span, int32_t year) {
-  ChooseSpan(span, year);
   ShowControls();
   Load();
 }
@@ -159,11 +148,12 @@ void OccasionsWindow::ChangeSettings() {
   Fill(day);
 }
 
-// All rows of the days that are shown. The first is selected.
+// All rows of the days that are shown, with the settings as they are now. The first is selected.
 void OccasionsWindow::Load() {
   const WaitCursor wait;
-  Answer answer = first_.valid() ? first_.get() : AnswerOf(request_, days_);
-  rows_.Take(std::move(answer.question), std::move(answer.rows));
+  Question question = QuestionOf(request_.place, request_.packed);
+  std::vector<Row> rows = RowsBetween(question, days_.first, days_.last);
+  rows_.Take(std::move(question), std::move(rows));
   Fill(std::nullopt);
   ShowNext();
 }
