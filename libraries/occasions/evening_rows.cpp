@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "libraries/calendar/jewish.h"
 #include "libraries/hours/named_days.h"
 #include "libraries/occasions/year_rows.h"
