@@ -38,7 +38,8 @@ typedef struct OccasionsRecord {
   char moment[OCCASIONS_ID_SIZE];     /* "candles"; "day" for a whole day */
   char english[OCCASIONS_TITLE_SIZE]; /* "Pesach, first day: candle lighting" */
   char hebrew[OCCASIONS_TITLE_SIZE];  /* the same in Hebrew */
-  char remark[OCCASIONS_REMARK_SIZE]; /* by which rule the moment came, in English */
+  char englishRemark[OCCASIONS_REMARK_SIZE]; /* by which rule the moment came */
+  char hebrewRemark[OCCASIONS_REMARK_SIZE];
 } OccasionsRecord;
 
 /* Called with one record after the other, in the order of days and times; what it points to is good until the call

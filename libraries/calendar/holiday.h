@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string_view>
 
 #include "libraries/calendar/date.h"
 
@@ -57,6 +58,7 @@ std::optional<int32_t> DayOfHoliday(const Holiday& holiday, int32_t year, BaseDa
 std::span<const Holiday> GregorianHolidays();
 std::optional<int32_t> GregorianBaseDay(const HolidayRule& rule, int32_t year);
 std::span<const Holiday> JewishHolidays();
+const Holiday& JewishHolidayNamed(std::string_view name);  // there has to be one
 std::optional<int32_t> JewishBaseDay(const HolidayRule& rule, int32_t year);
 
 }  // namespace calendar

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "libraries/calendar/holiday.h"
 #include "libraries/calendar/jewish.h"
 
@@ -140,6 +142,10 @@ constexpr Holiday kHolidays[] = {
 
 std::span<const Holiday> JewishHolidays() {
   return kHolidays;
+}
+
+const Holiday& JewishHolidayNamed(std::string_view name) {
+  return *std::ranges::find(kHolidays, name, &Holiday::name);
 }
 
 std::optional<int32_t> JewishBaseDay(const HolidayRule& rule, int32_t year) {

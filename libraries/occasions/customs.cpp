@@ -31,10 +31,6 @@ std::optional<int32_t> NumberIn(std::string_view text) {
   return number;
 }
 
-std::optional<int32_t> MinutesOfId(std::string_view id) {
-  return id.starts_with(kMinutesId) ? NumberIn(id.substr(kMinutesId.size())) : std::nullopt;
-}
-
 const hours::CatalogueZman* ZmanOfKind(std::string_view id, hours::Kind kind) {
   const hours::CatalogueZman* const zman = hours::FindInCatalogue(id);
   return zman && zman->kind == kind ? zman : nullptr;
@@ -81,6 +77,10 @@ std::vector<Choice> ChoicesOfKind(hours::Kind kind) {
 
 }  // namespace
 
+std::optional<int32_t> MinutesOfId(std::string_view id) {
+  return id.starts_with(kMinutesId) ? NumberIn(id.substr(kMinutesId.size())) : std::nullopt;
+}
+
 Customs CustomsFrom(const ReadKey& read) {
   Customs customs;
   customs.land = ValueOf(read("Land"), kLands, customs.land);
@@ -114,6 +114,13 @@ std::vector<KeyValue> ValuesOf(const Customs& customs) {
 calendar::Land LandOf(const Customs& customs, calendar::Land landOfReadings) {
   if (customs.land == LandChoice::kAsReadings) return landOfReadings;
   return customs.land == LandChoice::kIsrael ? calendar::Land::kIsrael : calendar::Land::kDiaspora;
+}
+
+bool IsShown(const Customs& customs, const Row& row) {
+  for (const Kind kind : {KindOf(row.occasion), Kind::kShabbat, Kind::kYomTov}) {
+    if (IsShown(customs, kind) && IsOfKind(row, kind)) return true;
+  }
+  return false;
 }
 
 std::vector<Choice> DawnChoices() {
@@ -157,15 +164,15 @@ hours::Definition BurningChametz(const Customs& customs) {
   return hours::FindInCatalogue(std::string(kBurn) + authority)->definition;
 }
 
-std::string TextOfZman(const std::string& id) {
-  if (const std::optional<int32_t> minutes = MinutesOfId(id)) return std::to_string(*minutes) + " minutes after sunset";
+std::string NameOfZman(const std::string& id, bool hebrew) {
   const hours::CatalogueZman* const zman = hours::FindInCatalogue(id);
-  return zman ? zman->description : "";
+  if (!zman) return "";
+  return hebrew ? zman->hebrew : zman->description;
 }
 
-std::string OpinionOfChametz(const Customs& customs) {
+std::string OpinionOfChametz(const Customs& customs, bool hebrew) {
   const std::string authority = IsAuthority(customs.chametz) ? customs.chametz : Customs().chametz;
-  return InBrackets(hours::FindInCatalogue(std::string(kEat) + authority)->description);
+  return InBrackets(NameOfZman(std::string(kEat) + authority, hebrew));
 }
 
 }  // namespace occasions

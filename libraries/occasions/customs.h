@@ -14,6 +14,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -75,6 +76,9 @@ constexpr bool IsShown(const Customs& customs, Kind kind) {
   return (customs.hiddenKinds >> static_cast<int>(kind) & 1) == 0;
 }
 
+// Whether one of its kinds is.
+bool IsShown(const Customs& customs, const Row& row);
+
 // What dawns, nightfalls and authorities for chametz there are to choose, in the catalogue's order. text: UTF-8.
 struct Choice {
   std::string id;
@@ -90,10 +94,13 @@ hours::Definition NightfallOf(const std::string& id);
 hours::Definition EatingChametz(const Customs& customs);
 hours::Definition BurningChametz(const Customs& customs);
 
-// A dawn or a nightfall in words, UTF-8: "Alot HaShachar (16.1°)", "27 minutes after sunset".
-std::string TextOfZman(const std::string& id);
+// The minutes of an id that names a nightfall by them.
+std::optional<int32_t> MinutesOfId(std::string_view id);
+
+// What the catalogue calls a zman, UTF-8, "Alot HaShachar (16.1°)"; empty when it has none of that id.
+std::string NameOfZman(const std::string& id, bool hebrew);
 
 // Whose opinion the times of chametz follow, UTF-8, as the catalogue's descriptions have it in brackets.
-std::string OpinionOfChametz(const Customs& customs);
+std::string OpinionOfChametz(const Customs& customs, bool hebrew);
 
 }  // namespace occasions

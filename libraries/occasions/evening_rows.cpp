@@ -14,21 +14,22 @@ constexpr int32_t kDaysOfOmer = 49;
 constexpr hours::Definition kHalfTwilight = {{hours::Both(hours::Degrees(7083)), hours::kDayThousandthHours, -13500},
                                              hours::Rounding::kUp};
 
-struct LightingRule {
-  std::optional<ClockMinute> moment;
+// The zman of the lights, by the user's custom.
+struct LightsRule {
   Rule rule;
+  hours::Definition zman;
 };
 
-LightingRule LightsOn(const YearSources& sources, int32_t evening) {
-  const Customs& customs = sources.question.customs;
+LightsRule LightsRuleOf(const Customs& customs) {
+  constexpr hours::Definition kSunset = {{hours::kGraDay, hours::kDayThousandthHours}, hours::Rounding::kNearest};
   switch (customs.chanukah) {
-    case ChanukahRule::kSunset: return {sources.sky.Sunset(evening), Rule::kSunset};
+    case ChanukahRule::kSunset: return {Rule::kSunset, kSunset};
     case ChanukahRule::kMinutes:
-      return {sources.sky.AfterSunset(evening, customs.chanukahMinutes), Rule::kChanukahMinutes};
-    case ChanukahRule::kHalfTwilight: return {sources.sky.Zman(evening, kHalfTwilight), Rule::kHalfTwilight};
+      return {Rule::kChanukahMinutes, NightfallOf(std::string(kMinutesId) + std::to_string(customs.chanukahMinutes))};
+    case ChanukahRule::kHalfTwilight: return {Rule::kHalfTwilight, kHalfTwilight};
     case ChanukahRule::kNightfall: break;
   }
-  return {sources.sky.Zman(evening, NightfallOf(customs.nightfall)), Rule::kNightfall};
+  return {Rule::kNightfall, NightfallOf(customs.nightfall)};
 }
 
 // Orach Chaim 672; on Friday before the candles of Shabbat (679), on Saturday night when Shabbat has ended (681).
@@ -40,19 +41,20 @@ void AddLight(const YearSources& sources, int32_t evening, Row row) {
     row.notes = candles.notes;
     return sources.rows.AddMoment(candles.moment, row);
   }
-  LightingRule lights = LightsOn(sources, evening);
-  row.rule = lights.rule;
+  const LightsRule lights = LightsRuleOf(sources.question.customs);
   if (weekday == Weekday::kSaturday) {
     const RuledMoment end = sources.times.End(evening);
-    if (!lights.moment || lights.moment->minute <= end.moment.minute) {
+    const std::optional<ClockMinute> moment = sources.sky.Zman(evening, lights.zman);
+    if (!moment || moment->minute <= end.moment.minute) {
       row.rule = Rule::kAfterShabbat;
       row.notes = end.notes;
-      lights.moment = end.moment;
+      return sources.rows.AddMoment(end.moment, row);
     }
   }
+  row.rule = lights.rule;
   const bool isFromSunset = row.rule == Rule::kSunset || row.rule == Rule::kChanukahMinutes;
-  if (isFromSunset && !sources.sky.SunSets(evening)) row.notes |= kSunDoesNotSet;
-  sources.rows.AddMoment(lights.moment, evening, row);
+  if (isFromSunset) row.notes |= sources.sky.NotesOfSunset(evening);
+  AddZman(sources, evening, lights.zman, row);
 }
 
 // Where 14 Nisan is a Shabbat, chametz is searched for on Thursday night and burnt on Friday (Orach Chaim 444).
@@ -70,7 +72,7 @@ void AddChametzZman(const YearSources& sources, int32_t day, hours::Definition z
   zman.isForPesachEve = false;  // it may be the day before
   row.occasion = Occasion::kChametz;
   row.rule = Rule::kChametzZman;
-  sources.rows.AddMoment(sources.sky.Zman(day, zman), day, row);
+  AddZman(sources, day, zman, row);
 }
 
 }  // namespace
@@ -91,9 +93,8 @@ void AddOmer(const YearSources& sources, int32_t jewishYear) {
   for (int32_t count = 1; count <= kDaysOfOmer; ++count) {
     const int32_t evening = first + count - 1;
     if (!sources.rows.Wants(Occasion::kOmer, evening)) continue;
-    sources.rows.AddMoment(
-        sources.sky.Zman(evening, nightfall), evening,
-        {.occasion = Occasion::kOmer, .moment = Moment::kCount, .rule = Rule::kNightfall, .number = count});
+    AddZman(sources, evening, nightfall,
+            {.occasion = Occasion::kOmer, .moment = Moment::kCount, .rule = Rule::kNightfall, .number = count});
   }
 }
 
@@ -103,9 +104,8 @@ void AddChametz(const YearSources& sources, int32_t jewishYear) {
   const Customs& customs = sources.question.customs;
   const uint16_t notes = eve.isShabbat ? kOnShabbat : 0;
   const int32_t evening = eve.isShabbat ? eve.day - 2 : eve.day - 1;
-  sources.rows.AddMoment(
-      sources.sky.Zman(evening, NightfallOf(customs.nightfall)), evening,
-      {.occasion = Occasion::kSearchForChametz, .moment = Moment::kFrom, .rule = Rule::kNightfall, .notes = notes});
+  AddZman(sources, evening, NightfallOf(customs.nightfall),
+          {.occasion = Occasion::kSearchForChametz, .moment = Moment::kFrom, .rule = Rule::kNightfall, .notes = notes});
   if (eve.isShabbat) {
     AddChametzZman(sources, eve.day - 1, BurningChametz(customs), {.moment = Moment::kBurningEnds, .notes = kOnFriday});
   }

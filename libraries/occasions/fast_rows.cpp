@@ -1,28 +1,19 @@
+#include "libraries/calendar/holiday.h"
 #include "libraries/calendar/jewish.h"
 #include "libraries/occasions/year_rows.h"
 
 namespace occasions {
 namespace {
 
-using calendar::Weekday;
-
-// Where a fast's Shabbat moves it.
-enum class FromShabbat : uint8_t { kNever, kToSunday, kToThursday };
-
-// Shulchan Aruch, Orach Chaim 549-550 and 686; of the firstborn 470.
+// By the calendar's table of holidays, which has the dates and what Shabbat moves.
 struct Fast {
   Occasion occasion;
-  int32_t month;  // kAdarOfCommonYear: the Adar of Purim
-  int32_t day;
-  FromShabbat fromShabbat;
+  const char* holiday;
 };
 constexpr Fast kFasts[] = {
-    {Occasion::kFastOfGedaliah, calendar::kTishri, 3, FromShabbat::kToSunday},
-    {Occasion::kTenthOfTevet, calendar::kTevet, 10, FromShabbat::kNever},
-    {Occasion::kFastOfEsther, kAdarOfCommonYear, 13, FromShabbat::kToThursday},
-    {Occasion::kFastOfFirstborn, calendar::kNisan, 14, FromShabbat::kToThursday},
-    {Occasion::kSeventeenthOfTammuz, calendar::kTammuz, 17, FromShabbat::kToSunday},
-    {Occasion::kTishaBeAv, calendar::kAv, 9, FromShabbat::kToSunday},
+    {Occasion::kFastOfGedaliah, "Fast of Gedaliah"},       {Occasion::kTenthOfTevet, "Fast of 10 Tevet"},
+    {Occasion::kFastOfEsther, "Fast of Esther"},           {Occasion::kFastOfFirstborn, "Fast of the Firstborn"},
+    {Occasion::kSeventeenthOfTammuz, "Fast of 17 Tammuz"}, {Occasion::kTishaBeAv, "Tisha BeAv"},
 };
 
 struct FastDay {
@@ -31,30 +22,23 @@ struct FastDay {
 };
 
 FastDay DayOf(const Fast& fast, int32_t year) {
-  const int32_t adarOfPurim = calendar::IsJewishLeapYear(year) ? calendar::kAdarII : calendar::kAdar;
-  const int32_t month = fast.month == kAdarOfCommonYear ? adarOfPurim : fast.month;
-  const int32_t date = calendar::AbsoluteFromJewish({fast.day, month, year});
-  switch (calendar::WeekdayOf(date)) {
-    case Weekday::kFriday: return {date, kOnFriday};
-    case Weekday::kSaturday:
-      if (fast.fromShabbat == FromShabbat::kToSunday) return {date + 1, kFromShabbatToSunday};
-      return {date - 2, kFromShabbatToThursday};
-    default: return {date, 0};
-  }
+  const calendar::Holiday& holiday = calendar::JewishHolidayNamed(fast.holiday);
+  const int32_t date = *calendar::JewishBaseDay(holiday.rules[0], year);
+  const int32_t day = *calendar::DayOfHoliday(holiday, year, calendar::JewishBaseDay);
+  if (day > date) return {day, kFromShabbatToSunday};
+  if (day < date) return {day, kFromShabbatToThursday};
+  const uint16_t notes = calendar::WeekdayOf(day) == calendar::Weekday::kFriday ? kOnFriday : 0;
+  return {day, notes};
 }
 
 void AddDawnToNightfall(const YearSources& sources, int32_t day, Row row) {
   const Customs& customs = sources.question.customs;
   row.moment = Moment::kFastBegins;
   row.rule = Rule::kDawn;
-  sources.rows.AddMoment(sources.sky.Zman(day, DawnOf(customs)), day, row);
+  AddZman(sources, day, DawnOf(customs), row);
   row.moment = Moment::kFastEnds;
   row.rule = Rule::kNightfall;
-  sources.rows.AddMoment(sources.sky.Zman(day, NightfallOf(customs.nightfall)), day, row);
-}
-
-uint16_t NotesOfSunset(const YearSources& sources, int32_t day) {
-  return sources.sky.SunSets(day) ? 0 : kSunDoesNotSet;
+  AddZman(sources, day, NightfallOf(customs.nightfall), row);
 }
 
 void AddTishaBeAv(const YearSources& sources, int32_t day, Row row) {
@@ -62,13 +46,13 @@ void AddTishaBeAv(const YearSources& sources, int32_t day, Row row) {
   const uint16_t moved = row.notes;
   row.moment = Moment::kFastBegins;
   row.rule = Rule::kSunset;
-  row.notes |= NotesOfSunset(sources, day - 1);
+  row.notes |= sources.sky.NotesOfSunset(day - 1);
   sources.rows.AddMoment(sources.sky.Sunset(day - 1), row);
   row.moment = Moment::kFastEnds;
   row.rule = Rule::kNightfallOfAv;
   row.notes = moved;
   const std::string& nightfall = customs.nightfallOfAv.empty() ? customs.nightfall : customs.nightfallOfAv;
-  sources.rows.AddMoment(sources.sky.Zman(day, NightfallOf(nightfall)), day, row);
+  AddZman(sources, day, NightfallOf(nightfall), row);
 }
 
 // On the eve of Pesach itself the fast ends with the Seder.
@@ -76,7 +60,7 @@ void AddFirstborn(const YearSources& sources, const FastDay& fast, Row row) {
   if (fast.notes & kFromShabbatToThursday) return AddDawnToNightfall(sources, fast.day, row);
   row.moment = Moment::kFastBegins;
   row.rule = Rule::kDawn;
-  sources.rows.AddMoment(sources.sky.Zman(fast.day, DawnOf(sources.question.customs)), fast.day, row);
+  AddZman(sources, fast.day, DawnOf(sources.question.customs), row);
 }
 
 // Monday, Thursday and Monday after the first Shabbat of the month behind Rosh Chodesh (Orach Chaim 492).

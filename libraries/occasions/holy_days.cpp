@@ -53,10 +53,6 @@ ClockMinute OwnTime(int32_t hour, int32_t minute, const ClockMinute& reckoned) {
   return {reckoned.minute + difference - half, reckoned.offsetSeconds};
 }
 
-uint16_t NotesOfSunset(const Sky& sky, int32_t day) {
-  return sky.SunSets(day) ? 0 : kSunDoesNotSet;
-}
-
 void AddLighting(HolyTimes& times, int32_t day, const HolyDay& holy, RowCollector& rows) {
   const RuledMoment lighting = times.Lighting(day);
   const auto notes = static_cast<uint16_t>(lighting.notes | (IsShabbat(day) ? kOnShabbat : 0));
@@ -67,9 +63,19 @@ void AddLighting(HolyTimes& times, int32_t day, const HolyDay& holy, RowCollecto
                                    .number = holy.number});
 }
 
-void AddEnd(HolyTimes& times, int32_t day, const HolyDay& holy, RowCollector& rows) {
+// What the holy days in a row are that end with a day.
+uint16_t NotesOfDaysEnding(int32_t day, Land land) {
+  uint16_t notes = IsShabbat(day) ? kOnShabbat : 0;
+  for (; HolyDayOn(day, land); --day) {
+    if (IsShabbat(day)) notes |= kEndsShabbat;
+    if (YomTovOn(day, land)) notes |= kEndsYomTov;
+  }
+  return notes;
+}
+
+void AddEnd(const Question& question, HolyTimes& times, int32_t day, const HolyDay& holy, RowCollector& rows) {
   const RuledMoment end = times.End(day);
-  const auto notes = static_cast<uint16_t>(end.notes | (IsShabbat(day) ? kOnShabbat : 0));
+  const auto notes = static_cast<uint16_t>(end.notes | NotesOfDaysEnding(day, question.land));
   rows.AddMoment(
       end.moment,
       {.occasion = holy.occasion, .moment = Moment::kEnd, .rule = end.rule, .notes = notes, .number = holy.number});
@@ -119,7 +125,7 @@ RuledMoment HolyTimes::BeforeSunset(int32_t eve) {
   if (const auto own = isFriday ? OwnTimes(eve) : std::nullopt) {
     return {OwnTime(own->candleHour, own->candleMinute, reckoned), Rule::kOwnTime, 0};
   }
-  return {reckoned, question_.shabbat.isJerusalem ? Rule::kJerusalem : Rule::kCandleMinutes, NotesOfSunset(sky_, eve)};
+  return {reckoned, question_.shabbat.isJerusalem ? Rule::kJerusalem : Rule::kCandleMinutes, sky_.NotesOfSunset(eve)};
 }
 
 RuledMoment HolyTimes::Lighting(int32_t holyDay) {
@@ -134,9 +140,7 @@ RuledMoment HolyTimes::End(int32_t holyDay) {
   if (const auto own = IsShabbat(holyDay) ? OwnTimes(holyDay - 1) : std::nullopt) {
     return {OwnTime(own->endHour, own->endMinute, reckoned), Rule::kOwnTime, 0};
   }
-  uint16_t notes = NotesOfSunset(sky_, holyDay);
-  if (!sky_.ReachesEnd(holyDay)) notes |= kLowestPoint;
-  return {reckoned, question_.shabbat.endsByMinutes ? Rule::kEndMinutes : Rule::kEndDegrees, notes};
+  return {reckoned, question_.shabbat.endsByMinutes ? Rule::kEndMinutes : Rule::kEndDegrees, sky_.NotesOfEnd(holyDay)};
 }
 
 void AddHolyDays(const Question& question, Sky& sky, int32_t first, int32_t last, RowCollector& rows) {
@@ -145,9 +149,9 @@ void AddHolyDays(const Question& question, Sky& sky, int32_t first, int32_t last
   for (int32_t day = first - 1; day <= last + 3; ++day) {
     const std::optional<HolyDay> holy = HolyDayOn(day, question.land);
     if (!holy) continue;
-    if (rows.Wants(holy->occasion, day - 1)) AddLighting(times, day, *holy, rows);
+    if (rows.IsAround(day - 1)) AddLighting(times, day, *holy, rows);
     const bool isLast = !HolyDayOn(day + 1, question.land);
-    if (isLast && rows.Wants(holy->occasion, day)) AddEnd(times, day, *holy, rows);
+    if (isLast && rows.IsAround(day)) AddEnd(question, times, day, *holy, rows);
     const bool isFast = holy->occasion == Occasion::kYomKippur;
     if (isFast && rows.Wants(Occasion::kFastOfYomKippur, day)) AddFast(times, day, rows);
     const bool isFriday = calendar::WeekdayOf(day) == Weekday::kFriday;

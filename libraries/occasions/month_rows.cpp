@@ -2,15 +2,22 @@
 #include "libraries/calendar/jewish.h"
 #include "libraries/calendar/molad.h"
 #include "libraries/hours/named_days.h"
-#include "libraries/occasions/molad_moment.h"
 #include "libraries/occasions/year_rows.h"
 
 namespace occasions {
 namespace {
 
 constexpr double kSecondsPerDay = 86400;
+constexpr double kSecondsPerPart = 10.0 / 3;
 // Half a month of 29 days 12 hours 793 parts.
 constexpr double kHalfMonthSeconds = calendar::kPartsPerMonth / 2.0 * kSecondsPerPart;
+
+// Of UTC since 1970-01-01.
+double MoladUtcSeconds(int32_t month, int32_t year) {
+  const double sinceDay0 =
+      static_cast<double>(calendar::MoladParts(month, year)) * kSecondsPerPart - kSecondsPerDay / 4;
+  return sinceDay0 - calendar::kAbsoluteDayOfUnixDay0 * kSecondsPerDay - calendar::kJerusalemMeanSeconds;
+}
 
 int32_t NumberOf(int32_t month, int32_t year) {
   return month == calendar::kAdar && !calendar::IsJewishLeapYear(year) ? kAdarOfCommonYear : month;
@@ -20,9 +27,7 @@ void AddRoshChodesh(const YearSources& sources, int32_t month, int32_t newMonth,
   if (month == calendar::kTishri) return;
   for (int32_t day = newMonth - (hasTwoDays ? 1 : 0); day <= newMonth; ++day) {
     if (!sources.rows.Wants(Occasion::kRoshChodesh, day)) continue;
-    const bool isShabbat = calendar::WeekdayOf(day) == calendar::Weekday::kSaturday;
-    const uint16_t notes = isShabbat ? kOnShabbat : 0;
-    sources.rows.AddDay(day, {.occasion = Occasion::kRoshChodesh, .notes = notes, .number = number});
+    sources.rows.AddDay(day, {.occasion = Occasion::kRoshChodesh, .number = number});
   }
 }
 
@@ -43,28 +48,46 @@ void AddMolad(const YearSources& sources, double molad, int32_t number) {
 }
 
 // The light of a day, from dawn to nightfall. In the nights that get dark but have no dawn it begins at the sun's
-// lowest point; days after which it does not get dark have none.
+// lowest point.
 struct Daylight {
   ClockMinute dawn;
   ClockMinute nightfall;
   uint16_t notesOfDawn;
 };
 
+// Nothing where it does not get dark, and where it stays dark.
 std::optional<Daylight> DaylightOf(const YearSources& sources, int32_t day) {
   constexpr hours::Definition kLowest = {{hours::Both(hours::kSolarMidnight), 0}, hours::Rounding::kDown};
   const Customs& customs = sources.question.customs;
+  const hours::Definition dawn = DawnOf(customs);
   const std::optional<ClockMinute> nightfall = sources.sky.Zman(day, NightfallOf(customs.nightfall));
   if (!nightfall) return std::nullopt;
-  if (const std::optional<ClockMinute> dawn = sources.sky.Zman(day, DawnOf(customs))) return {{*dawn, *nightfall, 0}};
+  if (const std::optional<ClockMinute> exact = sources.sky.Zman(day, dawn)) return {{*exact, *nightfall, 0}};
+  if (sources.sky.NoteOfMissing(day, dawn) == kAlwaysLower) return std::nullopt;
   return {{*sources.sky.Zman(day, kLowest), *nightfall, kLowestPoint}};
+}
+
+// Whether a day has no daylight because it does not get dark, rather than because it stays dark.
+bool IsNeverDark(const YearSources& sources, int32_t day) {
+  const hours::Definition nightfall = NightfallOf(sources.question.customs.nightfall);
+  return !sources.sky.Zman(day, nightfall) && sources.sky.NoteOfMissing(day, nightfall) == kNeverSoLow;
+}
+
+// A moment of a night, which is said not to be used for it when it is a night of Shabbat or Yom Tov (Orach Chaim
+// 426:2).
+void AddInNight(const YearSources& sources, const ClockMinute& moment, Row row) {
+  const bool isEvening = moment.minute % kMinutesPerDay >= kMinutesPerDay / 2;
+  const int32_t dayOfNight = moment.Day() + (isEvening ? 1 : 0);
+  if (HolyDayOn(dayOfNight, sources.question.land)) row.notes |= kInHolyNight;
+  sources.rows.AddMoment(moment, row);
 }
 
 // At night alone the moon is blessed (Orach Chaim 426).
 void AddKiddushLevana(const YearSources& sources, const ClockMinute& limit, Row row) {
   const bool isFirst = row.moment == Moment::kFrom;
   if (!sources.rows.Wants(Occasion::kKiddushLevana, limit.Day())) return;
-  if (!DaylightOf(sources, limit.Day())) {
-    row.notes |= kNotReached;
+  if (IsNeverDark(sources, limit.Day())) {
+    row.notes |= kNeverSoLow;
     return sources.rows.AddDay(limit.Day(), row);
   }
   for (int32_t day = limit.Day() - 1; day <= limit.Day() + 1; ++day) {
@@ -72,10 +95,10 @@ void AddKiddushLevana(const YearSources& sources, const ClockMinute& limit, Row 
     if (!light || limit.minute < light->dawn.minute || limit.minute >= light->nightfall.minute) continue;
     row.rule = isFirst ? Rule::kFirstNight : Rule::kLastNight;
     if (!isFirst) row.notes |= light->notesOfDawn;
-    return sources.rows.AddMoment(isFirst ? light->nightfall : light->dawn, row);
+    return AddInNight(sources, isFirst ? light->nightfall : light->dawn, row);
   }
   row.rule = Rule::kSinceMolad;
-  sources.rows.AddMoment(limit, row);
+  AddInNight(sources, limit, row);
 }
 
 void AddMonth(const YearSources& sources, int32_t month, int32_t year) {
@@ -96,12 +119,6 @@ void AddMonth(const YearSources& sources, int32_t month, int32_t year) {
 }
 
 }  // namespace
-
-double MoladUtcSeconds(int32_t month, int32_t year) {
-  const double sinceDay0 =
-      static_cast<double>(calendar::MoladParts(month, year)) * kSecondsPerPart - kSecondsPerDay / 4;
-  return sinceDay0 - calendar::kAbsoluteDayOfUnixDay0 * kSecondsPerDay - calendar::kJerusalemMeanSeconds;
-}
 
 void AddMonths(const YearSources& sources, int32_t jewishYear) {
   for (int32_t month = calendar::kNisan; month <= calendar::MonthsInJewishYear(jewishYear); ++month) {

@@ -1,6 +1,3 @@
-#include <algorithm>
-#include <string_view>
-
 #include "libraries/calendar/holiday.h"
 #include "libraries/calendar/jewish.h"
 #include "libraries/occasions/year_rows.h"
@@ -75,11 +72,6 @@ constexpr NamedDay kNamedDays[] = {
     {"Tu BeAv", Occasion::kTuBeAv},
 };
 
-const calendar::Holiday& HolidayNamed(std::string_view name) {
-  const auto holidays = calendar::JewishHolidays();
-  return *std::find_if(holidays.begin(), holidays.end(), [name](const auto& holiday) { return holiday.name == name; });
-}
-
 struct DatedDay {
   const NamedDay* named;
   const calendar::Holiday* holiday;
@@ -89,7 +81,7 @@ struct DatedDay {
 const std::vector<DatedDay>& DatedDays() {
   static const std::vector<DatedDay> days = [] {
     std::vector<DatedDay> found;
-    for (const NamedDay& named : kNamedDays) found.push_back({&named, &HolidayNamed(named.holiday)});
+    for (const NamedDay& named : kNamedDays) found.push_back({&named, &calendar::JewishHolidayNamed(named.holiday)});
     return found;
   }();
   return days;

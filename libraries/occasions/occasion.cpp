@@ -88,6 +88,14 @@ Kind KindOf(Occasion occasion) {
   return kTraits[static_cast<size_t>(occasion)].kind;
 }
 
+bool IsOfKind(const Row& row, Kind kind) {
+  if (KindOf(row.occasion) == kind) return true;
+  const bool isOfShabbat = (row.moment == Moment::kCandles && (row.notes & kOnShabbat) != 0) ||
+                           (row.moment == Moment::kEnd && (row.notes & kEndsShabbat) != 0);
+  const bool isOfYomTov = row.moment == Moment::kEnd && (row.notes & kEndsYomTov) != 0;
+  return (kind == kShabbat && isOfShabbat) || (kind == kYomTov && isOfYomTov);
+}
+
 const char* IdOf(Occasion occasion) {
   return kTraits[static_cast<size_t>(occasion)].id;
 }

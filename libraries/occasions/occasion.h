@@ -131,16 +131,21 @@ enum class Rule : uint8_t {
   kMidnight,
 };
 
-// What a remark has to add.
+// What there is to say of a row beside its rule.
 enum Note : uint16_t {
-  kSunDoesNotSet = 1,  // or rise: its lowest or highest point stands for that
-  kLowestPoint = 2,    // the sun does not get so low: its lowest point stands for that
-  kNotReached = 4,     // the same: the moment has no time
-  kFromShabbatToSunday = 8,
-  kFromShabbatToThursday = 16,
-  kOnShabbat = 32,
-  kOnFriday = 64,
-  kMovedByLaw = 128,  // a modern day from its date
+  kSunDoesNotSet = 1,   // its lowest point stands for sunset or sunrise
+  kSunDoesNotRise = 2,  // its highest point stands for them
+  kLowestPoint = 4,     // the sun does not get so low: its lowest point stands for that
+  kNeverSoLow = 8,      // the same: the moment has no time
+  kAlwaysLower = 16,    // nor where the sun is lower all day
+  kFromShabbatToSunday = 32,
+  kFromShabbatToThursday = 64,
+  kOnShabbat = 128,
+  kOnFriday = 256,
+  kMovedByLaw = 512,    // a modern day from its date
+  kEndsShabbat = 1024,  // of an end: among the days that end is a Shabbat
+  kEndsYomTov = 2048,   // or a Yom Tov
+  kInHolyNight = 4096,  // of kiddush levana: in the night of a Shabbat or Yom Tov
 };
 
 // One line of what is kept: an occasion's day, or a moment of it.
@@ -159,6 +164,9 @@ struct Row {
 };
 
 Kind KindOf(Occasion occasion);
+
+// Candles of a Yom Tov on Shabbat, and the end of days of both, are of both kinds.
+bool IsOfKind(const Row& row, Kind kind);
 
 // Stable names, ASCII: "pesach", "candles".
 const char* IdOf(Occasion occasion);

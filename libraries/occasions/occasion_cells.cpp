@@ -45,7 +45,7 @@ std::string CellOf(const Question& question, const Row& row, Column column, cons
     case Column::kJewishDate: return JewishDateText(row.day, wording.language);
     case Column::kOccasion: return TitleOf(row, wording.language);
     case Column::kTime: return TimeText(row, wording.form);
-    case Column::kRemark: return RemarkOf(question, row);
+    case Column::kRemark: return RemarkOf(question, row, wording.language);
   }
   return {};
 }

@@ -55,7 +55,8 @@ std::optional<publishing::Event> EventOf(const Taken& taken, const Row& row) {
   }
   event.summary = TitleOf(row, language);
   event.description = JewishDateText(row.day, language);
-  if (const std::string remark = RemarkOf(taken.question, row); !remark.empty()) event.description += "\n" + remark;
+  if (const std::string remark = RemarkOf(taken.question, row, taken.wording.language); !remark.empty())
+    event.description += "\n" + remark;
   event.location = taken.place;
   event.categories = {KindName(KindOf(row.occasion), language)};
   return event;

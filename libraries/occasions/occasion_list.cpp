@@ -56,7 +56,7 @@ void OccasionList::Narrow() {
   if (!kind_ && words_.empty()) return;
   std::erase_if(shown_, [this](size_t index) {
     const Row& row = rows_[index];
-    return (kind_ && KindOf(row.occasion) != *kind_) || !IsFound(row);
+    return (kind_ && !IsOfKind(row, *kind_)) || !IsFound(row);
   });
 }
 
@@ -79,7 +79,9 @@ bool OccasionList::IsFound(const Row& row) {
   }
   EraseThoseIn(fold_(dates), missing);
   if (missing.empty()) return true;
-  EraseThoseIn(fold_(RemarkOf(question_, row)), missing);
+  EraseThoseIn(fold_(RemarkOf(question_, row, Language::kEnglish)), missing);
+  if (missing.empty() || isTypedAscii_) return missing.empty();
+  EraseThoseIn(fold_(RemarkOf(question_, row, Language::kHebrew)), missing);
   return missing.empty();
 }
 

@@ -2,19 +2,11 @@
 
 #include "libraries/calendar/jewish.h"
 #include "libraries/calendar/month_names.h"
-#include "libraries/occasions/occasion_texts.h"
+#include "libraries/occasions/words.h"
 #include "publishing/core/hebrew_numeral.h"
 
 namespace occasions {
 namespace {
-
-// UTF-8, in reading order.
-struct Words {
-  const char* english;
-  const char* hebrew;
-
-  std::string In(Language language) const { return language == Language::kHebrew ? hebrew : english; }
-};
 
 // What a row's number adds to the name.
 enum class NumberIs : uint8_t { kNothing, kDay, kCholHamoedDay, kMonth, kFast };
@@ -50,7 +42,7 @@ constexpr OccasionName kNames[] = {
     {{"Chanukah", "חנוכה"}, NumberIs::kDay},
     {{"Purim", "פורים"}},
     {{"Shushan Purim", "שושן פורים"}},
-    {{"Purim Meshulash, third day", "פורים המשולש, יום ג׳"}},
+    {{"Purim Meshulash, third day", "פורים המשולש, היום השלישי"}},
     {{"Purim Katan", "פורים קטן"}},
     {{"Shushan Purim Katan", "שושן פורים קטן"}},
     {{"Tu BiShvat", "ט״ו בשבט"}},
@@ -87,9 +79,9 @@ static_assert(std::size(kNames) == kOccasions);
 constexpr Words kSheminiAtzeretAndSimchatTorah = {"Shemini Atzeret and Simchat Torah", "שמיני עצרת ושמחת תורה"};
 
 // From the first.
-constexpr Words kDays[] = {{"first day", "יום א׳"},   {"second day", "יום ב׳"}, {"third day", "יום ג׳"},
-                           {"fourth day", "יום ד׳"},  {"fifth day", "יום ה׳"},  {"sixth day", "יום ו׳"},
-                           {"seventh day", "יום ז׳"}, {"eighth day", "יום ח׳"}};
+constexpr Words kDays[] = {{"first day", "היום הראשון"},   {"second day", "היום השני"},  {"third day", "היום השלישי"},
+                           {"fourth day", "היום הרביעי"},  {"fifth day", "היום החמישי"}, {"sixth day", "היום השישי"},
+                           {"seventh day", "היום השביעי"}, {"eighth day", "היום השמיני"}};
 constexpr Words kCholHamoed = {" (Chol HaMoed)", " (חול המועד)"};
 constexpr Words kLights[] = {{"first light", "נר ראשון"},   {"second light", "נר שני"},  {"third light", "נר שלישי"},
                              {"fourth light", "נר רביעי"},  {"fifth light", "נר חמישי"}, {"sixth light", "נר שישי"},
@@ -107,11 +99,12 @@ constexpr Words kMoments[] = {{"", ""},
                               {"", ""},
                               {"", ""},
                               {"", ""},
-                              {"from", "מן"},
-                              {"until", "עד"}};
+                              {"from", "תחילת הזמן"},
+                              {"until", "סוף הזמן"}};
 static_assert(std::size(kMoments) == occasions::kMoments);
 
 constexpr Words kEndOfShabbat = {"end", "צאת השבת"};
+constexpr Words kEndOfYomKippur = {"end", "צאת הצום"};
 constexpr Words kRemoval = {"last time to remove what is left", "סוף זמן ביטול"};
 
 // In the order of Kind.
@@ -165,22 +158,29 @@ std::string MonthOfNumber(int32_t number, Language language) {
   return MonthInWords(number, kLeapYear, language);
 }
 
+constexpr Words kOmerDay = {"Omer: 1 day", "ספירת העומר: יום אחד"};
+constexpr Words kOmerDays = {"Omer: %1 days", "ספירת העומר: %1 ימים"};
+constexpr Words kOneWeek = {", that is 1 week", ", שהם שבוע אחד"};
+constexpr Words kWeeks = {", that is %1 weeks", ", שהם %1 שבועות"};
+constexpr Words kAndOneDay = {" and 1 day", " ויום אחד"};
+constexpr Words kAndDays = {" and %1 days", " ו-%1 ימים"};
+
 std::string OmerTitle(int32_t number, Language language) {
-  if (language == Language::kHebrew) return "ספירת העומר: " + std::to_string(number) + " לעומר";
   constexpr int32_t kDaysOfWeek = 7;
-  const auto counted = [](int32_t count, const char* what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+  const auto counted = [&](int32_t count, const Words& one, const Words& many) {
+    return (count == 1 ? one : many).In(language, std::to_string(count));
   };
-  std::string title = "Omer: " + counted(number, "day");
   const int32_t weeks = number / kDaysOfWeek;
   const int32_t days = number % kDaysOfWeek;
-  if (weeks == 0) return title;
-  title += ", that is " + counted(weeks, "week");
-  return days == 0 ? title : title + " and " + counted(days, "day");
+  std::string title = counted(number, kOmerDay, kOmerDays);
+  if (weeks > 0) title += counted(weeks, kOneWeek, kWeeks);
+  if (weeks > 0 && days > 0) title += counted(days, kAndOneDay, kAndDays);
+  return title;
 }
 
 const Words& MomentWords(const Row& row) {
   const bool isOfShabbat = row.occasion == Occasion::kShabbat || (row.notes & kOnShabbat) != 0;
+  if (row.moment == Moment::kEnd && row.occasion == Occasion::kYomKippur) return kEndOfYomKippur;
   if (row.moment == Moment::kEnd && isOfShabbat) return kEndOfShabbat;
   if (row.moment == Moment::kBurningEnds && isOfShabbat) return kRemoval;
   return kMoments[static_cast<size_t>(row.moment)];

@@ -1,32 +1,106 @@
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 
 #include "libraries/calendar/jewish.h"
-#include "libraries/calendar/molad.h"
-#include "libraries/calendar/tekufa.h"
-#include "libraries/occasions/occasion_texts.h"
-#include "libraries/occasions/sky.h"
+#include "libraries/occasions/announcement.h"
+#include "libraries/occasions/words.h"
 
 namespace occasions {
 namespace {
 
-constexpr int32_t kHoursPerDay = 24;
-constexpr int32_t kPartsPerMinute = static_cast<int32_t>(calendar::kPartsPerHour / 60);
+constexpr Words kAtSunset = {"at sunset", "בשקיעה"};
+constexpr Words kMinuteBefore = {"1 minute before sunset", "דקה אחת לפני השקיעה"};
+constexpr Words kMinutesBefore = {"%1 minutes before sunset", "%1 דקות לפני השקיעה"};
+constexpr Words kMinuteAfter = {"1 minute after sunset", "דקה אחת אחרי השקיעה"};
+constexpr Words kMinutesAfter = {"%1 minutes after sunset", "%1 דקות אחרי השקיעה"};
+constexpr Words kAndMinutes = {" and %1 min", " ועוד %1 דק׳"};
+constexpr Words kLessMinutes = {" less %1 min", " פחות %1 דק׳"};
 
-std::string Counted(int64_t count, const char* what) {
-  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
+// In the order of Rule; %1 is what the rule's own text is.
+constexpr Words kRules[] = {
+    {"", ""},
+    {"%1", "%1"},
+    {"%1, the custom of Jerusalem", "%1, מנהג ירושלים"},
+    {"your own time for this Shabbat", "זמן שקבעתם לשבת זו"},
+    {"from a burning flame, when the day before has ended", "מאש דולקת, בצאת היום הקודם"},
+    {"%1", "%1"},
+    {"sun %1 below the horizon", "השמש %1 מתחת לאופק"},
+    kAtSunset,
+    {"%1", "%1"},
+    {"13.5 minutes before the sun is 7.083° below the horizon", "13.5 דקות לפני שהשמש 7.083° מתחת לאופק"},
+    {"at sunrise", "בזריחה"},
+    {"%1", "%1"},
+    {"%1", "%1"},
+    {"%1", "%1"},
+    {"%1", "%1"},
+    {"with candle lighting", "עם הדלקת הנרות"},
+    {"with the end of the day", "עם צאת היום"},
+    {"before the Shabbat candles", "לפני נרות השבת"},
+    {"when Shabbat has ended", "בצאת השבת"},
+    {"%1 in Jerusalem's mean time", "%1 לפי הזמן הממוצע של ירושלים"},
+    {"%1", "%1"},
+    {"%1, which is by day: from nightfall", "%1, שחל ביום: מצאת הכוכבים"},
+    {"%1, which is by day: until dawn", "%1, שחל ביום: עד עלות השחר"},
+    {"%1 in Jerusalem's mean time, by Shmuel", "%1 לפי הזמן הממוצע של ירושלים, לשיטת שמואל"},
+    {"the night after Shabbat, from midnight", "בליל מוצאי שבת, מחצות"},
+};
+static_assert(std::size(kRules) == static_cast<size_t>(Rule::kMidnight) + 1);
 
-std::string Joined(const std::string& first, const std::string& second, const char* between = "; ") {
+constexpr Words kBeforeLighting = {"before candle lighting", "לפני הדלקת הנרות"};
+constexpr Words kDaysAfterMolad = {"%1 days after the molad", "%1 ימים אחרי המולד"};
+constexpr Words kHalfMonthAfterMolad = {"half a month after the molad", "חצי חודש אחרי המולד"};
+constexpr Words kFourthHour = {"end of the 4th proportional hour, %1", "סוף השעה הזמנית הרביעית, %1"};
+constexpr Words kFifthHour = {"end of the 5th proportional hour, %1", "סוף השעה הזמנית החמישית, %1"};
+
+constexpr Words kMevarchim = {"Rosh Chodesh on %1", "ראש חודש: %1"};
+constexpr Words kMoladOfIt = {"molad %1", "המולד: %1"};
+constexpr Words kShushan = {"Purim of walled cities", "פורים של ערים מוקפות חומה"};
+constexpr Words kShushanOnShabbat = {"walled cities: scroll on Friday, prayers today, meal on Sunday",
+                                     "ערים מוקפות חומה: מגילה ביום שישי, תפילות היום, סעודה ביום ראשון"};
+constexpr Words kMeshulash = {"walled cities: meal, gifts of food", "ערים מוקפות חומה: סעודה ומשלוח מנות"};
+constexpr Words kFromEvening = {"from the evening prayer on", "מתפילת ערבית"};
+constexpr Words kFromFridayEvening = {"from the evening on; first said on Saturday night, after Shabbat",
+                                      "מן הערב; אומרים לראשונה במוצאי שבת"};
+constexpr Words kUntilYomKippur = {"before dawn, until Yom Kippur", "לפני עלות השחר, עד יום כיפור"};
+constexpr Words kUntilTheSeder = {"until a meal of a commandment, at the latest the Seder",
+                                  "עד סעודת מצווה, ולכל המאוחר עד הסדר"};
+constexpr Words kOnPesachSheni = {"Pesach Sheni: some fast on Thursday, 17 Iyar",
+                                  "פסח שני: יש הצמים ביום חמישי, י״ז באייר"};
+
+constexpr Words kNotInHolyNight = {"not said in the night of a Shabbat or Yom Tov", "אין אומרים בליל שבת ויום טוב"};
+constexpr Words kAfterYomKippur = {"many wait until Yom Kippur has ended", "נהוג להמתין עד מוצאי יום כיפור"};
+constexpr Words kAfterTishaBeAv = {"many wait until the fast of 9 Av has ended", "נהוג להמתין עד מוצאי תשעה באב"};
+
+constexpr Words kToSunday = {"its date is a Shabbat: kept on Sunday", "חל בשבת: נדחה ליום ראשון"};
+constexpr Words kToThursday = {"its date is a Shabbat: kept on Thursday", "חל בשבת: מוקדם ליום חמישי"};
+constexpr Words kByLaw = {"moved from its date by law", "הועבר ממועדו לפי החוק"};
+constexpr Words kIntoShabbat = {"at nightfall, in Shabbat", "בצאת הכוכבים, בתוך השבת"};
+constexpr Words kOnThursdayNight = {"on Thursday night: the eve of Pesach is a Shabbat",
+                                    "בערב יום חמישי: ערב פסח חל בשבת"};
+constexpr Words kChametzOnFriday = {"on Friday: the eve of Pesach is a Shabbat", "ביום שישי: ערב פסח חל בשבת"};
+
+constexpr Words kNoNight = {"no time: the sun does not get that low then", "אין זמן: השמש אינה יורדת כל כך אז"};
+constexpr Words kNoDay = {"no time: the sun is lower all day then", "אין זמן: השמש נמוכה יותר כל היום"};
+constexpr Words kNoSunset = {"the sun does not set then: its lowest point counts",
+                             "השמש אינה שוקעת אז: נקודתה הנמוכה קובעת"};
+constexpr Words kNoSunrise = {"the sun does not rise then: its highest point counts",
+                              "השמש אינה זורחת אז: נקודתה הגבוהה קובעת"};
+constexpr Words kByLowestPoint = {"the sun does not get that low then: its lowest point counts",
+                                  "השמש אינה יורדת כל כך אז: נקודתה הנמוכה קובעת"};
+
+std::string Joined(const std::string& first, const std::string& second) {
   if (first.empty() || second.empty()) return first + second;
-  return first + between + second;
+  return first + "; " + second;
 }
 
-// "18 minutes before sunset"; a negative number is on the sunset's other side.
-std::string AroundSunset(int32_t minutes, bool isBefore) {
-  if (minutes == 0) return "at sunset";
-  const bool staysBefore = isBefore == (minutes > 0);
-  return Counted(std::llabs(minutes), "minute") + (staysBefore ? " before sunset" : " after sunset");
+// A negative number of minutes is on the sunset's other side.
+std::string BeforeSunset(int64_t minutes, Language language) {
+  if (minutes == 0) return kAtSunset.In(language);
+  const bool isOne = std::llabs(minutes) == 1;
+  const Words& before = isOne ? kMinuteBefore : kMinutesBefore;
+  const Words& after = isOne ? kMinuteAfter : kMinutesAfter;
+  return (minutes > 0 ? before : after).In(language, std::to_string(std::llabs(minutes)));
 }
 
 // At most three digits after the point, none of them a needless zero.
@@ -37,168 +111,116 @@ std::string Degrees(double degrees) {
   return text + "°";
 }
 
-std::string EndByDegrees(const candles::ShabbatRule& rule) {
-  const std::string degrees = "sun " + Degrees(rule.endDegrees) + " below the horizon";
+std::string EndByDegrees(const candles::ShabbatRule& rule, Language language) {
+  const std::string degrees = kRules[static_cast<size_t>(Rule::kEndDegrees)].In(language, Degrees(rule.endDegrees));
   if (rule.minutesAfterDegrees == 0) return degrees;
-  return degrees + (rule.minutesAfterDegrees > 0 ? " and " : " less ") +
-         Counted(std::llabs(rule.minutesAfterDegrees), "minute");
+  const Words& added = rule.minutesAfterDegrees > 0 ? kAndMinutes : kLessMinutes;
+  return degrees + added.In(language, std::to_string(std::llabs(rule.minutesAfterDegrees)));
 }
 
-// "after 3 at night" of the hours 0 to 23.
-std::string HourInWords(int32_t hour) {
-  constexpr int32_t kHalfDay = 12;
-  const int32_t shown = hour % kHalfDay == 0 ? kHalfDay : hour % kHalfDay;
-  const char* const part = hour < 6          ? " at night"
-                           : hour < kHalfDay ? " in the morning"
-                           : hour < 18       ? " in the afternoon"
-                                             : " in the evening";
-  return std::to_string(shown) + part;
+std::string LevanaInWords(const Customs& customs, const Row& row, Language language) {
+  constexpr int32_t kLastDay = 15;
+  if (row.moment == Moment::kUntil && customs.kiddushLevanaUntilHalfMonth) return kHalfMonthAfterMolad.In(language);
+  const int32_t days = row.moment == Moment::kFrom ? customs.kiddushLevanaFromDays : kLastDay;
+  return kDaysAfterMolad.In(language, std::to_string(days));
 }
 
-// "Thursday, 35 minutes and 14 chalakim after 11 in the morning": a time of Jerusalem's mean clock as it is announced.
-std::string Announced(int32_t day, int32_t hour, int32_t minutes, int32_t chalakim) {
-  std::string past;
-  if (minutes > 0) past = Counted(minutes, "minute");
-  if (chalakim > 0) past = Joined(past, std::to_string(chalakim) + (chalakim == 1 ? " chelek" : " chalakim"), " and ");
-  const std::string after = past.empty() ? "" : past + " after ";
-  return WeekdayName(day, Language::kEnglish) + ", " + after + HourInWords(hour);
+std::string NightfallInWords(const std::string& id, Language language) {
+  const std::optional<int32_t> minutes = MinutesOfId(id);
+  return minutes ? BeforeSunset(-*minutes, language) : NameOfZman(id, language == Language::kHebrew);
 }
 
-// Of a row that is at most ten days before the month of its number begins, or in its first days.
-std::string MoladInWords(const Row& row) {
-  const int32_t year = calendar::JewishFromAbsolute(row.day + 10).year;
-  const int32_t month = row.number == kAdarOfCommonYear ? calendar::kAdar : row.number;
-  const int64_t parts = calendar::MoladParts(month, year) - calendar::Parts(kHoursPerDay / 4, 0);  // from midnight
-  const auto ofHour = static_cast<int32_t>(parts % calendar::kPartsPerHour);
-  return Announced(static_cast<int32_t>(parts / calendar::kPartsPerDay),
-                   static_cast<int32_t>(parts / calendar::kPartsPerHour % kHoursPerDay), ofHour / kPartsPerMinute,
-                   ofHour % kPartsPerMinute);
-}
-
-std::string RoshChodeshInWords(const Row& row) {
-  const int32_t year = calendar::JewishFromAbsolute(row.day + 10).year;
-  const int32_t month = row.number == kAdarOfCommonYear ? calendar::kAdar : row.number;
-  const int32_t day = calendar::AbsoluteFromJewish({1, month, year});
-  const std::string last = WeekdayName(day, Language::kEnglish);
-  if (calendar::JewishFromAbsolute(day - 1).day != 30) return last;
-  return WeekdayName(day - 1, Language::kEnglish) + " and " + last;
-}
-
-std::string TekufaInWords(const Row& row) {
-  using calendar::Tekufa;
-  const int32_t year = calendar::JewishFromAbsolute(row.day).year;
-  // Near the turn of the year the season of Tishri may be of the year before or after.
-  for (int32_t nearYear = year - 1; nearYear <= year + 1; ++nearYear) {
-    for (const Tekufa tekufa : {Tekufa::kTishri, Tekufa::kTevet, Tekufa::kNisan, Tekufa::kTammuz}) {
-      const int64_t minute = calendar::TekufaMinute(tekufa, nearYear);
-      const auto day = static_cast<int32_t>(minute / kMinutesPerDay);
-      if (std::abs(day - row.day) > 1) continue;
-      const auto ofDay = static_cast<int32_t>(minute % kMinutesPerDay);
-      return Announced(day, ofDay / 60, ofDay % 60, 0);
-    }
-  }
-  return "";
-}
-
-std::string LevanaInWords(const Question& question, const Row& row) {
-  const Customs& customs = question.customs;
-  if (row.moment == Moment::kFrom) return std::to_string(customs.kiddushLevanaFromDays) + " days after the molad";
-  return customs.kiddushLevanaUntilHalfMonth ? "half a month after the molad" : "15 days after the molad";
-}
-
-std::string ChametzInWords(const Question& question, const Row& row) {
-  const char* const hour = row.moment == Moment::kEatingEnds ? "end of the 4th" : "end of the 5th";
-  return std::string(hour) + " proportional hour, " + OpinionOfChametz(question.customs);
-}
-
-std::string RuleInWords(const Question& question, const Row& row) {
+// What "%1" of the rule's words is.
+std::string OwnText(const Question& question, const Row& row, Language language) {
   const candles::ShabbatRule& shabbat = question.shabbat;
   const Customs& customs = question.customs;
+  const bool isHebrew = language == Language::kHebrew;
   switch (row.rule) {
-    case Rule::kNone: return "";
-    case Rule::kCandleMinutes: return AroundSunset(shabbat.candleMinutes, true);
-    case Rule::kJerusalem: return AroundSunset(candles::kJerusalemMinutes, true) + ", the custom of Jerusalem";
-    case Rule::kOwnTime: return "your own time for this Shabbat";
-    case Rule::kFromFlame: return "from a burning flame, when the day before has ended";
-    case Rule::kEndMinutes: return AroundSunset(shabbat.endMinutes, false);
-    case Rule::kEndDegrees: return EndByDegrees(shabbat);
-    case Rule::kSunset: return "at sunset";
-    case Rule::kChanukahMinutes: return AroundSunset(customs.chanukahMinutes, false);
-    case Rule::kHalfTwilight: return "13.5 minutes before the sun is 7.083° below the horizon";
-    case Rule::kSunrise: return "at sunrise";
-    case Rule::kDawn: return TextOfZman(customs.dawn);
-    case Rule::kNightfall: return TextOfZman(customs.nightfall);
+    case Rule::kCandleMinutes: return BeforeSunset(shabbat.candleMinutes, language);
+    case Rule::kJerusalem: return BeforeSunset(candles::kJerusalemMinutes, language);
+    case Rule::kEndMinutes: return BeforeSunset(-int64_t{shabbat.endMinutes}, language);
+    case Rule::kChanukahMinutes: return BeforeSunset(-customs.chanukahMinutes, language);
+    case Rule::kDawn: return NameOfZman(customs.dawn, isHebrew);
+    case Rule::kNightfall: return NightfallInWords(customs.nightfall, language);
     case Rule::kNightfallOfAv:
-      return TextOfZman(customs.nightfallOfAv.empty() ? customs.nightfall : customs.nightfallOfAv);
-    case Rule::kChametzZman: return ChametzInWords(question, row);
-    case Rule::kWithCandles:
-      return row.occasion == Occasion::kEruvTavshilin ? "before candle lighting" : "with candle lighting";
-    case Rule::kWithEnd: return "with the end of the day";
-    case Rule::kBeforeCandles: return "before the Shabbat candles";
-    case Rule::kAfterShabbat: return "when Shabbat has ended";
-    case Rule::kMolad: return MoladInWords(row) + " in Jerusalem's mean time";
-    case Rule::kSinceMolad: return LevanaInWords(question, row);
-    case Rule::kFirstNight: return LevanaInWords(question, row) + ", which is by day: from nightfall";
-    case Rule::kLastNight: return LevanaInWords(question, row) + ", which is by day: until dawn";
-    case Rule::kTekufa: return TekufaInWords(row) + " in Jerusalem's mean time, by Shmuel";
-    case Rule::kMidnight: return "the night after Shabbat, from midnight";
-  }
-  return "";
-}
-
-std::string ThirdOfBehab(const Row& row) {
-  const calendar::Date date = calendar::JewishFromAbsolute(row.day);
-  const bool isPesachSheni = date.month == calendar::kIyar && date.day == 14;
-  return isPesachSheni ? "Pesach Sheni: some fast on Thursday, 17 Iyar" : "";
-}
-
-// What there is to know of an occasion beside its moments.
-std::string AboutOccasion(const Question& question, const Row& row) {
-  switch (row.occasion) {
-    case Occasion::kShabbatMevarchim:
-      return "Rosh Chodesh on " + RoshChodeshInWords(row) + "; molad " + MoladInWords(row);
-    case Occasion::kShushanPurim:
-      return (row.notes & kOnShabbat) != 0 ? "walled cities: scroll on Friday, prayers today, meal on Sunday"
-                                           : "Purim of walled cities";
-    case Occasion::kPurimMeshulash: return "walled cities: meal, gifts of food";
-    case Occasion::kTalUmatar:
-      return (row.notes & kOnFriday) != 0 ? "from the evening on; first said on Saturday night, after Shabbat"
-                                          : "from the evening prayer on";
-    case Occasion::kSelichot:
-      return question.customs.selichot == SelichotCustom::kSephardi ? "before dawn, until Yom Kippur" : "";
-    case Occasion::kFastOfFirstborn:
-      return (row.notes & kFromShabbatToThursday) == 0 ? "until a meal of a commandment, at the latest the Seder" : "";
-    case Occasion::kBehab: return ThirdOfBehab(row);
+      return NightfallInWords(customs.nightfallOfAv.empty() ? customs.nightfall : customs.nightfallOfAv, language);
+    case Rule::kChametzZman:
+      return (row.moment == Moment::kEatingEnds ? kFourthHour : kFifthHour)
+          .In(language, OpinionOfChametz(customs, isHebrew));
+    case Rule::kMolad: return MoladInWords(row, language);
+    case Rule::kSinceMolad:
+    case Rule::kFirstNight:
+    case Rule::kLastNight: return LevanaInWords(customs, row, language);
+    case Rule::kTekufa: return TekufaInWords(row, language);
     default: return "";
   }
 }
 
-std::string MovedInWords(const Row& row) {
-  if (row.notes & kFromShabbatToSunday) return "its date is a Shabbat: kept on Sunday";
-  if (row.notes & kFromShabbatToThursday) return "its date is a Shabbat: kept on Thursday";
-  if (row.notes & kMovedByLaw) return "moved from its date by law";
-  if (row.occasion == Occasion::kTenthOfTevet && row.moment == Moment::kFastEnds && (row.notes & kOnFriday)) {
-    return "at nightfall, in Shabbat";
+std::string RuleInWords(const Question& question, const Row& row, Language language) {
+  if (row.rule == Rule::kEndDegrees) return EndByDegrees(question.shabbat, language);
+  if (row.occasion == Occasion::kEruvTavshilin) return kBeforeLighting.In(language);
+  return kRules[static_cast<size_t>(row.rule)].In(language, OwnText(question, row, language));
+}
+
+// Orach Chaim 426:2, with Rema and Mishnah Berurah.
+std::string AboutLevana(const Row& row, Language language) {
+  if (row.moment == Moment::kFrom && row.number == calendar::kTishri) return kAfterYomKippur.In(language);
+  if (row.moment == Moment::kFrom && row.number == calendar::kAv) return kAfterTishaBeAv.In(language);
+  return (row.notes & kInHolyNight) != 0 ? kNotInHolyNight.In(language) : "";
+}
+
+bool IsPesachSheni(int32_t day) {
+  const calendar::Date date = calendar::JewishFromAbsolute(day);
+  return date.month == calendar::kIyar && date.day == 14;
+}
+
+// What there is to know of an occasion beside its moments.
+std::string AboutOccasion(const Question& question, const Row& row, Language language) {
+  switch (row.occasion) {
+    case Occasion::kShabbatMevarchim:
+      return Joined(kMevarchim.In(language, RoshChodeshInWords(row, language)),
+                    kMoladOfIt.In(language, MoladInWords(row, language)));
+    case Occasion::kShushanPurim: return ((row.notes & kOnShabbat) != 0 ? kShushanOnShabbat : kShushan).In(language);
+    case Occasion::kPurimMeshulash: return kMeshulash.In(language);
+    case Occasion::kTalUmatar: return ((row.notes & kOnFriday) != 0 ? kFromFridayEvening : kFromEvening).In(language);
+    case Occasion::kSelichot:
+      return question.customs.selichot == SelichotCustom::kSephardi ? kUntilYomKippur.In(language) : "";
+    case Occasion::kFastOfFirstborn:
+      return (row.notes & kFromShabbatToThursday) == 0 ? kUntilTheSeder.In(language) : "";
+    case Occasion::kKiddushLevana: return AboutLevana(row, language);
+    case Occasion::kBehab: return IsPesachSheni(row.day) ? kOnPesachSheni.In(language) : "";
+    default: return "";
   }
-  if (row.occasion == Occasion::kSearchForChametz && (row.notes & kOnShabbat)) {
-    return "on Thursday night: the eve of Pesach is a Shabbat";
+}
+
+std::string MovedInWords(const Row& row, Language language) {
+  const bool isOnFriday = (row.notes & kOnFriday) != 0;
+  const bool isOnShabbat = (row.notes & kOnShabbat) != 0;
+  if (row.notes & kFromShabbatToSunday) return kToSunday.In(language);
+  if (row.notes & kFromShabbatToThursday) return kToThursday.In(language);
+  if (row.notes & kMovedByLaw) return kByLaw.In(language);
+  if (row.occasion == Occasion::kTenthOfTevet && row.moment == Moment::kFastEnds && isOnFriday) {
+    return kIntoShabbat.In(language);
   }
-  if (row.occasion == Occasion::kChametz && (row.notes & kOnFriday)) return "on Friday: the eve of Pesach is a Shabbat";
+  if (row.occasion == Occasion::kSearchForChametz && isOnShabbat) return kOnThursdayNight.In(language);
+  if (row.occasion == Occasion::kChametz && isOnFriday) return kChametzOnFriday.In(language);
   return "";
 }
 
-std::string SunInWords(const Row& row) {
-  if (row.notes & kNotReached) return "no time: the sun does not get that low then";
-  if (row.notes & kSunDoesNotSet) return "the sun does not set or rise then: its lowest or highest point counts";
-  if (row.notes & kLowestPoint) return "the sun does not get that low then: its lowest point counts";
+std::string SunInWords(const Row& row, Language language) {
+  if (row.notes & kNeverSoLow) return kNoNight.In(language);
+  if (row.notes & kAlwaysLower) return kNoDay.In(language);
+  if (row.notes & kSunDoesNotSet) return kNoSunset.In(language);
+  if (row.notes & kSunDoesNotRise) return kNoSunrise.In(language);
+  if (row.notes & kLowestPoint) return kByLowestPoint.In(language);
   return "";
 }
 
 }  // namespace
 
-std::string RemarkOf(const Question& question, const Row& row) {
-  const std::string remark = Joined(RuleInWords(question, row), AboutOccasion(question, row));
-  return Joined(Joined(remark, MovedInWords(row)), SunInWords(row));
+std::string RemarkOf(const Question& question, const Row& row, Language language) {
+  const std::string remark = Joined(RuleInWords(question, row, language), AboutOccasion(question, row, language));
+  return Joined(Joined(remark, MovedInWords(row, language)), SunInWords(row, language));
 }
 
 }  // namespace occasions

@@ -15,8 +15,8 @@ std::string NameOf(const Row& row, Language language);
 // The same with its moment: "Pesach, first day: candle lighting".
 std::string TitleOf(const Row& row, Language language);
 
-// By which rule the moment came, and what there is to know beside: "18 minutes before sunset". English; may be empty.
-std::string RemarkOf(const Question& question, const Row& row);
+// By which rule the moment came, and what there is to know beside: "18 minutes before sunset". May be empty.
+std::string RemarkOf(const Question& question, const Row& row, Language language);
 
 // "Shabbat", "Yom Tov" ... as lists of kinds call them.
 std::string KindName(Kind kind, Language language);

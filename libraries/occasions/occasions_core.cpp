@@ -10,9 +10,14 @@
 namespace occasions {
 
 std::vector<Row> RowCollector::Take() {
-  const auto order = [](const Row& row) {
+  // A moment that does not occur stands after those of its day, unless it is one that begins.
+  const auto minuteOf = [](const Row& row) {
+    const bool isLast = row.moment != Moment::kWholeDay && row.moment != Moment::kFastBegins;
+    return row.minute.value_or(isLast ? static_cast<int32_t>(kMinutesPerDay) : -1);
+  };
+  const auto order = [&](const Row& row) {
     const bool isAfterCandles = row.rule != Rule::kBeforeCandles && row.occasion != Occasion::kEruvTavshilin;
-    return std::tuple(row.day, row.minute.value_or(-1), isAfterCandles, row.occasion, row.moment, row.number);
+    return std::tuple(row.day, minuteOf(row), isAfterCandles, row.occasion, row.moment, row.number);
   };
   std::sort(rows_.begin(), rows_.end(), [&](const Row& a, const Row& b) { return order(a) < order(b); });
   return std::move(rows_);

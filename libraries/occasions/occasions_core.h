@@ -28,7 +28,8 @@ struct Question {
 };
 
 // Whatever is kept on civil days from first to last (Rata Die; cut to the years above), of the kinds that the customs
-// show, ordered by day, then by time, those without a time first.
+// show, ordered by day, then by time, whole days
+// first.
 std::vector<Row> RowsBetween(const Question& question, int32_t firstDay, int32_t lastDay);
 
 }  // namespace occasions

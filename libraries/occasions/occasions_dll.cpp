@@ -51,7 +51,8 @@ OccasionsRecord RecordOf(const Question& question, const Row& row) {
   Put(record.moment, IdOf(row.moment));
   Put(record.english, TitleOf(row, Language::kEnglish));
   Put(record.hebrew, TitleOf(row, Language::kHebrew));
-  Put(record.remark, RemarkOf(question, row));
+  Put(record.englishRemark, RemarkOf(question, row, Language::kEnglish));
+  Put(record.hebrewRemark, RemarkOf(question, row, Language::kHebrew));
   return record;
 }
 

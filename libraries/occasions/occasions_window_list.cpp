@@ -215,7 +215,7 @@ void OccasionsWindow::ShowState() const {
 void OccasionsWindow::ShowRemark() const {
   const int row = list_.SelectedCount() == 1 ? list_.FirstSelected() : -1;
   const bool isThere = row >= 0 && row < rows_.Count();
-  const std::wstring text = isThere ? WideText(RemarkOf(rows_.question(), rows_.At(row))) : L"";
+  const std::wstring text = isThere ? WideText(RemarkOf(rows_.question(), rows_.At(row), WordingNow().language)) : L"";
   if (text != dialogs::TextOf(Control(IDC_REMARK))) SetDlgItemTextW(dialog_, IDC_REMARK, text.c_str());
 }
 

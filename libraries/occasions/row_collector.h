@@ -15,9 +15,10 @@ class RowCollector {
 
   // Whether a row of the occasion might be wanted whose moment is around a day: the day before, on it, or the day
   // after.
-  bool Wants(Occasion occasion, int32_t day) const {
-    return day >= firstDay_ - 1 && day <= lastDay_ + 1 && IsShown(customs_, KindOf(occasion));
-  }
+  bool Wants(Occasion occasion, int32_t day) const { return IsAround(day) && IsShown(customs_, KindOf(occasion)); }
+
+  // The same of any occasion.
+  bool IsAround(int32_t day) const { return day >= firstDay_ - 1 && day <= lastDay_ + 1; }
 
   void AddDay(int32_t day, Row row) {
     row.day = day;
@@ -31,19 +32,12 @@ class RowCollector {
     Add(row);
   }
 
-  // A moment that may be missing then stands on the day without a time.
-  void AddMoment(const std::optional<ClockMinute>& moment, int32_t day, Row row) {
-    if (moment) return AddMoment(*moment, row);
-    row.notes |= kNotReached;
-    AddDay(day, row);
-  }
-
   // In their order.
   std::vector<Row> Take();
 
  private:
   void Add(const Row& row) {
-    if (row.day >= firstDay_ && row.day <= lastDay_ && IsShown(customs_, KindOf(row.occasion))) rows_.push_back(row);
+    if (row.day >= firstDay_ && row.day <= lastDay_ && IsShown(customs_, row)) rows_.push_back(row);
   }
 
   const Customs& customs_;

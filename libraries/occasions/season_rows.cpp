@@ -49,7 +49,7 @@ void AddBlessingOfTheSun(const YearSources& sources, int32_t year) {
   const bool isAtBegin = calendar::TekufaMinute(Tekufa::kNisan, year) % kMinutesPerDay == kBeginOfDay;
   if (!isAtBegin || calendar::WeekdayOf(day) != Weekday::kWednesday) return;
   if (!sources.rows.Wants(Occasion::kBlessingOfTheSun, day)) return;
-  const uint16_t notes = sources.sky.SunRises(day) ? 0 : kSunDoesNotSet;
+  const uint16_t notes = sources.sky.NotesOfSunrise(day);
   sources.rows.AddMoment(
       sources.sky.Sunrise(day),
       {.occasion = Occasion::kBlessingOfTheSun, .moment = Moment::kFrom, .rule = Rule::kSunrise, .notes = notes});
@@ -82,8 +82,8 @@ void AddSelichot(const YearSources& sources, int32_t jewishYear) {
   const int32_t sunday = newYear - weekday - (weekday < kLeastDays ? 7 : 0);
   const int32_t shabbat = sunday - 1;
   if (!sources.rows.Wants(Occasion::kSelichot, shabbat)) return;
-  sources.rows.AddMoment(sources.sky.Zman(shabbat, kMidnight), shabbat,
-                         {.occasion = Occasion::kSelichot, .moment = Moment::kFrom, .rule = Rule::kMidnight});
+  AddZman(sources, shabbat, kMidnight,
+          {.occasion = Occasion::kSelichot, .moment = Moment::kFrom, .rule = Rule::kMidnight});
 }
 
 }  // namespace occasions

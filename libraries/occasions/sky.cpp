@@ -30,8 +30,14 @@ int64_t MinutesToCountedDay(const sun::PlaceClock& clock, int32_t offsetSeconds)
   return std::lround((clock.standardOffsetSeconds - offsetSeconds) / kSecondsPerDay) * kMinutesPerDay;
 }
 
-bool IsReached(const sun::SunEvent& event) {
-  return event.crossing == sun::Crossing::kReached;
+// Nothing where the sun gets there.
+uint16_t NoteOf(const sun::SunEvent& event, Note staysAbove, Note staysBelow) {
+  switch (event.crossing) {
+    case sun::Crossing::kReached: break;
+    case sun::Crossing::kStaysAbove: return staysAbove;
+    case sun::Crossing::kStaysBelow: return staysBelow;
+  }
+  return 0;
 }
 
 }  // namespace
@@ -86,23 +92,41 @@ ClockMinute Sky::At(double utcSeconds, Rounding rounding) const {
   return {static_cast<int64_t>(rounded) + kMinutesBeforeUnixDay0, offset};
 }
 
-bool Sky::SunSets(int32_t day) const {
+uint16_t Sky::NotesOfSunset(int32_t day) const {
   const sun::PlaceSettings& place = question_.settings;
-  if (std::fabs(place.site.latitudeRadians) < kSurelySetsRadians) return true;
-  return IsReached(sun::Sunset(sun::ComputeSunDay(UnixDay(day), place.site), place.elevationMetres));
+  if (std::fabs(place.site.latitudeRadians) < kSurelySetsRadians) return 0;
+  return NoteOf(sun::Sunset(SunOf(day), place.elevationMetres), kSunDoesNotSet, kSunDoesNotRise);
 }
 
-bool Sky::SunRises(int32_t day) const {
+uint16_t Sky::NotesOfSunrise(int32_t day) const {
   const sun::PlaceSettings& place = question_.settings;
-  if (std::fabs(place.site.latitudeRadians) < kSurelySetsRadians) return true;
-  return IsReached(sun::Sunrise(sun::ComputeSunDay(UnixDay(day), place.site), place.elevationMetres));
+  if (std::fabs(place.site.latitudeRadians) < kSurelySetsRadians) return 0;
+  return NoteOf(sun::Sunrise(SunOf(day), place.elevationMetres), kSunDoesNotSet, kSunDoesNotRise);
 }
 
-bool Sky::ReachesEnd(int32_t day) const {
+uint16_t Sky::NotesOfEnd(int32_t day) const {
   const candles::ShabbatRule& rule = question_.shabbat;
-  if (rule.endsByMinutes) return true;
-  const sun::SunDay sun = sun::ComputeSunDay(UnixDay(day), question_.settings.site);
-  return IsReached(sun::EveningDepression(sun, rule.endDegrees));
+  if (rule.endsByMinutes) return NotesOfSunset(day);
+  return NoteOf(sun::EveningDepression(SunOf(day), rule.endDegrees), kLowestPoint, kSunDoesNotRise);
+}
+
+uint16_t Sky::NoteOfMissing(int32_t day, const hours::Definition& zman) const {
+  const sun::SunDay sun = SunOf(day);
+  const auto noteOf = [&](const hours::Bound& bound, auto depression) -> uint16_t {
+    if (bound.kind != hours::BoundKind::kDegrees) return 0;
+    return NoteOf(depression(sun, bound.thousandths / 1000.0), kNeverSoLow, kAlwaysLower);
+  };
+  const hours::Reckoning& reckoning = zman.reckoning;
+  uint16_t notes = 0;
+  if (reckoning.thousandthHours != hours::kDayThousandthHours) {
+    notes |= noteOf(reckoning.day.start, sun::MorningDepression);
+  }
+  if (reckoning.thousandthHours != 0) notes |= noteOf(reckoning.day.end, sun::EveningDepression);
+  return (notes & kAlwaysLower) != 0 ? kAlwaysLower : kNeverSoLow;
+}
+
+sun::SunDay Sky::SunOf(int32_t day) const {
+  return sun::ComputeSunDay(UnixDay(day), question_.settings.site);
 }
 
 }  // namespace occasions

@@ -43,13 +43,18 @@ class Sky {
   // A moment of UTC, in seconds since 1970-01-01.
   ClockMinute At(double utcSeconds, Rounding rounding) const;
 
-  // Whether the sun sets and rises on the day, and whether it gets as low as the end of Shabbat by degrees wants.
-  bool SunSets(int32_t day) const;
-  bool SunRises(int32_t day) const;
-  bool ReachesEnd(int32_t day) const;
+  // What there is to say, as bits of Note, where the sun does not set or rise on the day, or not get as low as the end
+  // of Shabbat by degrees wants.
+  uint16_t NotesOfSunset(int32_t day) const;
+  uint16_t NotesOfSunrise(int32_t day) const;
+  uint16_t NotesOfEnd(int32_t day) const;
+
+  // Why a zman does not occur on the day: kNeverSoLow or kAlwaysLower.
+  uint16_t NoteOfMissing(int32_t day, const hours::Definition& zman) const;
 
  private:
   hours::ZmanDay& On(int32_t day);
+  sun::SunDay SunOf(int32_t day) const;
 
   const Question& question_;
   int32_t day_ = 0;

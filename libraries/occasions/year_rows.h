@@ -13,6 +13,9 @@ struct YearSources {
   RowCollector& rows;
 };
 
+// A zman of a day as a row's moment; where it does not occur, the row stands on the day without a time and says why.
+void AddZman(const YearSources& sources, int32_t day, const hours::Definition& zman, Row row);
+
 // Festivals' days, minor days, named Shabbatot, modern days.
 void AddNamedDays(const YearSources& sources, int32_t jewishYear);
 

@@ -20,7 +20,7 @@ void ExpectRows(const OccasionsRun& run, const std::vector<OccasionsRecord>& rec
     EXPECT_EQ(run.Cell(row, OccasionsRun::kDate), DateOf(record)) << row;
     EXPECT_EQ(run.Cell(row, OccasionsRun::kOccasion), WideOf(record.english)) << row;
     EXPECT_EQ(run.Cell(row, OccasionsRun::kTime), TimeOf(record)) << row;
-    EXPECT_EQ(run.Cell(row, OccasionsRun::kRemark), WideOf(record.remark)) << row;
+    EXPECT_EQ(run.Cell(row, OccasionsRun::kRemark), WideOf(record.englishRemark)) << row;
   }
 }
 

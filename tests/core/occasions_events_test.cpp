@@ -34,7 +34,7 @@ TEST(OccasionEvents, AMomentIsThereByUtcAndADayAsADay) {
   ASSERT_TRUE(event);
   EXPECT_EQ(event->start, (UtcMoment{{2026, 11, 27}, 21, 12, 0}));
   EXPECT_EQ(event->summary, TitleOf(candles, Language::kEnglish));
-  EXPECT_EQ(event->description, "17 Kislev 5787\n" + RemarkOf(taken.question, candles));
+  EXPECT_EQ(event->description, "17 Kislev 5787\n" + RemarkOf(taken.question, candles, Language::kEnglish));
   EXPECT_EQ(event->location, "Some Place");
   EXPECT_EQ(event->categories, std::vector<std::string>{KindName(Kind::kShabbat, Language::kEnglish)});
   const auto wholeDay = EventOf(taken, {.day = DayOf(5, 12, 2026), .occasion = Occasion::kChanukah, .number = 1});

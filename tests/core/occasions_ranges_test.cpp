@@ -54,18 +54,25 @@ int64_t UnixMinute(const Row& row) {
   return int64_t{UnixDay(row.day)} * 1440 + row.minute.value_or(0);
 }
 
-// Rows as they are sorted: by day, those without a time first.
+// Where a row stands on its day: whole days first, then by time, then what does not occur, unless it would begin a
+// fast.
+int32_t PlaceInDay(const Row& row) {
+  const bool isFirst = row.moment == Moment::kWholeDay || row.moment == Moment::kFastBegins;
+  return row.minute.value_or(isFirst ? -1 : 1440);
+}
+
 void ExpectSense(const std::vector<Row>& rows, int32_t first, int32_t last, const std::string& place) {
   std::pair before(first, -1);
   for (const Row& row : rows) {
-    const std::pair now(row.day, row.minute.value_or(-1));
+    const std::pair now(row.day, PlaceInDay(row));
     EXPECT_LE(before, now) << place << ": " << DayText(row.day) << " " << WhatText(row);
     before = now;
     EXPECT_LE(row.day, last);
     EXPECT_GE(row.minute.value_or(0), 0);
     EXPECT_LT(row.minute.value_or(0), 1440);
     const bool isMissing = !row.minute && row.moment != Moment::kWholeDay;
-    EXPECT_EQ((row.notes & kNotReached) != 0, isMissing) << place << ": " << DayText(row.day) << " " << WhatText(row);
+    EXPECT_EQ((row.notes & (kNeverSoLow | kAlwaysLower)) != 0, isMissing)
+        << place << ": " << DayText(row.day) << " " << WhatText(row);
   }
 }
 
@@ -193,25 +200,26 @@ TEST(OccasionRanges, AnyDayNumbersMeanDaysOfTheYears) {
 
 // The sun does not set in Tromso from 20 May to 22 July, in Longyearbyen from 19 April to 23 August, at McMurdo from
 // October to February; it does not rise in Tromso from 27 November to 15 January (their almanacs).
-TEST(OccasionRanges, WhereTheSunDoesNotSetCandlesAreByItsLowestPointAndSaySo) {
+TEST(OccasionRanges, WhereTheSunDoesNotSetOrRiseCandlesAreByItsExtremePointAndSaySo) {
   struct Case {
     Question question;
     int32_t first;
     int32_t last;
-    bool isExplained;
+    uint16_t note;
   };
-  const Case cases[] = {{InTromso(), CivilDay(2024, 6, 1), CivilDay(2024, 7, 15), true},
-                        {InTromso(), CivilDay(2024, 3, 1), CivilDay(2024, 4, 30), false},
-                        {InTromso(), CivilDay(2024, 12, 5), CivilDay(2025, 1, 8), true},
-                        {InLongyearbyen(), CivilDay(2024, 5, 1), CivilDay(2024, 8, 15), true},
-                        {AtMcMurdo(), CivilDay(2024, 11, 10), CivilDay(2025, 1, 31), true}};
+  const Case cases[] = {{InTromso(), CivilDay(2024, 6, 1), CivilDay(2024, 7, 15), kSunDoesNotSet},
+                        {InTromso(), CivilDay(2024, 3, 1), CivilDay(2024, 4, 30), 0},
+                        {InTromso(), CivilDay(2024, 12, 5), CivilDay(2025, 1, 8), kSunDoesNotRise},
+                        {InLongyearbyen(), CivilDay(2024, 5, 1), CivilDay(2024, 8, 15), kSunDoesNotSet},
+                        {AtMcMurdo(), CivilDay(2024, 11, 10), CivilDay(2025, 1, 31), kSunDoesNotSet}};
   for (const Case& one : cases) {
     int32_t candles = 0;
     for (const Row& row : RowsBetween(one.question, one.first, one.last)) {
       if (row.moment != Moment::kCandles || row.rule != Rule::kCandleMinutes) continue;
       ++candles;
       EXPECT_TRUE(row.minute.has_value());
-      EXPECT_EQ((row.notes & kSunDoesNotSet) != 0, one.isExplained) << one.question.place << " " << DayText(row.day);
+      EXPECT_EQ(row.notes & (kSunDoesNotSet | kSunDoesNotRise), one.note)
+          << one.question.place << " " << DayText(row.day);
     }
     EXPECT_GE(candles, 4) << one.question.place;
   }
@@ -230,6 +238,42 @@ TEST(OccasionRanges, WhatNeedsANightHasNoTimeWhereThereIsNone) {
   EXPECT_EQ(TimeText(TheRow(rows, Occasion::kOmer, Moment::kCount, 30)), "----");
   const Row ends = TheRow(rows, Occasion::kTishaBeAv, Moment::kFastEnds);
   EXPECT_EQ(DayText(ends.day), "2024-08-13 Tue");
+}
+
+// From 15 November to 28 January the sun is more than 7.083 degrees below Longyearbyen's horizon all day (90 - 78.22 -
+// its declination), so what begins with nightfall has no time; the moon may be blessed at any hour.
+TEST(OccasionRanges, WhereTheSunIsLowerAllDayThatIsToldAndTheMoonMayBeBlessed) {
+  const auto rows = RowsBetween(InLongyearbyen(), CivilDay(2025, 12, 1), CivilDay(2026, 1, 10));
+  const Row light = TheRow(rows, Occasion::kChanukah, Moment::kLights, 1);
+  EXPECT_EQ(TimeText(light), "----");
+  EXPECT_EQ(light.notes, kAlwaysLower);
+  int32_t limits = 0;
+  for (const Row& row : rows) {
+    if (row.occasion != Occasion::kKiddushLevana) continue;
+    ++limits;
+    EXPECT_TRUE(row.minute) << DayText(row.day);
+    EXPECT_EQ(row.rule, Rule::kSinceMolad) << DayText(row.day);
+  }
+  EXPECT_GE(limits, 2);
+}
+
+// 8.5 degrees are passed in Longyearbyen's afternoons of early November, when the sun does not rise.
+TEST(OccasionRanges, EndByDegreesThatOccurNeedsNoExplanationInPolarNight) {
+  Question question = InLongyearbyen();
+  question.shabbat.endsByMinutes = false;
+  question.shabbat.endDegrees = 8.5;
+  const auto rows = RowsBetween(question, CivilDay(2025, 11, 1), CivilDay(2025, 11, 8));
+  EXPECT_EQ(rows.back().moment, Moment::kEnd);
+  EXPECT_EQ(rows.back().notes & (kSunDoesNotRise | kSunDoesNotSet | kLowestPoint), 0);
+}
+
+TEST(OccasionRanges, MomentThatDoesNotOccurStandsBehindThoseOfItsDay) {
+  // 10 Tevet 5786 has a dawn in Longyearbyen, but no nightfall.
+  const auto rows = RowsBetween(InLongyearbyen(), CivilDay(2025, 12, 30), CivilDay(2025, 12, 30));
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0].moment, Moment::kFastBegins);
+  EXPECT_EQ(rows[1].moment, Moment::kFastEnds);
+  EXPECT_EQ(TimeText(rows[1]), "----");
 }
 
 // London has no dawn of 16.1 degrees in June, but nights. Half a day before Hebcal's noon of 5 June 2031 is 00:59:11,

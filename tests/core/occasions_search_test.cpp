@@ -67,7 +67,7 @@ TEST_F(OccasionListTest, EveryWordIsFoundInTitleOrDateOrRemark) {
   EXPECT_THAT(Days(), ElementsAre(7, 8, 9));
   list_.Search("kislev");
   EXPECT_THAT(Days(), ElementsAre(0, 1, 7, 8, 9));
-  list_.Search(RemarkOf(list_.question(), kRows[0]));
+  list_.Search(RemarkOf(list_.question(), kRows[0], Language::kEnglish));
   EXPECT_THAT(Days(), ElementsAre(0));
   list_.Search("nowhere");
   EXPECT_EQ(list_.Count(), 0);

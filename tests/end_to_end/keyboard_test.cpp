@@ -9,6 +9,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// The program's folder without its pages: one that is missing shows which was asked for.
+class WithoutHelp {
+ public:
+  WithoutHelp() {
+    fs::copy(ProgramFolder(), folder_.path(), fs::copy_options::recursive);
+    fs::remove_all(folder_.path() / "help");
+  }
+  const fs::path& path() const { return folder_.path(); }
+
+ private:
+  TemporaryFolder folder_;
+};
+
 class KeyboardTest : public testing::Test {
  protected:
   // Keys go to the window in the foreground.
@@ -21,6 +34,17 @@ class KeyboardTest : public testing::Test {
   static void Press(BYTE key) {
     keybd_event(key, 0, 0, 0);
     keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+  }
+
+  // program: one without its pages.
+  static void ExpectHelp(const ProgramRun& program, HWND window, const char* page) {
+    BringUp(program, window);
+    Press(VK_F1);
+    const HWND box = program.WaitForDialog("Times / Readings");
+    EXPECT_THAT(TextOf(GetDlgItem(box, 0xFFFF)), HasSubstr(page));
+    EXPECT_EQ(GetWindow(box, GW_OWNER), window) << page;
+    PostMessageA(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(program.Eventually([&] { return !IsWindow(box) && IsWindowEnabled(window); })) << page;
   }
 
   static void PressWithShift(BYTE key) {
@@ -37,27 +61,16 @@ class KeyboardTest : public testing::Test {
 
 }  // namespace
 
-// F1 becomes a request for help only when it comes from the keyboard. A page that is missing shows which was asked for.
+// F1 becomes a request for help only when it comes from the keyboard.
 TEST_F(KeyboardTest, TheHelpKeyOpensThePageOfTheViewOrTheDialog) {
-  TemporaryFolder folder;
-  fs::copy(ProgramFolder(), folder.path(), fs::copy_options::recursive);
-  fs::remove_all(folder.path() / "help");
-  ProgramRun program(folder.path(), settings_.path());
+  const WithoutHelp folder;
+  const ProgramRun program(folder.path(), settings_.path());
   program.WaitForDocuments(1);
-  const auto expectHelp = [&](HWND window, const char* page) {
-    BringUp(program, window);
-    Press(VK_F1);
-    const HWND box = program.WaitForDialog("Times / Readings");
-    EXPECT_THAT(TextOf(GetDlgItem(box, 0xFFFF)), HasSubstr(page));
-    EXPECT_EQ(GetWindow(box, GW_OWNER), window) << page;
-    PostMessageA(box, WM_COMMAND, IDOK, 0);
-    EXPECT_TRUE(program.Eventually([&] { return !IsWindow(box) && IsWindowEnabled(window); })) << page;
-  };
   const HWND frame = program.WaitForTopLevel("ShabbatMain");
-  expectHelp(frame, "shabbat_times.html");
+  ExpectHelp(program, frame, "shabbat_times.html");
   program.PostCommand(1112);
   EXPECT_TRUE(program.Eventually([&] { return IsWindowVisible(GetDlgItem(program.WaitForDocuments(1)[0], 4)) != 0; }));
-  expectHelp(frame, "zmanim.html");
+  ExpectHelp(program, frame, "zmanim.html");
   // Dialogs of the program's own, and one of each library that has any.
   struct Case {
     unsigned command;
@@ -79,10 +92,31 @@ TEST_F(KeyboardTest, TheHelpKeyOpensThePageOfTheViewOrTheDialog) {
   for (const auto& [command, title, page] : dialogs) {
     program.PostCommand(command);
     const HWND dialog = program.WaitForDialog(title);
-    expectHelp(dialog, page);
+    ExpectHelp(program, dialog, page);
     PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
     EXPECT_TRUE(program.Eventually([&] { return !IsWindow(dialog); })) << title;
   }
+}
+
+TEST_F(KeyboardTest, TheHelpKeyOpensThePageOfADialogThatALibrarysDialogOpens) {
+  constexpr int kPrint = 112;
+  constexpr int kSave = 113;
+  constexpr int kWhatIsShown = 114;
+  const WithoutHelp folder;
+  const ProgramRun program(folder.path(), settings_.path());
+  program.WaitForDocuments(1);
+  program.PostCommand(1107);
+  const HWND window = program.WaitForDialog("Occasions of the Year - Aachen");
+  const std::pair<int, const char*> dialogs[] = {
+      {kPrint, "Print Occasions"}, {kSave, "Save Occasions"}, {kWhatIsShown, "Occasions: What Is Shown"}};
+  for (const auto& [button, title] : dialogs) {
+    Click(window, button);
+    const HWND dialog = program.WaitForDialog(title);
+    ExpectHelp(program, dialog, "occasions.html");
+    PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_TRUE(program.Eventually([&] { return !IsWindow(dialog) && IsWindowEnabled(window); })) << title;
+  }
+  ExpectHelp(program, window, "occasions.html");
 }
 
 TEST_F(KeyboardTest, AMenuCommandIsReachedByItsLettersAndEscapeLeavesItsDialog) {

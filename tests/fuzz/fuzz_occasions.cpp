@@ -95,13 +95,15 @@ void CheckTexts(const Question& question, const Row& row) {
     FUZZ_CHECK(!JewishDateText(row.day, language).empty() && IsForPeople(JewishDateText(row.day, language)));
     FUZZ_CHECK(TitleOf(row, language).size() < 192);  // companion/occasions.h
   }
-  const std::string remark = RemarkOf(question, row);
-  FUZZ_CHECK(IsForPeople(remark) && remark.size() < 512);
+  for (const Language language : {Language::kEnglish, Language::kHebrew}) {
+    const std::string remark = RemarkOf(question, row, language);
+    FUZZ_CHECK(IsForPeople(remark) && remark.size() < 512);
+  }
 }
 
 bool IsBefore(const Row& one, const Row& other) {
   if (one.day != other.day) return one.day < other.day;
-  return one.minute.value_or(-1) < other.minute.value_or(-1);
+  return one.minute && other.minute && *one.minute < *other.minute;
 }
 
 void CheckRow(const Question& question, const Row& row, int32_t first, int32_t last) {
@@ -110,7 +112,7 @@ void CheckRow(const Question& question, const Row& row, int32_t first, int32_t l
   FUZZ_CHECK(row.moment >= Moment{} && static_cast<int>(row.moment) < kMoments);
   FUZZ_CHECK(!row.minute || (*row.minute >= 0 && *row.minute < kMinutesPerDay));
   FUZZ_CHECK(row.moment != Moment::kWholeDay || !row.minute);
-  FUZZ_CHECK(IsShown(question.customs, KindOf(row.occasion)));
+  FUZZ_CHECK(IsShown(question.customs, row));
   CheckTexts(question, row);
 }
 
