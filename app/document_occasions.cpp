@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <string_view>
 
 #include "app/core/document_words.h"
 #include "engine/bound_entries.h"
@@ -12,9 +13,23 @@ namespace {
 // A little more than a Jewish year, which the library works out whole whatever is asked of it.
 constexpr int32_t kDaysInStretch = 400;
 
+// Rata Die day 0 was a Sunday.
+constexpr int32_t kDaysPerWeek = 7;
+constexpr int32_t kFriday = 5;
+constexpr int32_t kSaturday = 6;
+
 std::optional<ClockTime> TimeOf(const OccasionsRecord& record) {
   if (record.hour == OCCASIONS_WHOLE_DAY) return std::nullopt;
   return record.hour < 0 ? kNoTime : ClockTime{record.hour, record.minute};
+}
+
+// Lighting on Friday's evening and the end on Shabbat's have columns of their own, as they were when the document was
+// calculated; the library's are by the settings of today.
+bool HasOwnColumn(const OccasionsRecord& record, int32_t day) {
+  const std::string_view moment = record.moment;
+  const bool isAfterMidnight = record.hour >= 0 && IsAfterMidnight(static_cast<uint32_t>(record.hour));
+  const int32_t weekdayOfEvening = (isAfterMidnight ? day - 1 : day) % kDaysPerWeek;
+  return (moment == "candles" && weekdayOfEvening == kFriday) || (moment == "end" && weekdayOfEvening == kSaturday);
 }
 
 }  // namespace
@@ -44,6 +59,7 @@ std::vector<DocumentOccasion> OccasionsOfDocument::On(int32_t absoluteDay, const
 int32_t CALLBACK OccasionsOfDocument::Take(const OccasionsRecord* record, void* context) try {
   auto& self = *static_cast<OccasionsOfDocument*>(context);
   const int32_t day = AbsoluteFromDate({record->day, record->month, record->year});
+  if (HasOwnColumn(*record, day)) return 1;
   const char* const title = self.stretch_.inHebrew ? record->hebrew : record->english;
   self.occasions_.push_back({day, {title, TimeOf(*record)}});
   return 1;

@@ -1,4 +1,5 @@
-// What is kept on the days of a document at its place, as the occasions library tells it.
+// What is kept on the days of a document at its place, as the occasions library tells it: what the document's own
+// columns of candle lighting and of the end of Shabbat do not tell.
 #pragma once
 
 #include <cstdint>

@@ -245,13 +245,20 @@ function compareAll(programs, places, range, printAnswers) {
 }
 
 // What is a sun's moment of which ours are made; the test has the same list, in this order.
-const WHATS = ["candles", "flame", "end", "fast-begins", "fast-begins tisha-beav", "fast-ends", "eating-ends",
-  "burning-ends", "lights on Friday", "lights after Shabbat", "lights", "from", "until"];
+const FASTS = ["fast-of-gedaliah", "10-tevet", "fast-of-esther", "fast-of-firstborn", "17-tammuz", "tisha-beav"];
+const WHATS = ["candles", "flame", "end", ...FASTS.map((fast) => `fast-begins ${fast}`),
+  ...FASTS.map((fast) => `fast-ends ${fast}`), "eating-ends", "burning-ends", "lights on Friday",
+  "lights after Shabbat", "lights", "from", "until"];
+
+// A bit of a time's lands: kiddush levana that has no minute to compare with.
+const LOOSE = 4;
+
+const DAYS_OF_OMER = 49;
 
 function whatOf(time, key) {
   const moment = key.split(" ")[1];
   if (moment === "candles") return time.plus > 0 ? "flame" : "candles";
-  if (key.endsWith("fast-begins tisha-beav")) return "fast-begins tisha-beav";
+  if (moment.startsWith("fast-")) return key.slice("2000-01-01 ".length);
   if (moment === "lights" && time.rounding === "nearest") {
     return time.plus > 0 ? "lights after Shabbat" : "lights on Friday";
   }
@@ -280,7 +287,7 @@ function factsByDay(programs, days, range, start) {
   return { talUmatar, facts: new Map([...byFact].sort((a, b) => parseInt(a[0], 10) - parseInt(b[0], 10))) };
 }
 
-// Hebcal's moment where it has one, else KosherJava's: "day, what, lands, second of the day".
+// Hebcal's moment where it has one, else KosherJava's: "day, what, second of the day, lands".
 function timesByDay(programs, place, range, year) {
   const byTime = new Map();
   for (const land of [1, 2]) {
@@ -289,7 +296,7 @@ function timesByDay(programs, place, range, year) {
     const kosherDays = programs.kosher.facts(range, isIsrael);
     const later = programs.hebcal.times(year, isIsrael, place, CUSTOMS[0]);
     for (const time of [...programs.kosher.times(kosherDays, range, isIsrael, place, CUSTOMS[0]), ...later]) {
-      if (/molad|count/.test(time.key) || time.exact === null || time.isLowest || time.isNearEdge) continue;
+      if (/molad|count/.test(time.key) || time.exact === null) continue;
       times.set(time.key, time);
     }
     for (const [key, time] of times) {
@@ -298,11 +305,34 @@ function timesByDay(programs, place, range, year) {
       if (textOf(expectedMinute(time, place, 0)).slice(0, 10) < range[0] || date > range[1]) continue;
       const seconds = Math.floor((clock % DAY) / 1000);
       const text = [dayIn(range[0], date), WHATS.indexOf(whatOf(time, key)), seconds].join(", ");
-      byTime.set(text, (byTime.get(text) ?? 0) | land);
+      byTime.set(text, (byTime.get(text) ?? 0) | land | (time.isLowest || time.isNearEdge ? LOOSE : 0));
     }
   }
   const texts = [...byTime].map(([text, lands]) => `{${text}, ${lands}}`);
   return texts.sort((a, b) => parseInt(a.slice(1), 10) - parseInt(b.slice(1), 10));
+}
+
+// "group, nightfall of the 49 evenings of the omer": its second of the day on the first, then how much later it is than
+// the evening before.
+function omerOf(group, programs, place, year) {
+  const seconds = [];
+  for (const { key, exact } of programs.hebcal.times(year, false, place, CUSTOMS[0])) {
+    const [, moment, number] = key.split(" ");
+    if (moment === "count") seconds[number - 1] = Math.floor((place.clockAt(exact) % DAY) / 1000);
+  }
+  if (seconds.length !== DAYS_OF_OMER || seconds.includes(undefined)) throw new Error(`${year}: no 49 evenings`);
+  const later = seconds.slice(1).map((second, index) => String(second - seconds[index]));
+  return [`{${group}, {${seconds[0]}`, ...later.slice(0, -1), `${later.at(-1)}}}`];
+}
+
+// Moladot and tekufot of a year and of a day before and after it: "year, occasion, number, second of UTC".
+function instantsOf(programs, place, year, range) {
+  const [begin, end] = [Date.parse(plusDays(range[0], -1)), Date.parse(plusDays(range[1], 2))];
+  const times = [year - 1, year, year + 1].flatMap((one) => [...programs.julian.times(one),
+    ...programs.hebcal.times(one, false, place, CUSTOMS[0])]);
+  const texts = times.filter(({ key, exact }) => ["molad", "tekufa"].includes(key) && exact >= begin && exact < end)
+    .map(({ key, exact, number }) => `{${year}, "${key}", ${number}, ${Math.floor(exact / 1000)}}`);
+  return [...new Set(texts)];
 }
 
 // Lines of at most 120 characters.
@@ -335,12 +365,16 @@ function write(programs, places, range) {
     ...[...usual[type].keys()].filter((fact) => !facts.has(fact)).map((fact) => `{${year}, ${fact}, 0}`)]);
   const groups = [];
   const times = [];
-  types.forEach((_, type) => {
+  const omers = [];
+  const instants = [];
+  types.forEach((_, type) => {  // of the omer every other place, each in seven years
     const { year, range: ofYear } = years.find((one) => one.type === type && one.start > SUN_FROM);
+    instants.push(...instantsOf(programs, places[0], year, ofYear));
     places.forEach((place, index) => {
       const added = timesByDay(programs, place, ofYear, year);
       groups.push(`{${year}, ${index}, ${times.length}, ${added.length}}`);
       times.push(...added);
+      if ((type + index) % 2 === 0) omers.push(...omerOf(groups.length - 1, programs, place, year));
     });
   });
   const lineOfPlace = ([name, ...rest]) => `    {"${name}", ${rest.map((part) => JSON.stringify(part)).join(", ")}},`;
@@ -357,6 +391,8 @@ function write(programs, places, range) {
     "inline constexpr ReferenceFact kReferenceExceptions[] = {", ...wrapped(exceptions), "};",
     "inline constexpr ReferenceGroup kReferenceGroups[] = {", ...wrapped(groups), "};",
     "inline constexpr ReferenceTime kReferenceTimes[] = {", ...wrapped(times), "};",
+    "inline constexpr ReferenceOmer kReferenceOmers[] = {", ...wrapped(omers), "};",
+    "inline constexpr ReferenceInstant kReferenceInstants[] = {", ...wrapped(instants), "};",
     "// clang-format on", ""].join("\n"));
 }
 

@@ -25,7 +25,8 @@ const weekdayOf = (iso) => dateOf(iso).getDay();
 const simchatTorahIn = ([date, occasion, number], isIsrael) =>
   [date, occasion, isIsrael && occasion === "shemini-atzeret" ? 1 : number];
 
-const moladTime = (program, exact) => ({ key: "molad", program, exact, rounding: "nearest", plus: 0 });
+// number: the month's, undefined where only the moment is told.
+const moladTime = (program, exact, number) => ({ key: "molad", program, exact, rounding: "nearest", plus: 0, number });
 
 // A dawn of degrees is exact, one of minutes counted from the sunrise as it is shown. Where the sun does not get so low
 // its lowest point, half a day before noon. isBarely: a tenth of a degree less would have had a dawn.

@@ -155,7 +155,9 @@ class Hebcal {
     const months = Array.from({ length: HDate.monthsInYear(year) }, (_, index) => [year, index + 1]);
     for (const [moladYear, month] of [...months, [year + 1, 7]]) {
       const molad = new Molad(moladYear, month);
-      times.push(moladTime(this.name, molad.getInstant().epochMilliseconds));
+      const isCommonAdar = month === 12 && !HDate.isLeapYear(moladYear);
+      times.push(moladTime(this.name, molad.getInstant().epochMilliseconds,
+        isCommonAdar ? ADAR_OF_COMMON_YEAR : month));
       const from = customs.levanaDays === 7 ? molad.getTchilasZmanKidushLevana7Days()
         : molad.getTchilasZmanKidushLevana3Days();
       const until = customs.levanaHalf ? molad.getSofZmanKidushLevanaBetweenMoldos()

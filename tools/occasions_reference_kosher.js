@@ -190,8 +190,8 @@ class JulianCalendar {
 
   times(year) {
     const meanTime = 35.235 * 4 * MINUTE;
-    return [0, 1, 2, 3].map((number) => ({ key: "tekufa", program: this.name,
-      exact: JulianCalendar.tekufa(year - 3761, number) - meanTime, rounding: "nearest", plus: 0 }));
+    return [7, 10, 1, 4].map((month, index) => ({ key: "tekufa", program: this.name,
+      exact: JulianCalendar.tekufa(year - 3761, index) - meanTime, rounding: "nearest", plus: 0, number: month }));
   }
 }
 

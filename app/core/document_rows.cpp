@@ -66,6 +66,7 @@ class DocumentRows : public publishing::Rows {
   std::string Time(ClockTime time) const;
   std::string Candles(const ShabbatTimeEntry& entry) const;
   std::string End(const ShabbatTimeEntry& entry) const;
+  std::string Occasions(int32_t day) const;
 
   const DocumentSource& source_;
   DocumentChoice choice_;
@@ -149,6 +150,18 @@ std::string DocumentRows::End(const ShabbatTimeEntry& entry) const {
                 IsAfterMidnight(entry.endHour) ? 1 : 0);
 }
 
+// What is kept on a day, with its times: "Fast of Gedaliah: begins 05:11; Fast of Gedaliah: ends 19:38".
+std::string DocumentRows::Occasions(int32_t day) const {
+  std::string text;
+  for (const DocumentOccasion& occasion : source_.services.Occasions(day, choice_.language)) {
+    if (!text.empty()) text += "; ";
+    text += occasion.title;
+    const std::string time = occasion.time ? Time(*occasion.time) : std::string();
+    if (!time.empty()) text += " " + time;
+  }
+  return text;
+}
+
 // A day that is not in the document has no times here.
 void DocumentRows::AddZmanim(const ZmanimDay* day, Row& row) const {
   for (const uint32_t zman : choice_.zmanim) {
@@ -186,7 +199,7 @@ void DocumentRows::ReadDay(const ZmanimDay& day, Row& row) const {
   row.cells.push_back(ofFriday && weekday == kFriday ? Candles(*ofFriday) : std::string());
   AddZmanim(&day, row);
   row.cells.push_back(ofFriday && weekday == kSaturday ? End(*ofFriday) : std::string());
-  if (HasOccasions(source_, choice_)) row.cells.push_back(OccasionsOf(source_, number, choice_.language));
+  if (HasOccasions(source_, choice_)) row.cells.push_back(Occasions(number));
 }
 
 void DocumentRows::ReadReadings(const ReadingsEntry& entry, Row& row) const {

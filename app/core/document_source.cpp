@@ -79,13 +79,3 @@ std::string PortionOf(const DocumentSource& source, const CalendarDate& date) {
   }
   return name;
 }
-
-std::string OccasionsOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language) {
-  std::string text;
-  for (const DocumentOccasion& occasion : source.services.Occasions(absoluteDay, language)) {
-    if (!text.empty()) text += "; ";
-    text += occasion.title;
-    if (occasion.time) text += " " + ZmanText(*occasion.time, source.formatTime);
-  }
-  return text;
-}

@@ -97,9 +97,6 @@ int32_t DayOffsetOf(const DocumentSource& source, const ZmanimDay& day, uint32_t
 // "18 Kislev 5787", as the language writes it.
 std::string JewishDateOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language);
 
-// What is kept on a day, with its times: "Fast of Gedaliah: begins 05:11; Fast of Gedaliah: ends 19:38".
-std::string OccasionsOf(const DocumentSource& source, int32_t absoluteDay, uint32_t language);
-
 // What is read on a day by its name, without verses and customs: "Vayechi" of "Vayechi: Genesis 47:28-50:26",
 // "Chanukah, day 1" of "Chanukah, day 1, Ashkenazi, Chabad: Numbers 7:1-17". Empty for a day without readings.
 std::string PortionOf(const DocumentSource& source, const CalendarDate& date);

@@ -1,12 +1,19 @@
 #include "app/core/document_table.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "app/core/document_rows.h"
 #include "app/core/document_words.h"
 #include "shabbat/core/shabbat_rules.h"
 
 namespace {
+
+// Nearer to the equator than 66.56 - 26 degrees every dawn occurs on every day: 26 is the deepest that can be chosen
+// for occasions. Packed.
+constexpr int32_t kLatitudeOfAllDawns = 4000;
+
+constexpr std::size_t kMostDaysLookedThrough = 400;  // more than a Jewish year
 
 // "22.11.2026 - 23.12.2026 (12 Kislev 5787 - 13 Tevet 5787)".
 std::string RangeText(const DocumentSource& source, const DateRange& range, uint32_t language) {
@@ -37,8 +44,12 @@ bool HasMissingTimes(const DocumentSource& source, const DocumentChoice& choice)
                  [](const ZmanimDay& day, uint32_t zman) { return day.times[zman].hour == kNoTimeHour; });
 }
 
-bool HasMissingOccasions(const DocumentSource& source, const DocumentChoice& choice) {
-  if (!HasOccasions(source, choice)) return false;
+// Whether a moment of the occasions may not occur. Only the days of a year are looked through: what is kept on those of
+// a long range is made while its rows are written.
+bool MayMissOccasions(const DocumentSource& source, const DocumentChoice& choice) {
+  if (!HasOccasions(source, choice) || choice.forSpreadsheet) return false;
+  if (std::abs(source.location.latitude) <= kLatitudeOfAllDawns) return false;
+  if (source.zmanimDays.size() > kMostDaysLookedThrough) return true;
   return std::ranges::any_of(source.zmanimDays, [&](const ZmanimDay& day) {
     return std::ranges::any_of(source.services.Occasions(source.services.AbsoluteDay(day.date), choice.language),
                                [](const DocumentOccasion& occasion) { return occasion.time == kNoTime; });
@@ -117,7 +128,7 @@ publishing::Table DocumentTable(const DocumentSource& source, const DocumentChoi
   table.rightToLeft = language.rightToLeft;
   table.language = language.tag;
   if (choice.kind != DocumentKind::kReadings) table.notes.emplace_back(WordOf(Word::kClockNote, choice.language));
-  const bool isAnyMissing = HasMissingTimes(source, choice) || HasMissingOccasions(source, choice);
+  const bool isAnyMissing = HasMissingTimes(source, choice) || MayMissOccasions(source, choice);
   if (isAnyMissing) table.notes.emplace_back(WordOf(Word::kNoTimeNote, choice.language));
   const OtherDays others = OtherDaysOf(source, choice);
   if (others.after) table.notes.emplace_back(WordOf(Word::kNextDayNote, choice.language));

@@ -1,9 +1,8 @@
 // What the buttons of the dialog do with the result.
 #include "libraries/majority/majority_dialog.h"
 
-#include <cstring>
-
 #include "libraries/dialogs/chosen_file.h"
+#include "libraries/dialogs/clipboard.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/today.h"
 #include "libraries/dialogs/utf8.h"
@@ -22,24 +21,6 @@ constexpr wchar_t kCalendarFilter[] = L"iCalendar (*.ics)\0*.ics\0All files\0*.*
 
 void ShowInformation(HWND dialog, const std::wstring& text) {
   MessageBoxW(dialog, text.c_str(), dialogs::TextOf(dialog).c_str(), MB_OK | MB_ICONINFORMATION);
-}
-
-bool PutIntoClipboard(HWND dialog, const std::wstring& text) {
-  const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
-  const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, bytes);
-  void* const memory = block ? GlobalLock(block) : nullptr;
-  if (memory) {
-    std::memcpy(memory, text.c_str(), bytes);
-    GlobalUnlock(block);
-  }
-  bool isTaken = false;
-  if (memory && OpenClipboard(dialog)) {
-    EmptyClipboard();
-    isTaken = SetClipboardData(CF_UNICODETEXT, block) != nullptr;
-    CloseClipboard();
-  }
-  if (block && !isTaken) GlobalFree(block);
-  return isTaken;
 }
 
 // The file to write; empty when cancelled.
@@ -91,7 +72,7 @@ void MajorityDialog::Copy() const {
   const std::optional<Child> child = Entered();
   if (!child) return;
   const std::wstring text = dialogs::FromUtf8(TitleOf(*child, Name())) + L"\r\n" + ResultText(*child);
-  if (PutIntoClipboard(dialog_, text)) {
+  if (dialogs::PutIntoClipboard(dialog_, text)) {
     ShowInformation(dialog_, L"The result was put into the clipboard.");
   } else {
     dialogs::ShowError(dialog_,

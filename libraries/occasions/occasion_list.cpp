@@ -61,7 +61,7 @@ void OccasionList::Narrow() {
 }
 
 const std::string& OccasionList::FoldedTitle(const Row& row) {
-  std::string& title = titles_[{row.occasion, row.moment, row.number}];
+  std::string& title = titles_[{row.occasion, row.moment, row.number, row.notes & kOnShabbat}];
   if (title.empty()) title = fold_(TitleOf(row, Language::kEnglish) + "\n" + TitleOf(row, Language::kHebrew));
   return title;
 }

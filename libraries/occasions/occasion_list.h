@@ -49,7 +49,7 @@ class OccasionList {
   int Beginning(std::string_view typed, int start) const;
 
  private:
-  using TitleKey = std::tuple<Occasion, Moment, int32_t>;
+  using TitleKey = std::tuple<Occasion, Moment, int32_t, int32_t>;  // all of a row that TitleOf makes words of
 
   bool IsFound(const Row& row);
   const std::string& FoldedTitle(const Row& row);

@@ -135,7 +135,8 @@ std::shared_ptr<const publishing::Rows> CandleRows(const Taken& taken, bool forS
 
 }  // namespace
 
-// No lighting and no end is in the hours before dawn: an evening's are, where the sun hardly sets.
+// Where the sun hardly sets, an evening's lighting or end may be after midnight: what is in the hours before morning is
+// of the evening before.
 int32_t EveningOf(const Row& row) {
   constexpr int32_t kMorning = 6 * 60;
   const int32_t day = row.minute && *row.minute < kMorning ? row.day - 1 : row.day;

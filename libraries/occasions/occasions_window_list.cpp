@@ -4,6 +4,7 @@
 
 #include "libraries/calendar/date.h"
 #include "libraries/dialogs/dialog_parts.h"
+#include "libraries/dialogs/utc_seconds.h"
 #include "libraries/dialogs/utf8.h"
 #include "libraries/dialogs/windows_1252.h"
 #include "libraries/occasions/occasions_ids.h"
@@ -32,18 +33,6 @@ class WaitCursor {
   HCURSOR before_;
 };
 
-// Since 1970-01-01 00:00 UTC.
-double UtcSeconds() {
-  constexpr double kTicksPerSecond = 1e7;
-  constexpr double kSecondsTo1970 = 11644473600;  // from 1601, with which the system's count begins
-  FILETIME now;
-  GetSystemTimeAsFileTime(&now);
-  ULARGE_INTEGER ticks;
-  ticks.LowPart = now.dwLowDateTime;
-  ticks.HighPart = now.dwHighDateTime;
-  return static_cast<double>(ticks.QuadPart) / kTicksPerSecond - kSecondsTo1970;
-}
-
 std::wstring Counted(size_t count) {
   return std::to_wstring(count) + (count == 1 ? L" occasion" : L" occasions");
 }
@@ -58,7 +47,7 @@ std::wstring WideText(const std::string& text) {
 ClockMoment OccasionsWindow::Now() const {
   constexpr int32_t kSecondsPerMinute = 60;
   constexpr int32_t kSecondsPerDay = 24 * 60 * kSecondsPerMinute;
-  const double utc = UtcSeconds();
+  const double utc = dialogs::UtcSeconds();
   const int64_t shown = static_cast<int64_t>(utc) + sun::ClockOffsetSeconds(rows_.question().settings.clock, utc);
   return {static_cast<int32_t>(shown / kSecondsPerDay) + calendar::kAbsoluteDayOfUnixDay0,
           static_cast<int32_t>(shown % kSecondsPerDay) / kSecondsPerMinute};

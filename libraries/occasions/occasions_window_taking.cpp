@@ -1,9 +1,10 @@
 // What the user takes away of the window: copied, printed, saved.
 #include <algorithm>
-#include <cstring>
+#include <cwchar>
 #include <optional>
 
 #include "libraries/dialogs/chosen_file.h"
+#include "libraries/dialogs/clipboard.h"
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/utf8.h"
 #include "libraries/dialogs/windows_1252.h"
@@ -35,25 +36,6 @@ std::wstring OfferedName(const Taken& taken, const wchar_t* extension) {
   std::ranges::replace_if(
       name, [](wchar_t letter) { return letter < L' ' || std::wcschr(L"<>:\"/\\|?*", letter) != nullptr; }, L'-');
   return name + L"." + extension;
-}
-
-// Whether the clipboard has the text now.
-bool PutOnClipboard(HWND owner, const std::wstring& text) {
-  const size_t bytes = (text.size() + 1) * sizeof(wchar_t);
-  const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, bytes);
-  void* const memory = block ? GlobalLock(block) : nullptr;
-  if (memory) {
-    std::memcpy(memory, text.c_str(), bytes);
-    GlobalUnlock(block);
-  }
-  bool isTaken = false;
-  if (memory && OpenClipboard(owner)) {
-    EmptyClipboard();
-    isTaken = SetClipboardData(CF_UNICODETEXT, block) != nullptr;
-    CloseClipboard();
-  }
-  if (block && !isTaken) GlobalFree(block);
-  return isTaken;
 }
 
 }  // namespace
@@ -108,7 +90,7 @@ void OccasionsWindow::Copy() {
       add(i, CellOf(rows_.question(), rows_.At(row), static_cast<Column>(i), wording));
     }
   }
-  if (!PutOnClipboard(dialog_, dialogs::FromUtf8(text))) {
+  if (!dialogs::PutIntoClipboard(dialog_, dialogs::FromUtf8(text))) {
     return dialogs::ShowError(dialog_,
                               L"The clipboard cannot be written now. See to it that no other program holds "
                               L"it, then choose Copy again.");

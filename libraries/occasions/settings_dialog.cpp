@@ -11,6 +11,7 @@
 #include "libraries/dialogs/dialog_parts.h"
 #include "libraries/dialogs/known_file.h"
 #include "libraries/dialogs/utf8.h"
+#include "libraries/lections/settings_store.h"
 #include "libraries/occasions/occasion_texts.h"
 #include "libraries/occasions/occasions_ids.h"
 #include "libraries/occasions/occasions_question.h"
@@ -139,7 +140,7 @@ void SettingsDialog::AddText(int combo, const std::string& text) const {
 }
 
 void SettingsDialog::FillBoxes() const {
-  const bool isIsrael = LandOf({}, QuestionOf("", {}).land) == calendar::Land::kIsrael;
+  const bool isIsrael = lections::StoredSettings().land == calendar::Land::kIsrael;
   AddText(IDC_LAND, std::string("As for the readings (now: ") + (isIsrael ? "Israel)" : "diaspora)"));
   AddText(IDC_LAND, "As in the diaspora");
   AddText(IDC_LAND, "As in Israel");

@@ -169,8 +169,27 @@ TEST_F(OccasionsSettingsTest, AFileThatCannotBeReadIsNamedAndTheDialogDoesNotOpe
 TEST_F(OccasionsSettingsTest, TheLandOfTheReadingsIsSaid) {
   home_.Put("lections.ini", "[Readings]\r\nLand=Israel\r\n");
   SettingsRun run;
-  EXPECT_THAT(ControlText(run.Dialog(), IDC_LAND), HasSubstr(L"Israel"));
+  EXPECT_EQ(ControlText(run.Dialog(), IDC_LAND), L"As for the readings (now: Israel)");
   run.End(IDCANCEL);
+}
+
+TEST_F(OccasionsSettingsTest, TheLandOfTheReadingsIsSaidWhateverLandIsChosenForOccasions) {
+  struct Case {
+    const char* ofOccasions;
+    const char* ofReadings;
+    const wchar_t* said;
+  };
+  for (const Case& one : {Case{"Israel", "Diaspora", L"As for the readings (now: diaspora)"},
+                          Case{"Diaspora", "Israel", L"As for the readings (now: Israel)"}}) {
+    home_.Put("occasions.ini", "[Occasions]\r\nLand=" + std::string(one.ofOccasions) + "\r\n");
+    home_.Put("lections.ini", "[Readings]\r\nLand=" + std::string(one.ofReadings) + "\r\n");
+    WaitUntilSeen();
+    SettingsRun run;
+    EXPECT_EQ(ChosenIn(run.Dialog(), IDC_LAND), one.ofOccasions == std::string("Israel") ? 2 : 1);
+    SendDlgItemMessageW(run.Dialog(), IDC_LAND, CB_SETCURSEL, 0, 0);
+    EXPECT_EQ(ControlText(run.Dialog(), IDC_LAND), one.said);
+    run.End(IDCANCEL);
+  }
 }
 
 TEST_F(OccasionsSettingsTest, SpaceTurnsTheKindThatHasTheFocus) {

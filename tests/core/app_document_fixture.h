@@ -47,6 +47,7 @@ class DocumentFakes : public DocumentServices {
   }
 
   std::vector<DocumentOccasion> Occasions(int32_t absoluteDay, uint32_t language) const override {
+    ++questions;
     const auto found = occasions.find({absoluteDay, language});
     return found == occasions.end() ? std::vector<DocumentOccasion>() : found->second;
   }
@@ -55,6 +56,7 @@ class DocumentFakes : public DocumentServices {
   int64_t summerBegins = INT64_MAX;  // in minutes of the clock since day 0
   std::map<uint32_t, int32_t> dayOffsets;
   std::map<std::pair<int32_t, uint32_t>, std::vector<DocumentOccasion>> occasions;  // by day and language
+  mutable int32_t questions = 0;                                                    // about occasions
 };
 
 inline void FormatDocumentTime(int32_t hour, int32_t minute, char* text) {

@@ -275,19 +275,54 @@ TEST(DocumentTable, OccasionsAreToldInTheLanguageOfTheDocument) {
   EXPECT_EQ(RowsOf(table)[0].back(), "עשרה בטבת");
 }
 
-TEST(DocumentTable, AnOccasionWithoutItsMomentHasItsNote) {
-  DocumentWithOccasions document;
-  const std::string note = "----: does not occur on that day.";
-  EXPECT_THAT(DocumentTable(document.source, {.kind = DocumentKind::kDays}).notes, Contains(note));
-  EXPECT_THAT(DocumentTable(document.source, {.kind = DocumentKind::kZmanim}).notes, Not(Contains(note)));
-  document.services.occasions.begin()->second.pop_back();
-  EXPECT_THAT(DocumentTable(document.source, {.kind = DocumentKind::kDays}).notes, Not(Contains(note)));
+namespace {
+
+constexpr char kMissingNote[] = "----: does not occur on that day.";
+
+publishing::Table DaysOf(const DocumentFixture& document) {
+  return DocumentTable(document.source, {.kind = DocumentKind::kDays});
 }
 
-TEST(DocumentTable, SpreadsheetsHaveTheSameColumnOfOccasions) {
+}  // namespace
+
+TEST(DocumentTable, AnOccasionWithoutItsMomentHasItsNote) {
+  DocumentWithOccasions document;
+  EXPECT_THAT(DaysOf(document).notes, Contains(kMissingNote));
+  EXPECT_THAT(DocumentTable(document.source, {.kind = DocumentKind::kZmanim}).notes, Not(Contains(kMissingNote)));
+  document.services.occasions.begin()->second.pop_back();
+  EXPECT_THAT(DaysOf(document).notes, Not(Contains(kMissingNote)));
+}
+
+// The deepest dawn that can be chosen, at 26 degrees, occurs on every day up to 66.56 - 26 = 40.56 degrees.
+TEST(DocumentTable, NearTheEquatorEveryMomentOccursAndNobodyIsAsked) {
+  DocumentWithOccasions document;
+  for (const int32_t latitude : {0, 3146, -3749, 4000}) {
+    document.source.location.latitude = latitude;
+    EXPECT_THAT(DaysOf(document).notes, Not(Contains(kMissingNote))) << latitude;
+  }
+  EXPECT_EQ(document.services.questions, 0);
+  for (const int32_t latitude : {4001, 4043, -4153, 6938}) {
+    document.source.location.latitude = latitude;
+    EXPECT_THAT(DaysOf(document).notes, Contains(kMissingNote)) << latitude;
+  }
+}
+
+// Rows are read with progress, a table is made before it.
+TEST(DocumentTable, OccasionsOfALongRangeAreNotLookedThroughForTheNote) {
+  DocumentFixture document({1, 1, 2007}, {31, 12, 2011});
+  document.source.hasOccasions = true;
+  EXPECT_THAT(DaysOf(document).notes, Contains(kMissingNote));
+  EXPECT_EQ(document.services.questions, 0);
+  document.source.location.latitude = 3146;
+  EXPECT_THAT(DaysOf(document).notes, Not(Contains(kMissingNote)));
+  EXPECT_EQ(document.services.questions, 0);
+}
+
+TEST(DocumentTable, SpreadsheetsHaveNothingInPlaceOfAnOccasionsMissingTime) {
   const DocumentWithOccasions document;
   const publishing::Table table = DocumentTable(document.source, {.kind = DocumentKind::kDays, .forSpreadsheet = true});
-  EXPECT_EQ(RowsOf(table)[0].back(), "Fast of Tevet; Fast of Tevet: begins 05:11; Lights ----");
+  EXPECT_EQ(RowsOf(table)[0].back(), "Fast of Tevet; Fast of Tevet: begins 05:11; Lights");
+  EXPECT_THAT(table.notes, Not(Contains(kMissingNote)));
 }
 
 TEST(DocumentTable, OccasionsThatAreNotWantedAreLeftOut) {

@@ -11,7 +11,11 @@
 namespace occasions {
 namespace {
 
+using testing::AllOf;
+using testing::Contains;
 using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
 
 std::string Small(std::string_view text) {
   std::string small(text);
@@ -91,6 +95,22 @@ TEST_F(OccasionListTest, WhatMoreLettersFindIsWhatTheyFindAlone) {
     alone.Search(word);
     EXPECT_EQ(list_.Shown(), alone.Shown()) << word;
   }
+}
+
+// 14 Nisan 5785 is a Shabbat: chametz is burnt on Friday, and what is left after the meal is removed.
+TEST(OccasionListSearch, TheRemovalOfChametzOnAShabbatIsFoundByItsOwnTitle) {
+  const Taken year = TakenYear(kNewYorkPlace, "America/New_York", calendar::Land::kDiaspora, Span::kJewishYear, 5785);
+  OccasionList list(Small);
+  list.Take(year.question, year.rows);
+  const auto titles = [&list](const char* typed) {
+    list.Search(typed);
+    std::vector<std::string> found;
+    for (const Row& row : list.Shown()) found.push_back(TitleOf(row, Language::kEnglish));
+    return found;
+  };
+  constexpr char kRemoval[] = "Chametz: last time to remove what is left";
+  EXPECT_THAT(titles("burn"), AllOf(Contains(HasSubstr("burn")), Not(Contains(kRemoval))));
+  EXPECT_THAT(titles("remove"), Contains(kRemoval));
 }
 
 TEST_F(OccasionListTest, TheNextIsTheFirstThatIsShownAndToCome) {

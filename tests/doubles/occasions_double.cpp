@@ -48,8 +48,10 @@ int32_t Enumerate(const char* place, int32_t latitude, int32_t longitude, int32_
       record.day = date.uDay;
       record.month = date.uMonth;
       record.year = date.uYear;
+      record.weekday = static_cast<uint32_t>(day % 7);
       record.hour = occasion.hour;
       record.minute = occasion.minute;
+      std::snprintf(record.moment, sizeof record.moment, "%s", occasion.moment);
       std::snprintf(record.english, sizeof record.english, "%s", occasion.english.c_str());
       std::snprintf(record.hebrew, sizeof record.hebrew, "%s", occasion.hebrew.c_str());
       if (!receiver(&record, context)) return 0;

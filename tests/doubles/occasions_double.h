@@ -18,6 +18,7 @@ struct DoubledOccasion {
   std::string hebrew;
   int32_t hour = OCCASIONS_WHOLE_DAY;
   int32_t minute = OCCASIONS_WHOLE_DAY;
+  const char* moment = "day";
 };
 
 struct OccasionsScript {
