@@ -128,6 +128,7 @@ void OccasionsWindow::OnHebrew() {
   choice_.hebrew = IsDlgButtonChecked(dialog_, IDC_HEBREW) == BST_CHECKED;
   InvalidateRect(list_.Window(), nullptr, TRUE);
   ShowNext();
+  ShowRemark();
 }
 
 void OccasionsWindow::ChangeSettings() {

@@ -237,8 +237,11 @@ TEST_F(OccasionsWindowTest, HebrewNamesAreShownAndKept) {
     const std::vector<OccasionsRecord> records = Enumerated(kApril2001);
     for (size_t row = 0; row < records.size(); ++row) {
       EXPECT_EQ(run.Cell(static_cast<int>(row), OccasionsRun::kOccasion), WideOf(records[row].hebrew));
+      EXPECT_EQ(run.Cell(static_cast<int>(row), OccasionsRun::kRemark), WideOf(records[row].hebrewRemark));
     }
     EXPECT_THAT(run.Cell(0, OccasionsRun::kJewishDate), HasSubstr(L"\u05E0\u05D9\u05E1\u05DF"));  // Nisan
+    EXPECT_EQ(run.Text(IDC_REMARK), WideOf(records[0].hebrewRemark)) << "of the row that is selected";
+    EXPECT_STRNE(records[0].hebrewRemark, "");
     run.ChooseSpan(OccasionsRun::kJewishYear);
     run.End();
   }
