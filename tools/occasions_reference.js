@@ -17,6 +17,7 @@ const path = require("path");
 const { DAY, MINUTE, plusDays, weekdayOf } = require("./occasions_reference_facts.js");
 const { Hebcal } = require("./occasions_reference_hebcal.js");
 const { KosherJava, JulianCalendar } = require("./occasions_reference_kosher.js");
+const { omerOf, instantsOf, wrapped } = require("./occasions_reference_entries.js");
 
 const FIRST_YEAR = 5757;
 const LAST_YEAR = 5816;
@@ -253,8 +254,6 @@ const WHATS = ["candles", "flame", "end", ...FASTS.map((fast) => `fast-begins ${
 // A bit of a time's lands: kiddush levana that has no minute to compare with.
 const LOOSE = 4;
 
-const DAYS_OF_OMER = 49;
-
 function whatOf(time, key) {
   const moment = key.split(" ")[1];
   if (moment === "candles") return time.plus > 0 ? "flame" : "candles";
@@ -312,43 +311,6 @@ function timesByDay(programs, place, range, year) {
   return texts.sort((a, b) => parseInt(a.slice(1), 10) - parseInt(b.slice(1), 10));
 }
 
-// "group, nightfall of the 49 evenings of the omer": its second of the day on the first, then how much later it is than
-// the evening before.
-function omerOf(group, programs, place, year) {
-  const seconds = [];
-  for (const { key, exact } of programs.hebcal.times(year, false, place, CUSTOMS[0])) {
-    const [, moment, number] = key.split(" ");
-    if (moment === "count") seconds[number - 1] = Math.floor((place.clockAt(exact) % DAY) / 1000);
-  }
-  if (seconds.length !== DAYS_OF_OMER || seconds.includes(undefined)) throw new Error(`${year}: no 49 evenings`);
-  const later = seconds.slice(1).map((second, index) => String(second - seconds[index]));
-  return [`{${group}, {${seconds[0]}`, ...later.slice(0, -1), `${later.at(-1)}}}`];
-}
-
-// Moladot and tekufot of a year and of a day before and after it: "year, occasion, number, second of UTC".
-function instantsOf(programs, place, year, range) {
-  const [begin, end] = [Date.parse(plusDays(range[0], -1)), Date.parse(plusDays(range[1], 2))];
-  const times = [year - 1, year, year + 1].flatMap((one) => [...programs.julian.times(one),
-    ...programs.hebcal.times(one, false, place, CUSTOMS[0])]);
-  const texts = times.filter(({ key, exact }) => ["molad", "tekufa"].includes(key) && exact >= begin && exact < end)
-    .map(({ key, exact, number }) => `{${year}, "${key}", ${number}, ${Math.floor(exact / 1000)}}`);
-  return [...new Set(texts)];
-}
-
-// Lines of at most 120 characters.
-function wrapped(entries) {
-  const lines = [];
-  let line = "   ";
-  for (const entry of entries) {
-    if (line.length + entry.length + 2 > 120) {
-      lines.push(line);
-      line = "   ";
-    }
-    line += ` ${entry},`;
-  }
-  return [...lines, line];
-}
-
 function write(programs, places, range) {
   const days = [daysOf(programs, false, range), daysOf(programs, true, range)];
   const types = typesOfYears(programs.hebcal);
@@ -369,12 +331,12 @@ function write(programs, places, range) {
   const instants = [];
   types.forEach((_, type) => {  // of the omer every other place, each in seven years
     const { year, range: ofYear } = years.find((one) => one.type === type && one.start > SUN_FROM);
-    instants.push(...instantsOf(programs, places[0], year, ofYear));
+    instants.push(...instantsOf(programs, places[0], year, ofYear, CUSTOMS[0]));
     places.forEach((place, index) => {
       const added = timesByDay(programs, place, ofYear, year);
       groups.push(`{${year}, ${index}, ${times.length}, ${added.length}}`);
       times.push(...added);
-      if ((type + index) % 2 === 0) omers.push(...omerOf(groups.length - 1, programs, place, year));
+      if ((type + index) % 2 === 0) omers.push(...omerOf(groups.length - 1, programs, place, year, CUSTOMS[0]));
     });
   });
   const lineOfPlace = ([name, ...rest]) => `    {"${name}", ${rest.map((part) => JSON.stringify(part)).join(", ")}},`;
