@@ -32,12 +32,12 @@ typedef struct OccasionsRecord {
   uint32_t jewishYear;
   int32_t hour; /* on the clock in force, 0 to 23; OCCASIONS_WHOLE_DAY, OCCASIONS_NONE */
   int32_t minute;
-  int32_t number;                     /* of a light, a day of the omer, a month ...; 0 for none */
-  char kind[OCCASIONS_ID_SIZE];       /* never changed: "yom-tov" */
-  char occasion[OCCASIONS_ID_SIZE];   /* "pesach" */
-  char moment[OCCASIONS_ID_SIZE];     /* "candles"; "day" for a whole day */
-  char english[OCCASIONS_TITLE_SIZE]; /* "Pesach, first day: candle lighting" */
-  char hebrew[OCCASIONS_TITLE_SIZE];  /* the same in Hebrew */
+  int32_t number;                            /* of a light, a day of the omer, a month ...; 0 for none */
+  char kind[OCCASIONS_ID_SIZE];              /* never changed: "yom-tov" */
+  char occasion[OCCASIONS_ID_SIZE];          /* "pesach" */
+  char moment[OCCASIONS_ID_SIZE];            /* "candles"; "day" for a whole day */
+  char english[OCCASIONS_TITLE_SIZE];        /* "Pesach, first day: candle lighting" */
+  char hebrew[OCCASIONS_TITLE_SIZE];         /* the same in Hebrew */
   char englishRemark[OCCASIONS_REMARK_SIZE]; /* by which rule the moment came */
   char hebrewRemark[OCCASIONS_REMARK_SIZE];
 } OccasionsRecord;
