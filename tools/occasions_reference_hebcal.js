@@ -34,21 +34,21 @@ class Hebcal {
     return new Hebcal(await import(pathToFileURL(core)));
   }
 
-  constructor(library) {
-    this.library = library;
+  constructor(core) {
+    this.core = core;
     this.name = "Hebcal";
     this.offers = new Set([...Object.values(HEBCAL_DAYS).map(([id]) => id), "rosh-hashana", "chol-hamoed-sukkot",
       "chol-hamoed-pesach", "chanukah", "omer", "rosh-chodesh", "shabbat-mevarchim", "behab"]);
   }
 
   typeOf(year) {
-    const { HDate } = this.library;
+    const { HDate } = this.core;
     return `${new HDate(1, 7, year).getDay()} ${HDate.daysInYear(year)}`;
   }
 
   // The civil dates of the year, first and last.
   rangeOf(year) {
-    const { HDate } = this.library;
+    const { HDate } = this.core;
     return [isoOf(new HDate(1, 7, year).greg()), plusDays(isoOf(new HDate(1, 7, year + 1).greg()), -1)];
   }
 
@@ -76,7 +76,7 @@ class Hebcal {
   }
 
   facts(year, isIsrael) {
-    const events = this.library.HebrewCalendar.calendar({ year, isHebrewYear: true, il: isIsrael, omer: true,
+    const events = this.core.HebrewCalendar.calendar({ year, isHebrewYear: true, il: isIsrael, omer: true,
       shabbatMevarchim: true, behab: true });
     const count = { behab: 0 };
     const facts = new Set();
@@ -88,11 +88,11 @@ class Hebcal {
   }
 
   locationOf(place, isIsrael) {
-    return new this.library.Location(place.latitude, place.longitude, isIsrael, place.zone, place.name);
+    return new this.core.Location(place.latitude, place.longitude, isIsrael, place.zone, place.name);
   }
 
   times(year, isIsrael, place, customs) {
-    const { HebrewCalendar, Zmanim } = this.library;
+    const { HebrewCalendar, Zmanim } = this.core;
     const location = this.locationOf(place, isIsrael);
     const events = HebrewCalendar.calendar({ year, isHebrewYear: true, il: isIsrael, location, candlelighting: true,
       omer: true, candleLightingMins: place.candleMinutes, fastEndDeg: 7.083,
@@ -150,7 +150,7 @@ class Hebcal {
 
   // After the molad, at night.
   moonTimes(year, place, location, customs) {
-    const { Molad, HDate, Zmanim } = this.library;
+    const { Molad, HDate, Zmanim } = this.core;
     const times = [];
     const months = Array.from({ length: HDate.monthsInYear(year) }, (_, index) => [year, index + 1]);
     for (const [moladYear, month] of [...months, [year + 1, 7]]) {

@@ -8,7 +8,7 @@ const { ADAR_OF_COMMON_YEAR, DAY, MINUTE, isoOf, dateOf, plusDays, weekdayOf, si
 
 class KosherJava {
   constructor(folder) {
-    this.library = require(path.resolve(folder, "node_modules", "kosher-zmanim"));
+    this.kosher = require(path.resolve(folder, "node_modules", "kosher-zmanim"));
     this.name = "KosherJava";
     this.offers = new Set(["rosh-hashana", "yom-kippur", "sukkot", "chol-hamoed-sukkot", "hoshana-rabba",
       "shemini-atzeret", "simchat-torah", "pesach", "chol-hamoed-pesach", "shavuot", "fast-of-gedaliah", "10-tevet",
@@ -41,7 +41,7 @@ class KosherJava {
   }
 
   factsOf(calendar) {
-    const { Parsha } = this.library;
+    const { Parsha } = this.kosher;
     const day = calendar.getJewishDayOfMonth();
     const facts = [];
     const holiday = KosherJava.holidayOf(calendar, day);
@@ -61,7 +61,7 @@ class KosherJava {
 
   // The month that is so many days later, unless the day is its first.
   monthAfter(calendar, days) {
-    const { JewishCalendar } = this.library;
+    const { JewishCalendar } = this.kosher;
     const iso = plusDays(isoOf(calendar.getDate().toJSDate()), calendar.getJewishDayOfMonth() === 1 ? 0 : days);
     const later = new JewishCalendar(dateOf(iso));
     const isCommonAdar = later.getJewishMonth() === 12 && !later.isJewishLeapYear();
@@ -69,7 +69,7 @@ class KosherJava {
   }
 
   facts(range, isIsrael) {
-    const { JewishCalendar } = this.library;
+    const { JewishCalendar } = this.kosher;
     const facts = new Set();
     let behab = 0;
     for (let iso = range[0]; iso <= range[1]; iso = plusDays(iso, 1)) {
@@ -85,7 +85,7 @@ class KosherJava {
   }
 
   zmanimAt(place, iso) {
-    const { ComplexZmanimCalendar, GeoLocation } = this.library;
+    const { ComplexZmanimCalendar, GeoLocation } = this.kosher;
     place.kosherCalendar ??= new ComplexZmanimCalendar(
       new GeoLocation(place.name, place.latitude, place.longitude, 0, place.zone));
     place.kosherCalendar.setDate(iso);
@@ -141,7 +141,7 @@ class KosherJava {
   }
 
   moonTimes(range, place, customs) {
-    const { JewishCalendar } = this.library;
+    const { JewishCalendar } = this.kosher;
     const times = [];
     for (let iso = range[0]; iso <= plusDays(range[1], 1); iso = plusDays(iso, 1)) {
       const calendar = new JewishCalendar(dateOf(iso));
@@ -182,7 +182,7 @@ class JulianCalendar {
 
   // The evening before the 60th day, the tekufa's own day, which begins at 18:00, counted first; 7 Cheshvan in Israel.
   facts(year, isIsrael, hebcal) {
-    const { HDate } = hebcal.library;
+    const { HDate } = hebcal.core;
     if (isIsrael) return new Set([`${plusDays(isoOf(new HDate(7, 8, year).greg()), -1)} tal-umatar 0`]);
     const dayOfTekufa = new Date(JulianCalendar.tekufa(year - 3761, 0) + 6 * 60 * MINUTE).toISOString().slice(0, 10);
     return new Set([`${plusDays(dayOfTekufa, 58)} tal-umatar 0`]);

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "libraries/calendar/jewish.h"
+#include "libraries/dialogs/typed_words.h"
 
 namespace kinship {
 namespace {
@@ -16,16 +17,6 @@ using persons::Person;
 
 constexpr int64_t kLast = std::numeric_limits<int64_t>::max();
 constexpr char kBetweenColumns = '\n';  // no word that is typed holds it
-
-std::vector<std::string> WordsIn(const std::string& typed) {
-  std::vector<std::string> words;
-  for (size_t begin = 0; (begin = typed.find_first_not_of(' ', begin)) != typed.npos;) {
-    const size_t end = std::min(typed.find(' ', begin), typed.size());
-    words.push_back(typed.substr(begin, end - begin));
-    begin = end;
-  }
-  return words;
-}
 
 bool IsText(Column column) {
   return column == Column::kName || column == Column::kOccasion || column == Column::kNotes;
@@ -122,7 +113,7 @@ void PersonRows::Sort(Column column, bool descending) {
 // What more letters find is among what fewer of them found.
 void PersonRows::Search(std::string_view typed) {
   std::string small = letters_.small(typed);
-  const std::vector<std::string> words = WordsIn(small);
+  const std::vector<std::string> words = dialogs::WordsIn(small);
   const bool isNarrower = small.starts_with(typed_);
   typed_ = std::move(small);
   if (!isNarrower) found_ = sorted_;

@@ -4,20 +4,11 @@
 #include <numeric>
 #include <utility>
 
+#include "libraries/dialogs/typed_words.h"
 #include "publishing/core/unicode.h"
 
 namespace occasions {
 namespace {
-
-std::vector<std::string> WordsIn(const std::string& typed) {
-  std::vector<std::string> words;
-  for (size_t begin = 0; (begin = typed.find_first_not_of(' ', begin)) != typed.npos;) {
-    const size_t end = std::min(typed.find(' ', begin), typed.size());
-    words.push_back(typed.substr(begin, end - begin));
-    begin = end;
-  }
-  return words;
-}
 
 void EraseThoseIn(const std::string& text, std::vector<std::string>& words) {
   std::erase_if(words, [&text](const std::string& word) { return text.find(word) != text.npos; });
@@ -46,7 +37,7 @@ void OccasionList::Search(std::string_view typed) {
   if (folded == typed_) return;
   const bool isNarrower = folded.starts_with(typed_);
   typed_ = std::move(folded);
-  words_ = WordsIn(typed_);
+  words_ = dialogs::WordsIn(typed_);
   isTypedAscii_ = publishing::IsPlainAscii(typed_);
   if (isNarrower) return Narrow();
   ShowKind(kind_);

@@ -7,6 +7,7 @@
 #include <set>
 #include <utility>
 
+#include "libraries/dialogs/typed_words.h"
 #include "libraries/dialogs/windows_1252.h"
 
 namespace ownhours {
@@ -25,18 +26,6 @@ std::wstring SmallLetters(const std::wstring& text) {
   return small;
 }
 
-std::vector<std::wstring> WordsIn(const std::wstring& typed) {
-  std::vector<std::wstring> words(1);
-  for (const wchar_t letter : SmallLetters(typed)) {
-    if (letter == L' ') {
-      words.emplace_back();
-    } else {
-      words.back() += letter;
-    }
-  }
-  return words;
-}
-
 // Negative, 0 or positive as a person would look texts up, whatever their letters' case.
 int Order(const std::wstring& left, const std::wstring& right) {
   if (left == right) return 0;
@@ -46,7 +35,7 @@ int Order(const std::wstring& left, const std::wstring& right) {
 }  // namespace
 
 void TimeRows::Fill(const Entries& entries, const std::wstring& typed, int column, bool descending) {
-  const std::vector<std::wstring> words = WordsIn(typed);
+  const std::vector<std::wstring> words = dialogs::WordsIn(SmallLetters(typed));
   rows_.clear();
   for (const auto& [occasion, time] : entries) {
     Row row{{occasion, time},
